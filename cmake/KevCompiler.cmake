@@ -1,0 +1,24 @@
+# One place for what every target of the project is compiled with.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+find_program(KEV_CCACHE ccache)
+if(KEV_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${KEV_CCACHE})
+endif()
+
+# Warnings are errors in our own code only: third-party headers come in as system headers.
+add_library(kev_warnings INTERFACE)
+target_compile_options(kev_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+
+if(KEV_SANITIZE)
+  add_compile_options(-fsanitize=${KEV_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${KEV_SANITIZE})
+endif()
+
+# Tests, tools and the window include headers as "document/columns.h": one root, the folder src.
+set(KEV_SOURCE_ROOT ${CMAKE_SOURCE_DIR}/src)
