@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "base/files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+
+#include "base/code_page.h"
+#include "base/text.h"
+
+namespace kev {
+namespace {
+
+namespace fs = std::filesystem;
+
+FileFailure Failure(std::string path, int error) {
+  return {std::move(path), std::error_code(error, std::generic_category()).message()};
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() { Close(); }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+
+  int Number() const { return number_; }
+  // Closing can be the moment when a full disk shows.
+  int Close() {
+    const int number = std::exchange(number_, -1);
+    return number < 0 ? 0 : ::close(number);
+  }
+
+ private:
+  int number_;
+};
+
+int WriteAll(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return errno;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return 0;
+}
+
+// The permissions of the file that is replaced, or what the process gives to a new file.
+mode_t ModeFor(const std::string& path) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) == 0) return status.st_mode & 07777;
+  const mode_t mask = ::umask(0);
+  ::umask(mask);
+  return 0666 & ~mask;
+}
+
+int WriteBeside(const std::string& temporary, std::string_view bytes, mode_t mode) {
+  Descriptor file(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+  if (file.Number() < 0) return errno;
+  if (const int error = WriteAll(file.Number(), bytes)) return error;
+  if (::fchmod(file.Number(), mode) != 0 || ::fsync(file.Number()) != 0) return errno;
+  return file.Close() == 0 ? 0 : errno;
+}
+
+std::optional<fs::path> FindIgnoringCase(const fs::path& folder, const std::string& name) {
+  std::error_code ignored;
+  if (fs::exists(folder / name, ignored)) return folder / name;
+  const CodePage& page = CodePage::Default();
+  std::optional<fs::path> found;
+  for (fs::directory_iterator at(folder, ignored), end; !ignored && at != end; at.increment(ignored)) {
+    const fs::path& candidate = at->path();
+    // The first in the order of names, so that the choice does not depend on the disk.
+    if (page.EqualsIgnoringCase(candidate.filename().string(), name) && (!found || candidate < *found)) {
+      found = candidate;
+    }
+  }
+  return found;
+}
+
+}  // namespace
+
+Result<std::string> ReadWholeFile(const std::string& path) {
+  Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (file.Number() < 0) return Failure(path, errno);
+  struct stat status {};
+  if (::fstat(file.Number(), &status) != 0) return Failure(path, errno);
+  if (S_ISDIR(status.st_mode)) return Failure(path, EISDIR);
+  if (!S_ISREG(status.st_mode)) return FileFailure{path, "not a regular file"};
+  if (static_cast<std::size_t>(status.st_size) > kLargestFile) return Failure(path, EFBIG);
+  std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+  std::size_t have = 0;
+  while (have < bytes.size()) {
+    const ssize_t got = ::read(file.Number(), bytes.data() + have, bytes.size() - have);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return Failure(path, errno);
+    if (got == 0) break;
+    have += static_cast<std::size_t>(got);
+  }
+  bytes.resize(have);
+  return bytes;
+}
+
+std::optional<FileFailure> WriteWholeFile(const std::string& path, std::string_view bytes) {
+  // A link stays a link: what it points to is replaced.
+  std::error_code ignored;
+  const fs::path real = fs::is_symlink(path, ignored) ? fs::weakly_canonical(path, ignored) : fs::path(path);
+  const std::string target = real.empty() ? path : real.string();
+  if (FolderExists(target)) return Failure(path, EISDIR);
+  if (FileExists(target) && ::access(target.c_str(), W_OK) != 0) return Failure(path, errno);
+  const std::string temporary = target + ".part" + std::to_string(::getpid());
+  int error = WriteBeside(temporary, bytes, ModeFor(target));
+  if (error == 0 && ::rename(temporary.c_str(), target.c_str()) != 0) error = errno;
+  if (error == 0) return std::nullopt;
+  ::unlink(temporary.c_str());
+  return Failure(path, error);
+}
+
+std::optional<FileFailure> WritePlainFile(const std::string& path, std::string_view bytes) {
+  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+  if (file.Number() < 0) return Failure(path, errno);
+  if (const int error = WriteAll(file.Number(), bytes)) return Failure(path, error);
+  if (file.Close() != 0) return Failure(path, errno);
+  return std::nullopt;
+}
+
+bool FileExists(const std::string& path) {
+  std::error_code ignored;
+  return fs::is_regular_file(path, ignored);
+}
+
+bool FolderExists(const std::string& path) {
+  std::error_code ignored;
+  return fs::is_directory(path, ignored);
+}
+
+void DeleteFileIfThere(const std::string& path) {
+  std::error_code ignored;
+  fs::remove(path, ignored);
+}
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+  while (name.starts_with('\\') || name.starts_with('/'))
+    name.remove_prefix(1);
+  std::string path(folder);
+  if (!path.ends_with('/')) path += '/';
+  for (const char c : name)
+    path += c == '\\' ? '/' : c;
+  return path;
+}
+
+std::string FolderOf(std::string_view path) {
+  return fs::path(path).parent_path().string();
+}
+
+std::string FileNameOf(std::string_view path) {
+  return fs::path(path).filename().string();
+}
+
+std::string AbsolutePath(std::string_view path) {
+  std::error_code failed;
+  const fs::path absolute = fs::absolute(fs::path(path), failed);
+  return failed ? std::string(path) : absolute.lexically_normal().string();
+}
+
+std::optional<std::string> FindFile(std::string_view path, std::string_view folder) {
+  std::string mapped(path);
+  if (Trim(mapped).empty() || mapped.find('\0') != std::string::npos) return std::nullopt;
+  const fs::path asWritten = fs::path(folder) / mapped;
+  if (FileExists(asWritten.string())) return asWritten.string();
+  ReplaceAll(mapped, '\\', '/');
+  const fs::path whole = (fs::path(folder) / mapped).lexically_normal();
+  fs::path found = whole.is_absolute() ? whole.root_path() : fs::path(".");
+  for (const fs::path& part : whole.relative_path()) {
+    const std::optional<fs::path> next = FindIgnoringCase(found, part.string());
+    if (!next) return std::nullopt;
+    found = *next;
+  }
+  if (!FileExists(found.string())) return std::nullopt;
+  return found.string();
+}
+
+}  // namespace kev

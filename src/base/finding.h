@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// What a reader or a check noticed and did not stop for. Findings are values; whoever asked shows them.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace kev {
+
+enum class FindingKind : std::uint8_t {
+  UnknownKey,       // an item of a block that means nothing
+  LostText,         // text that no block follows, or that a block's end discards
+  DisarmedBlock,    // a block without a position that its own delimiters turn into text
+  LateKey,          // a head key past line 100
+  RepeatedKey,      // a head key that stands a second time
+  DanglingColumn,   // a position that names no column
+  ValueOutOfRange,  // a number that does not fit its field
+  WillNotComeBack   // a form that saving cannot keep
+};
+
+// "unknown key", "text is lost" and so on, for lists and the command line.
+std::string_view FindingText(FindingKind kind);
+
+struct Finding {
+  std::size_t Line = 0;    // of the file, counted from 1; 0 where it belongs to no line
+  std::size_t Column = 0;  // counted from 1; 0 where it belongs to the whole line
+  FindingKind Kind = FindingKind::UnknownKey;
+  std::string Text;  // the text concerned, in the code page of the file
+  int Row = 0;       // the object concerned; 0 where there is none
+};
+
+}  // namespace kev

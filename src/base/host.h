@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// What the designer's logic asks of the window system. The window implements it; tests script it. A method
+// stands here because some logic needs it.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kev {
+
+enum class BoxIcon : std::uint8_t { Critical, Warning, Information, Question };
+enum class BoxButtons : std::uint8_t { Ok, YesNo, YesNoCancel };
+enum class BoxAnswer : std::uint8_t { Ok, Yes, No, Cancel };
+
+// Texts for the user are in the code page of the language file; paths are the system's own bytes, so a
+// message carries them apart from its text.
+struct MessageBox {
+  std::string Title;
+  std::string Text;
+  std::string Detail;  // native bytes (a path, the system's reason), shown behind the text; may be empty
+  BoxIcon Icon = BoxIcon::Critical;
+  BoxButtons Buttons = BoxButtons::Ok;
+  bool NoIsDefault = false;
+};
+
+struct FileChoice {
+  std::string Title;
+  std::string Folder;                                        // native bytes
+  std::string SuggestedName;                                 // native bytes
+  std::vector<std::pair<std::string, std::string>> Filters;  // caption and patterns ("*.kev *.KEV")
+};
+
+class Host {
+ public:
+  virtual ~Host() = default;
+
+  virtual BoxAnswer ShowMessage(const MessageBox& box) = 0;
+  // The text in the status line; empty clears it. `detail` is native bytes and stands behind the text.
+  virtual void ShowStatus(std::string_view text, std::string_view detail = {}) = 0;
+  // The first panel of the status bar: what is selected.
+  virtual void ShowSelectionStatus(std::string_view text) = 0;
+
+  // The progress window: shown with Begin, hidden with End, never more than one at a time.
+  virtual void BeginProgress(std::string_view text, int maximum) = 0;
+  virtual void StepProgress(int value, std::string_view text) = 0;
+  virtual void EndProgress() = 0;
+
+  // Native paths; nothing when the user gives up.
+  virtual std::optional<std::string> ChooseFileToOpen(const FileChoice& choice) = 0;
+  virtual std::optional<std::string> ChooseFileToSave(const FileChoice& choice) = 0;
+
+  // The title bar: the document's name (native bytes) and whether it has unsaved changes.
+  virtual void ShowCaption(std::string_view documentTitle, bool modified) = 0;
+
+  // Starts fetching an address into a file behind the call; `done` tells whether the file is there.
+  virtual void FetchPicture(std::string_view address, std::string_view file,
+                            std::function<void(bool)> done) = 0;
+};
+
+}  // namespace kev

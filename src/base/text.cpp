@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "base/text.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace kev {
+
+std::string_view TrimLeft(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kBlank);
+  return first == std::string_view::npos ? std::string_view{} : text.substr(first);
+}
+
+std::string_view Trim(std::string_view text) {
+  text = TrimLeft(text);
+  const std::size_t last = text.find_last_not_of(kBlank);
+  return last == std::string_view::npos ? std::string_view{} : text.substr(0, last + 1);
+}
+
+std::string_view NthToken(std::string_view text, std::size_t n, char separator) {
+  for (; n > 1; --n) {
+    const std::size_t end = text.find(separator);
+    if (end == std::string_view::npos) return {};
+    text.remove_prefix(end + 1);
+  }
+  return n == 0 ? std::string_view{} : text.substr(0, text.find(separator));
+}
+
+Tokens::Tokens(std::string_view text, char separator) {
+  for (;;) {
+    if (parts_.size() == kMost) throw std::out_of_range("a text has more than 200 parts");
+    const std::size_t end = text.find(separator);
+    parts_.push_back(text.substr(0, end));
+    if (end == std::string_view::npos) return;
+    text.remove_prefix(end + 1);
+  }
+}
+
+std::string_view Tokens::operator[](std::size_t n) const {
+  return n >= 1 && n <= parts_.size() ? parts_[n - 1] : std::string_view{};
+}
+
+std::vector<std::string_view> SplitLines(std::string_view text) {
+  std::vector<std::string_view> lines;
+  while (!text.empty()) {
+    const std::size_t end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+void ReplaceAll(std::string& text, char from, char to) {
+  std::replace(text.begin(), text.end(), from, to);
+}
+
+}  // namespace kev

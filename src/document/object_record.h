@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+// The one record type of everything that a template shows. A record is a plain value; rows refer to each
+// other by index and by section name. All lengths are twips (1440 to the inch) and not scaled by the zoom.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kev {
+
+// In the order in which creation tests them. None marks a free row.
+enum class ObjectKind : std::uint8_t {
+  None,
+  Section,
+  Subsection,
+  EndOfSubsection,
+  Command,
+  Box,
+  Chart,
+  Line,
+  Circle,
+  AnyLine,
+  Picture,
+  Barcode,
+  Qr,
+  Label,
+  TextBox
+};
+
+// The literal of a kind ("ENDOFSUBSECTION"); empty for None.
+std::string_view KindText(ObjectKind kind);
+// The kind of a literal; None for a text that is none.
+ObjectKind KindFromText(std::string_view text);
+
+// SECTION, SUBSECTION and ENDOFSUBSECTION: the bands of the page, not objects on it.
+constexpr bool IsBand(ObjectKind kind) {
+  return kind == ObjectKind::Section || kind == ObjectKind::Subsection || kind == ObjectKind::EndOfSubsection;
+}
+
+// A flag is 16 bits wide, -1 for true and 0 for false.
+using Flag = std::int16_t;
+inline constexpr Flag kTrue = -1;
+inline constexpr Flag kFalse = 0;
+constexpr Flag ToFlag(bool value) {
+  return value ? kTrue : kFalse;
+}
+
+// Texts of a fixed length are kept without the blanks that would pad them, and never grow beyond their
+// length.
+inline constexpr std::size_t kSortKeyLength = 18;
+inline constexpr std::size_t kStartYLength = 15;
+
+// A subsection with this start follows the running position.
+inline constexpr std::string_view kCurrentYValue = "Current Y Value";
+
+struct ObjectRecord {
+  std::optional<double> TextBoxExtraValue;
+  std::optional<std::string> TextBoxFrameValue;
+  std::int32_t ShapeTag = 0;             // LABEL: width of the printed text, for the right handle
+  std::int16_t ModifiableByEndUser = 0;  // 1 and 0, unlike the flags
+  std::int32_t SectionCursorY = 0;       // bands: where the subsection's content ended
+  std::optional<std::string> CommandPayload;
+  std::string ExecuteArg2;
+  std::string ExecuteArg3;
+  Flag LineFlag = kFalse;   // dashed
+  Flag KeepOwner = kFalse;  // keeps its owner when objects are assigned again
+  Flag Selected = kFalse;
+  std::string SortKey;
+  ObjectKind Kind = ObjectKind::None;
+  std::string Content;
+  std::string ExecuteCommand;
+  // Green and blue of -1 mean that red is an index into the sixteen basic colours.
+  std::int16_t ColorR = 0, ColorG = 0, ColorB = 0;
+  std::int16_t BackColorR = 0, BackColorG = 0, BackColorB = 0;
+  std::string XValue;   // a position expression
+  std::string X2Value;  // LINE: its other end
+  std::int32_t Y = 0;   // from the top of the owning subsection's body
+  std::string Align;    // "L", "R", "C" or empty, which means "L"
+  std::int32_t Width = 0;
+  std::int32_t Height = 0;
+  Flag Bold = kFalse, Italic = kFalse, Strikethrough = kFalse, Underline = kFalse;
+  std::int32_t FontSize = 0;  // points
+  std::string FontName;
+  std::string CharSet;
+  std::string PicturePath;
+  std::string PictureFile;
+  std::string Link;
+  std::int16_t AlignToGrid = 0;  // 1 and 0, unlike the flags
+  std::string SectionTitle;
+  std::string SectionOwner;
+  std::string OwnerName;
+  std::string SectionName;
+  std::int32_t AbsoluteY = 0;  // from the top of the first bar on the surface
+  Flag PrintFlag = kFalse;
+  std::string Format;
+  std::string CaseMode;   // "N", "U", "L" or "F"
+  std::string ValueType;  // "General", "Number" or "Text"
+  std::int16_t LineWidth = 0;
+  std::int16_t BarWidth = 0;
+  std::string BarcodeKind;
+  std::string BarcodeSample;
+  Flag VerticalBar = kFalse;
+  std::string StartY;
+  std::int32_t EndsAt = 0;  // SUBSECTION: height of its body
+  Flag HeightGiven = kFalse;
+  std::int16_t EndRow = 0;
+  std::int16_t OnlyIfFits = 0;
+  Flag Filled = kFalse;
+  Flag MayMoveVertically = kFalse, MayMoveHorizontally = kFalse, MayResize = kFalse;
+  std::string Handles;  // "1" or "0" for each of the eight grips
+  Flag PictureFixedHeight = kFalse;
+  Flag PictureFixedWidth = kFalse;
+  std::vector<std::string> ChartValues;  // CHART: 93 texts in the order of the chart keys; else none
+  std::optional<std::string> Stretch;
+
+  bool operator==(const ObjectRecord&) const = default;
+};
+
+}  // namespace kev

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// The fixed table of all objects: rows 1 to 2001. A row is free exactly when its kind is None.
+#pragma once
+
+#include <vector>
+
+#include "document/object_record.h"
+
+namespace kev {
+
+class ObjectTable {
+ public:
+  static constexpr int kLastRow = 2001;
+  static constexpr int kFirstCount = 50;
+
+  // An index outside 0 to 2001 throws std::out_of_range; this is how the limit of the table shows.
+  ObjectRecord& operator[](int row) { return rows_.at(static_cast<std::size_t>(row)); }
+  const ObjectRecord& operator[](int row) const { return rows_.at(static_cast<std::size_t>(row)); }
+
+  // The highest row that loops look at; not a count of objects. It grows by ten and may step beyond the
+  // table.
+  int ObjectCount = kFirstCount;
+  int CurrentObject = 0;
+  int FocusObject = 0;
+  int SelectionCount = 0;
+
+  // Where a loop over the rows ends: ObjectCount, but never behind the table.
+  int LastScanned() const { return ObjectCount < kLastRow ? ObjectCount : kLastRow; }
+
+  void GrowIfFull();
+  // Grows if needed and gives the first free row; freed rows are used again. Throws std::out_of_range when
+  // there is none left, and then nothing has changed.
+  int TakeFreeRow();
+  void ClearRow(int row);
+  // Blanks rows 1 to ObjectCount. The bound itself stays.
+  void Reset();
+  // As at start: every row blank and the bound at 50.
+  void Restart();
+
+  // Reports a row made free by other means than ClearRow (a row assigned as a whole).
+  void RowChanged(int row);
+
+ private:
+  std::vector<ObjectRecord> rows_ = std::vector<ObjectRecord>(kLastRow + 1);
+  // No row below this one is free, so that filling the table takes one walk and not one for each object.
+  int firstMaybeFree_ = 1;
+};
+
+}  // namespace kev

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "document/text_measurer.h"
+
+#include <array>
+
+#include "base/code_page.h"
+#include "document/font_metrics_table.h"
+
+namespace kev {
+namespace {
+
+constexpr double kTwipsPerPoint = 20;
+constexpr double kUnitsPerEm = 2048;
+
+bool NameHolds(std::string_view font, std::string_view part) {
+  return CodePage::Default().ContainsIgnoringCase(font, part);
+}
+
+const FontMetricsRow& MetricsOf(const FontSpec& font) {
+  if (NameHolds(font.Name, "courier") || NameHolds(font.Name, "mono") || NameHolds(font.Name, "consol")) {
+    return kMonoMetrics;
+  }
+  const bool sansByName = NameHolds(font.Name, "sans");
+  if (!sansByName && (NameHolds(font.Name, "times") || NameHolds(font.Name, "serif") ||
+                      NameHolds(font.Name, "georgia") || NameHolds(font.Name, "garamond"))) {
+    if (font.Bold) return font.Italic ? kSerifBoldItalicMetrics : kSerifBoldMetrics;
+    return font.Italic ? kSerifItalicMetrics : kSerifMetrics;
+  }
+  return font.Bold ? kSansBoldMetrics : kSansMetrics;
+}
+
+}  // namespace
+
+TextExtent BuiltInMeasurer::Measure(const FontSpec& font, std::string_view text) const {
+  const FontMetricsRow& metrics = MetricsOf(font);
+  double advance = 0;
+  for (const char c : text)
+    advance += metrics.advance[static_cast<unsigned char>(c)];
+  const double unit = font.Size * kTwipsPerPoint / kUnitsPerEm;
+  return {advance * unit, (metrics.ascent + metrics.descent) * unit};
+}
+
+}  // namespace kev

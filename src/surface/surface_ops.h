@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// The operations of the design surface. Lengths are canvas units: twips times the zoom factor, X counted from
+// the left margin, Y from the top of the first band. 15 units are one logical pixel. Colours are 24 bits,
+// 0xRRGGBB.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "document/text_measurer.h"
+
+namespace kev {
+
+using Rgb = std::uint32_t;
+
+enum class PenStyle : std::uint8_t { Solid, Dotted };
+
+class SurfaceOps {
+ public:
+  virtual ~SurfaceOps() = default;
+
+  // The lower layer: the page canvas `p1`. What is drawn is kept until ClearCanvas.
+  virtual void ClearCanvas() = 0;
+  virtual void SetCanvasSize(double width, double height) = 0;
+  virtual void SetScaleLeft(double value) = 0;
+  // Width in pixels.
+  virtual void SetPen(Rgb colour, double width, PenStyle style) = 0;
+  virtual void DrawLine(double x1, double y1, double x2, double y2) = 0;
+  virtual void DrawRect(double x1, double y1, double x2, double y2, bool filled) = 0;
+  virtual void DrawRectColour(double x1, double y1, double x2, double y2, Rgb colour, bool filled) = 0;
+  virtual void DrawCircle(double cx, double cy, double radius) = 0;
+  // A file as a record or the theme names it ("\Pbms\sectpic.prbm", "logo.png"); one that cannot be had
+  // paints nothing.
+  virtual void PaintImage(std::string_view file, double x, double y, double width, double height) = 0;
+  virtual void SetFont(const FontSpec& font) = 0;
+  // At the top left of the text, in the foreground colour.
+  virtual void SetForeground(Rgb colour) = 0;
+  virtual void PrintText(double x, double y, std::string_view text) = 0;
+  // In the current font.
+  virtual double TextWidth(std::string_view text) = 0;
+
+  // Many equal dots at once (the drawn grid): a dot of the pen's colour at each multiple of `step` inside.
+  virtual void DrawDots(double left, double top, double right, double bottom, double step) = 0;
+
+  // The upper layer: the widgets that show the one current object.
+  virtual void PlaceWidget(std::string_view name, double left, double top, double width, double height) = 0;
+  virtual void ShowWidget(std::string_view name, bool visible) = 0;
+};
+
+}  // namespace kev
