@@ -19,10 +19,7 @@ std::string_view ValuePart(std::string_view line, std::size_t equals) {
 
 KeyFile::KeyFile(std::string_view bytes, const CodePage& page) : page_(&page) {
   for (std::size_t number = 1; number <= kLinesLookedAt && !bytes.empty(); ++number) {
-    const std::size_t end = std::min(bytes.find('\n'), bytes.size() - 1);
-    const std::vector<std::string_view> lines = SplitLines(bytes.substr(0, end + 1));
-    bytes.remove_prefix(end + 1);
-    const std::string_view line = Trim(lines.front());
+    const std::string_view line = Trim(TakeLine(bytes));
     if (line.starts_with('#') || line.starts_with('[')) continue;
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos) continue;

@@ -39,6 +39,9 @@ inline Tokens SplitTokens(std::string_view text, char separator) {
 
 // The lines of a text: a line ends at LF, one CR before it is dropped, and a last line needs no end.
 std::vector<std::string_view> SplitLines(std::string_view text);
+// The same one by one: takes the next line off `rest`, which must not be empty.
+std::string_view TakeLine(std::string_view& rest);
+std::size_t CountLines(std::string_view text);
 
 void ReplaceAll(std::string& text, char from, char to);
 

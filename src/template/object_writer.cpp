@@ -1,0 +1,390 @@
+// SPDX-License-Identifier: MIT
+#include "template/object_writer.h"
+
+#include <array>
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "chart/definition.h"
+#include "template/line_text.h"
+
+namespace kev {
+namespace {
+
+constexpr bool kPositioned = true;
+constexpr bool kPlain = false;
+
+struct CommentRow {
+  ObjectKind kind;
+  std::string_view oneStep;
+  std::string_view otherStep;
+};
+
+// The markers behind a vertical step, by which a reader of the file can tell where a line comes from.
+constexpr auto kStepComments = std::to_array<CommentRow>({
+    {ObjectKind::TextBox, "rem=modulo001", "rem=modulo002X"},
+    {ObjectKind::Picture, "rem=modulo001", "rem=modulo002B"},
+    {ObjectKind::Qr, "rem=modulo101", "rem=modulo102B"},
+    {ObjectKind::Circle, "rem=modulo003", "rem=modulo004"},
+    {ObjectKind::Chart, "rem=modulo025", "rem=modulo026"},
+    {ObjectKind::Barcode, "rem=modulo005", "rem=modulo006"},
+    {ObjectKind::Line, "rem=modulo007", "rem=modulo008"},
+    {ObjectKind::AnyLine, "rem=modulo009", "rem=modulo010"},
+    {ObjectKind::Box, "rem=modulo011", "rem=modulo012"},
+    {ObjectKind::Command, "rem=modulo013", "rem=modulo014"},
+    {ObjectKind::Label, "rem=modulo015", "rem=modulo016"},
+});
+
+struct SymbologyWord {
+  std::string_view code;
+  std::string_view word;
+};
+
+constexpr auto kSymbologyWords = std::to_array<SymbologyWord>({
+    {"1", ";Bar"},
+    {"8", ";Ean8"},
+    {"13", ";Ean13"},
+    {"251", ";B2Of5Int"},
+    {"252", ";B2Of5Ind"},
+    {"250", ";B2Of5Bar"},
+    {"1282", ";B128B"},
+    {"1283", ";B128C"},
+});
+
+std::string Number(std::int64_t value) {
+  return std::to_string(value);
+}
+
+const CommentRow& CommentsOf(ObjectKind kind) {
+  for (const CommentRow& row : kStepComments) {
+    if (row.kind == kind) return row;
+  }
+  return kStepComments.back();
+}
+
+}  // namespace
+
+ObjectWriter::ObjectWriter(const Document& document, const WriteOptions& options, WriteReport& report)
+    : document_(document), options_(options), report_(report), spacing_(document.Settings.SpacingTwips()) {}
+
+void ObjectWriter::Line(std::string_view text) {
+  text_ += text;
+  text_ += "\r\n";
+}
+
+std::string ObjectWriter::Block(std::string_view items, bool hasPosition) const {
+  std::string block(1, document_.Settings.OpenCharacter());
+  block += items;
+  if (!hasPosition && document_.Settings.HasOwnDelimiters()) block += items.empty() ? "0" : ";0";
+  block += document_.Settings.CloseCharacter();
+  return block;
+}
+
+void ObjectWriter::BlockLine(std::string_view items, bool hasPosition) {
+  Line("  " + Block(items, hasPosition));
+}
+
+std::string ObjectWriter::Comment(std::string_view marker) const {
+  return options_.Comments ? " " + Block(marker, kPlain) : std::string();
+}
+
+void ObjectWriter::BlockLineWithComment(std::string_view items, std::string_view comment) {
+  Line("  " + Block(items, kPlain) + Comment(comment));
+}
+
+void ObjectWriter::Subsection(const ObjectRecord& bar, std::string_view section, std::string_view head) {
+  Line("");
+  Line("<" + std::string(section));
+  Line(" " + std::string(head));
+  Line("");
+  state_.CursorY = 0;
+  state_.SubsectionEnd = bar.EndsAt;
+  state_.SubsectionFill = bar.SectionCursorY;
+  state_.LastCommand.clear();
+  if (bar.HeightGiven != 0) BlockLine("SubSectionHeight=" + Number(bar.EndsAt), kPlain);
+  const std::string_view start = Trim(bar.StartY);
+  if (!document_.Page->EqualsIgnoringCase(start, kCurrentYValue)) {
+    BlockLine(NumericPrefix(start) == 0 ? std::string("xy=0,1") : "xy=0," + std::string(start), kPositioned);
+  }
+  BlockLine("DEF", kPlain);
+  state_.ResetToDefaults();
+  if (options_.Comments) Line(Comment("Rem=All Default Values 18"));
+}
+
+// A page break directly before the end makes the step to it by itself.
+void ObjectWriter::EndOfSubsection(const ObjectRecord& end) {
+  const bool behindPageBreak = state_.LastCommand == kPageBreak;
+  const auto step = [&] { return std::int64_t{end.Y} - state_.CursorY; };
+  if (step() != spacing_ && step() != 0) {
+    if (!behindPageBreak) {
+      BlockLineWithComment("Spacing=" + Number(step()) + ";\\n", "Rem=EndOfSubsection 19");
+    }
+    state_.CursorY = end.Y;
+    Line("");
+  }
+  if (step() == spacing_) {
+    if (!behindPageBreak) BlockLineWithComment("\\n", "Rem=EndOfSubsection 20");
+    Line("");
+  }
+  state_.LastCommand.clear();
+  if (state_.SubsectionFill < state_.SubsectionEnd) {
+    const std::int64_t back = std::int64_t{state_.SubsectionEnd} - state_.SubsectionFill;
+    BlockLineWithComment("Spacing=" + Number(back) + ";\\P", "Rem=\\P to reach SUBSECTIONENDSAT");
+  }
+  state_.CursorY = 0;
+  state_.SubsectionEnd = 0;
+}
+
+// The font, size and colour of the first label stand before everything else, so that most labels need none.
+void ObjectWriter::FirstLabelLine() {
+  if (std::exchange(firstObjectSeen_, true)) return;
+  for (int row = 1; row <= document_.Objects.LastScanned(); ++row) {
+    const ObjectRecord& label = document_.Objects[row];
+    if (label.Kind != ObjectKind::Label) continue;
+    state_.FontName = label.FontName;
+    state_.Size = label.FontSize;
+    state_.Color = ColourOf(label);
+    BlockLine("F=" + label.FontName + ";S=" + Number(label.FontSize) + ";C=" + ColourText(state_.Color),
+              kPlain);
+    return;
+  }
+}
+
+void ObjectWriter::Object(const ObjectRecord& record) {
+  FirstLabelLine();
+  const bool isPageBreak = record.Kind == ObjectKind::Command && record.Content == kPageBreak;
+  Kind(record);
+  state_.LastCommand = isPageBreak ? kPageBreak : std::string_view{};
+}
+
+void ObjectWriter::Kind(const ObjectRecord& record) {
+  switch (record.Kind) {
+    case ObjectKind::TextBox:
+      return TextBox(record);
+    case ObjectKind::Picture:
+      return Picture(record);
+    case ObjectKind::Qr:
+      return Qr(record);
+    case ObjectKind::Circle:
+      return Circle(record);
+    case ObjectKind::Chart:
+      return Chart(record);
+    case ObjectKind::Barcode:
+      return Barcode(record);
+    case ObjectKind::Line:
+      return HorizontalLine(record);
+    case ObjectKind::AnyLine:
+      return AnyLine(record);
+    case ObjectKind::Box:
+      return Box(record);
+    case ObjectKind::Command:
+      return Command(record);
+    case ObjectKind::Label:
+      return Label(record);
+    case ObjectKind::None:
+    case ObjectKind::Section:
+    case ObjectKind::Subsection:
+    case ObjectKind::EndOfSubsection:
+      return;
+  }
+}
+
+std::string ObjectWriter::Flags(const ObjectRecord& record) {
+  std::string prefix;
+  if (record.PrintFlag != state_.Print) prefix += record.PrintFlag != 0 ? "Print;" : "NoPrint;";
+  if (record.AlignToGrid != state_.Atg) prefix += record.AlignToGrid == 1 ? "Atg;" : "NAtg;";
+  if (record.ModifiableByEndUser != state_.MBeu)
+    prefix += record.ModifiableByEndUser == 1 ? "MBeu;" : "NMBeu;";
+  state_.Print = record.PrintFlag;
+  state_.Atg = record.AlignToGrid;
+  state_.MBeu = record.ModifiableByEndUser;
+  return prefix;
+}
+
+void ObjectWriter::VerticalStep(const ObjectRecord& record) {
+  if (record.Y <= 0) return;
+  const std::int64_t step = std::int64_t{record.Y} - state_.CursorY;
+  const CommentRow& comments = CommentsOf(record.Kind);
+  if (step == spacing_) {
+    BlockLineWithComment("\\n", comments.oneStep);
+  } else if (step != 0) {
+    BlockLineWithComment("Spacing=" + Number(step) + ";\\n", comments.otherStep);
+  }
+  state_.CursorY = record.Y;
+}
+
+void ObjectWriter::ColourStep(const ObjectRecord& record) {
+  const Colour colour = ColourOf(record);
+  if (colour == state_.Color) return;
+  state_.Color = colour;
+  BlockLine("c=" + ColourText(colour), kPlain);
+}
+
+// The reader takes no zero behind another position, so where it would keep the earlier one a position is
+// written that rounds to zero.
+std::string ObjectWriter::Position(std::string_view xValue) {
+  const bool isZero = NumericPrefix(xValue) == 0 && !xValue.starts_with('$');
+  if (isZero && state_.X == "0") return "0";
+  // A position that begins with a point is none to the reader where text follows.
+  const bool beginsLikeOne = xValue.find_first_of("$+-0123456789") == 0;
+  state_.X = isZero ? "0.001" : beginsLikeOne ? std::string(xValue) : FormatNumber(NumericPrefix(xValue));
+  return state_.X;
+}
+
+void ObjectWriter::TextBox(const ObjectRecord& record) {
+  std::string items = Flags(record);
+  VerticalStep(record);
+  if (record.CharSet != state_.CharSet) {
+    state_.CharSet = record.CharSet;
+    items += "CS=" + FormatNumber(NumericPrefix(record.CharSet)) + ";";
+  }
+  if (record.Strikethrough != state_.Strike) {
+    state_.Strike = record.Strikethrough;
+    // Not the flag: the viewer has always been given the charset here.
+    items += "ST=" + record.CharSet + ";";
+  }
+  items += TextBoxPropsOf(record);
+  items += ";TextBox=" + record.XValue + ",," + Number(record.Width) + "," +
+           record.CommandPayload.value_or("") + "," + record.Content;
+  BlockLine(items, kPositioned);
+}
+
+void ObjectWriter::Picture(const ObjectRecord& record) {
+  const std::string prefix = Flags(record);
+  VerticalStep(record);
+  const std::string width = record.PictureFixedWidth != 0 ? Number(record.Width) : "";
+  const std::string height = record.PictureFixedHeight != 0 ? Number(record.Height) : "";
+  BlockLine(prefix + "Pic=" + record.PicturePath + "," + record.XValue + ",," + width + "," + height + "," +
+                record.Link,
+            kPositioned);
+}
+
+void ObjectWriter::Qr(const ObjectRecord& record) {
+  const std::string prefix = Flags(record);
+  VerticalStep(record);
+  Line("  " + Block(prefix + "QrCode=" + record.XValue + ",," + Number(record.Height), kPositioned) +
+       record.Content + Block("nobar", kPlain));
+}
+
+void ObjectWriter::Circle(const ObjectRecord& record) {
+  const std::string prefix = Flags(record) + LineWidthItem(record);
+  ColourStep(record);
+  VerticalStep(record);
+  BlockLine(prefix + "Circ=" + record.XValue + ",," + Number(record.Width), kPositioned);
+}
+
+void ObjectWriter::Chart(const ObjectRecord& record) {
+  const std::string prefix = Flags(record);
+  VerticalStep(record);
+  for (const std::string& block : ChartBlocks(record))
+    BlockLine(block, kPlain);
+  BlockLine(prefix + "Buildgraph=" + record.XValue + ",", kPlain);
+}
+
+void ObjectWriter::Barcode(const ObjectRecord& record) {
+  std::string items = Flags(record);
+  ColourStep(record);
+  VerticalStep(record);
+  items += Position(record.XValue) + ";BarHeight=" + Number(record.Height);
+  if (record.BarWidth > 1 && record.BarWidth <= 10) items += ";BarWidth=" + Number(record.BarWidth);
+  if (record.VerticalBar != 0) items += ";VertBar";
+  std::string_view word;
+  for (const SymbologyWord& row : kSymbologyWords) {
+    if (row.code == record.BarcodeKind) word = row.word;
+  }
+  if (word.empty()) report_.UnnamedSymbologies.push_back(record.BarcodeKind);
+  items += word;
+  Line("  " + Block(items, kPositioned) + record.Content + Block("NoBar", kPlain));
+}
+
+void ObjectWriter::HorizontalLine(const ObjectRecord& record) {
+  const std::string prefix = Flags(record) + LineWidthItem(record);
+  ColourStep(record);
+  VerticalStep(record);
+  BlockLine(prefix + "Line=" + record.XValue + "," + record.X2Value + (record.LineFlag != 0 ? ",1" : ""),
+            kPositioned);
+}
+
+void ObjectWriter::AnyLine(const ObjectRecord& record) {
+  const std::string prefix = Flags(record) + LineWidthItem(record);
+  ColourStep(record);
+  VerticalStep(record);
+  BlockLine(prefix + "AnyLine=" + record.XValue + ",," + Number(record.Width) + "," + Number(record.Height) +
+                "," + (record.LineFlag != 0 ? "1" : "0"),
+            kPositioned);
+}
+
+void ObjectWriter::Box(const ObjectRecord& record) {
+  const std::string prefix = Flags(record) + LineWidthItem(record);
+  VerticalStep(record);
+  ColourStep(record);
+  BlockLine(prefix + (record.Filled != 0 ? "Boxf=" : "Box=") + record.XValue + ",," + Number(record.Width) +
+                "," + Number(record.Height),
+            kPositioned);
+}
+
+void ObjectWriter::Command(const ObjectRecord& record) {
+  VerticalStep(record);
+  const std::string word = CommandWord(record);
+  if (!word.empty()) BlockLine(Position(record.XValue) + word, kPositioned);
+}
+
+void ObjectWriter::Label(const ObjectRecord& record) {
+  VerticalStep(record);
+  LabelAttributes(record);
+  Line("  " + Block(LabelPosition(record), kPositioned) + " " + record.Content + Block("", kPlain));
+  if (record.Content.find(document_.Settings.OpenCharacter()) == std::string::npos) return;
+  // Literal braces can confuse what follows; this makes a clean start.
+  state_.ResetToDefaults();
+  BlockLine("DEF", kPlain);
+  Line(Comment("Rem=All default values 17"));
+}
+
+void ObjectWriter::LabelAttributes(const ObjectRecord& record) {
+  std::string items;
+  const Colour colour = ColourOf(record);
+  if (colour != state_.Color) items += "c=" + ColourText(colour) + ";";
+  if (record.FontName != state_.FontName) items += "f=" + record.FontName + ";";
+  if (record.CharSet != state_.CharSet) items += "cs=" + record.CharSet + ";";
+  if (record.FontSize != state_.Size) items += "s=" + Number(record.FontSize) + ";";
+  if (record.Bold != state_.Bold) items += record.Bold != 0 ? "b=y;" : "b=n;";
+  if (record.Underline != state_.Underline) items += record.Underline != 0 ? "u=y;" : "u=n;";
+  if (record.Italic != state_.Italic) items += record.Italic != 0 ? "i=y;" : "i=n;";
+  if (record.Strikethrough != state_.Strike) items += record.Strikethrough != 0 ? "st=y;" : "st=n;";
+  const std::string caseMode = record.CaseMode.empty() ? "N" : record.CaseMode;
+  if (caseMode != state_.Case) items += CaseItems(caseMode);
+  const std::string align = record.Align.empty() ? "L" : record.Align;
+  items += Flags(record);
+  if (align != state_.Align) items += "a=" + align + ";";
+  state_.Color = colour;
+  state_.FontName = record.FontName;
+  state_.CharSet = record.CharSet;
+  state_.Size = record.FontSize;
+  state_.Bold = record.Bold;
+  state_.Underline = record.Underline;
+  state_.Italic = record.Italic;
+  state_.Strike = record.Strikethrough;
+  state_.Case = caseMode;
+  state_.Align = align;
+  if (!items.empty()) BlockLine(WithoutLastSeparator(items), kPlain);
+}
+
+std::string ObjectWriter::LabelPosition(const ObjectRecord& record) {
+  std::string items = Position(record.XValue) + ";";
+  if (!record.Link.empty()) items += "Link=" + record.Link + ";";
+  if (record.Format.empty() && !state_.Format.empty()) {
+    items += "Format=;";
+    state_.Format.clear();
+  }
+  if (record.ValueType == "Number") items += "Num;";
+  if (record.ValueType == "Text") items += "Text;";
+  if (record.Format != state_.Format) {
+    items += "Format=" + record.Format + ";";
+    state_.Format = record.Format;
+  }
+  if (record.Stretch && !Trim(*record.Stretch).empty())
+    items += "Stretch=" + std::string(Trim(*record.Stretch)) + ";";
+  return WithoutLastSeparator(items);
+}
+
+}  // namespace kev

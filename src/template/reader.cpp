@@ -1,0 +1,303 @@
+// SPDX-License-Identifier: MIT
+#include "template/reader.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "template/scanner.h"
+
+namespace kev {
+
+// A file can hold any number of oddities; a list that nobody can read to its end helps nobody.
+constexpr std::size_t kMostFindings = 1000;
+
+// Objects take over texts from the state and from text that is flushed again, so that a small file can ask
+// for far more memory than it has bytes. No template that prints comes near these bounds.
+constexpr std::size_t kMostTextBytes = 256UL * 1024 * 1024;
+constexpr std::size_t kMostAppliedBytes = 256UL * 1024 * 1024;
+
+static std::size_t TextBytes(const ObjectRecord& record) {
+  std::size_t bytes = record.Content.size() + record.FontName.size() + record.CharSet.size() +
+                      record.Link.size() + record.Format.size() + record.XValue.size() +
+                      record.X2Value.size() + record.PicturePath.size() + record.PictureFile.size() +
+                      record.OwnerName.size() + record.SectionName.size() + record.SectionTitle.size() +
+                      record.CommandPayload.value_or("").size() +
+                      record.TextBoxFrameValue.value_or("").size() + record.Stretch.value_or("").size();
+  for (const std::string& value : record.ChartValues)
+    bytes += value.size();
+  return bytes;
+}
+
+void ReaderState::Note(FindingKind kind, std::string_view text) {
+  if (findings.size() < kMostFindings)
+    findings.push_back({line, column, kind, std::string(text.substr(0, 200))});
+}
+
+int ReaderState::Add(const NewObject& object) {
+  CreationContext context{document, attributes, cursor, services.Measurer, services.Pictures, 1.0, {}};
+  if (services.Progress != nullptr) {
+    context.onCreate = [this](int row, ObjectKind kind) { services.Progress->Object(row, kind); };
+  }
+  // The end of a subsection asks whether a page break stands directly before it, and forgets it by itself.
+  if (!IsBand(object.kind)) cursor.LastCommand.clear();
+  const int row = AddObject(context, object);
+  textBytes += TextBytes(document.Objects[row]);
+  if (textBytes > kMostTextBytes) throw std::out_of_range("the texts of the template are too large");
+  return row;
+}
+
+namespace {
+
+constexpr std::string_view kHeader = "[HEADER]";
+constexpr std::string_view kConfiguration = "[CONFIGURATION]";
+
+std::string_view WithoutLeadingTabs(std::string_view line) {
+  while (line.starts_with('\t'))
+    line.remove_prefix(1);
+  return line;
+}
+
+class TemplateReader {
+ public:
+  TemplateReader(std::string_view bytes, const ReadServices& services)
+      : bytes_(bytes), rest_(bytes), services_(services), page_(*services.Page), state_{document_, services,
+                                                                                        {},        {},
+                                                                                        {},        {}} {}
+
+  ReadOutcome Read();
+
+ private:
+  void ReadHead();
+  void CheckHead(const KeyFile& keys);
+  bool ReadPreamble();
+  void AddColumn(std::string_view line);
+  void AddPreambleBlock(std::string_view line);
+  void ReadLayout();
+  void ReadLayoutLine(std::string_view line);
+  void OpenSection(std::string_view line);
+  void CloseSubsection();
+  void ScanContent(std::string_view line, std::size_t removed);
+  void ApplyBlock();
+  void Flush();
+  void NoteLostText(std::string_view text);
+  std::string_view NextLine();
+
+  std::string_view bytes_;
+  std::string_view rest_;  // what has not been read yet
+  const ReadServices& services_;
+  const CodePage& page_;
+  Document document_;
+  ReaderState state_;
+  std::string currentSection_{kHeader};
+  std::string textBuffer_;
+  std::string commandBuffer_;
+  bool inBlock_ = false;
+  bool textIsFlushed_ = false;
+  std::size_t appliedBytes_ = 0;
+};
+
+ReadOutcome TemplateReader::Read() {
+  if (services_.Progress != nullptr) services_.Progress->Begin(static_cast<int>(CountLines(bytes_)));
+  document_.Page = services_.Page;
+  ReadHead();
+  const bool hasLayout = ReadPreamble();
+  state_.cursor.CursorY = state_.cursor.SubsectionMaxY = state_.cursor.SurfaceY = 0;
+  if (hasLayout) OpenSection(kHeader);
+  state_.attributes.SpacingNow = document_.Settings.SpacingTwips();
+  ReadLayout();
+  NoteLostText(textBuffer_);
+  CloseSubsection();
+  if (services_.Progress != nullptr) services_.Progress->End();
+  return {std::move(document_), std::move(state_.attributes), std::move(state_.findings)};
+}
+
+void TemplateReader::ReadHead() {
+  const KeyFile keys(bytes_, page_);
+  document_.Settings = ReadSettings(keys, services_.DefaultPaper, page_);
+  CheckHead(keys);
+}
+
+// Repeated keys, and keys that stand too far down to be seen.
+void TemplateReader::CheckHead(const KeyFile& keys) {
+  const auto isHeadKey = [&](std::string_view key) {
+    return std::any_of(SettingRows().begin(), SettingRows().end(),
+                       [&](const SettingRow& row) { return page_.EqualsIgnoringCase(row.key, key); });
+  };
+  for (const KeyFile::Entry& entry : keys.Entries()) {
+    state_.line = entry.line;
+    if (isHeadKey(entry.key) && keys.Line(entry.key) != entry.line)
+      state_.Note(FindingKind::RepeatedKey, entry.key);
+  }
+  std::string_view rest = bytes_;
+  for (state_.line = 1; !rest.empty(); ++state_.line) {
+    const std::string_view line = Trim(TakeLine(rest));
+    if (page_.EqualsIgnoringCase(line, kHeader)) break;
+    if (state_.line <= KeyFile::kLinesLookedAt || line.find('=') == std::string_view::npos) continue;
+    if (isHeadKey(NthToken(line, 1, '='))) state_.Note(FindingKind::LateKey, line);
+  }
+}
+
+std::string_view TemplateReader::NextLine() {
+  ++state_.line;
+  state_.column = 1;
+  if (services_.Progress != nullptr) services_.Progress->Line(static_cast<int>(state_.line));
+  return TakeLine(rest_);
+}
+
+// True when the preamble ended at the line [HEADER] and not at the end of the file.
+bool TemplateReader::ReadPreamble() {
+  state_.line = 0;
+  while (!rest_.empty()) {
+    const std::string_view line = Trim(WithoutLeadingTabs(NextLine()));
+    if (line.starts_with('$')) {
+      AddColumn(line);
+    } else if (line.starts_with('[')) {
+      if (page_.EqualsIgnoringCase(line, kHeader)) return true;
+      AddPreambleBlock(line);
+    }
+  }
+  return false;
+}
+
+void TemplateReader::AddColumn(std::string_view line) {
+  int slot = 1;
+  while (slot <= ColumnTable::kLastSlot && !document_.Columns[slot].Name.empty())
+    ++slot;
+  Column& column = document_.Columns[slot];  // throws behind the last slot
+  column.Name = Trim(NthToken(line, 1, '='));
+  column.Position = NumericPrefix(NthToken(line, 2, '='));
+}
+
+void TemplateReader::AddPreambleBlock(std::string_view line) {
+  NewObject bar;
+  bar.kind = ObjectKind::Subsection;
+  bar.sectionName = kConfiguration;
+  bar.title = line;
+  state_.Add(bar);
+  CloseSubsection();
+}
+
+void TemplateReader::OpenSection(std::string_view line) {
+  NewObject bar;
+  bar.kind = ObjectKind::Subsection;
+  bar.sectionName = currentSection_;
+  bar.title = line;
+  state_.Add(bar);
+  state_.cursor.SubsectionStarted = false;
+}
+
+void TemplateReader::CloseSubsection() {
+  NewObject end;
+  end.kind = ObjectKind::EndOfSubsection;
+  end.extra = std::to_string(state_.cursor.OpenSubsection);
+  state_.Add(end);
+}
+
+void TemplateReader::ReadLayout() {
+  while (!rest_.empty())
+    ReadLayoutLine(NextLine());
+}
+
+void TemplateReader::ReadLayoutLine(std::string_view line) {
+  const DocumentSettings& settings = document_.Settings;
+  const std::string prepared =
+      PreprocessLine(line, settings.OpenCharacter(), settings.CloseCharacter(), page_);
+  const std::string_view content = WithoutLeadingTabs(prepared);
+  const std::string_view trimmed = Trim(content);
+  if (!trimmed.starts_with('['))
+    return ScanContent(trimmed, static_cast<std::size_t>(trimmed.data() - prepared.data()));
+  if (state_.cursor.OpenSubsection != 0) CloseSubsection();
+  const std::string capitals = page_.Upper(trimmed);
+  if (capitals == "[DATA]" || capitals == "[FOOTER]") currentSection_ = capitals;
+  OpenSection(trimmed);
+}
+
+// The order of the tests is the grammar: a close character ends a block wherever it stands, and an open
+// character inside a block begins it anew.
+void TemplateReader::ScanContent(std::string_view line, std::size_t removed) {
+  const char open = document_.Settings.OpenCharacter();
+  const char close = document_.Settings.CloseCharacter();
+  inBlock_ = false;
+  std::size_t blockColumn = 1;
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    const char c = line[at];
+    if (c == close) {
+      state_.column = blockColumn;
+      if (!textIsFlushed_) NoteLostText(textBuffer_);
+      inBlock_ = false;
+      textBuffer_.clear();
+      ApplyBlock();
+    }
+    if (inBlock_) commandBuffer_ += c;
+    if (!inBlock_ && c != open && c != close) {
+      textBuffer_ += c;
+      textIsFlushed_ = false;
+    }
+    if (c == open) {
+      state_.column = blockColumn = removed + at + 1;
+      inBlock_ = true;
+      commandBuffer_.clear();
+      Flush();
+    }
+  }
+}
+
+// Each further close character applies the same block again, so that the work is not bounded by the file's
+// size.
+void TemplateReader::ApplyBlock() {
+  appliedBytes_ += commandBuffer_.size();
+  if (appliedBytes_ > kMostAppliedBytes)
+    throw std::out_of_range("the blocks of the template are applied too often");
+  ApplyCommands(state_, commandBuffer_);
+}
+
+void TemplateReader::NoteLostText(std::string_view text) {
+  if (!Trim(text).empty() && !textIsFlushed_) state_.Note(FindingKind::LostText, Trim(text));
+}
+
+// The buffer is not emptied here: only a close character does that.
+void TemplateReader::Flush() {
+  textIsFlushed_ = true;
+  if (Trim(textBuffer_).empty()) return;
+  AttributeState& attributes = state_.attributes;
+  NewObject object;
+  object.text = textBuffer_;
+  if (object.text.find('\1') != std::string::npos) {
+    ReplaceAll(object.text, '\1', document_.Settings.OpenCharacter());
+    ReplaceAll(object.text, '\2', document_.Settings.CloseCharacter());
+  }
+  object.kind = attributes.AttrSymbology == kNoSymbology   ? ObjectKind::Label
+                : attributes.AttrSymbology == kQrSymbology ? ObjectKind::Qr
+                                                           : ObjectKind::Barcode;
+  object.xValue = attributes.AttrX;
+  object.link = attributes.AttrLink;
+  object.format = attributes.AttrFormat;
+  state_.Add(object);
+  attributes.AttrValueType = "General";
+  attributes.AttrLink.clear();
+  state_.cursor.SubsectionStarted = true;
+}
+
+}  // namespace
+
+Result<ReadOutcome> ReadTemplateBytes(std::string_view bytes, const ReadServices& services) {
+  try {
+    return TemplateReader(bytes, services).Read();
+  } catch (const std::out_of_range& limit) {
+    if (services.Progress != nullptr) services.Progress->End();
+    return FileFailure{{}, limit.what()};
+  }
+}
+
+Result<ReadOutcome> ReadTemplate(const std::string& path, const ReadServices& services) {
+  const Result<std::string> bytes = ReadWholeFile(path);
+  if (!bytes) return bytes.Error();
+  Result<ReadOutcome> outcome = ReadTemplateBytes(*bytes, services);
+  if (!outcome) return FileFailure{path, outcome.Error().reason};
+  return outcome;
+}
+
+}  // namespace kev

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// Takes a template apart: the preamble, the section lines, literal text and command blocks.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "chart/definition.h"
+#include "template/reader.h"
+
+namespace kev {
+
+// The state of one read. Every read begins with a fresh one.
+struct ReaderState {
+  Document& document;
+  const ReadServices& services;
+  AttributeState attributes;
+  LayoutCursor cursor;
+  ChartDefinition chart;
+  std::vector<Finding> findings;
+  std::size_t line = 0;       // of the file, counted from 1
+  std::size_t column = 0;     // of the block that is being applied, counted from 1
+  std::size_t textBytes = 0;  // in all rows so far
+
+  void Note(FindingKind kind, std::string_view text);
+  // Creates a row; a row of any kind but a page break ends the memory of one.
+  int Add(const NewObject& object);
+};
+
+// Applies the text of one command block.
+void ApplyCommands(ReaderState& state, std::string_view block);
+
+}  // namespace kev

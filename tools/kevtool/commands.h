@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// One function for each command of kevtool. Each gives the exit status: 0 good, 1 the file is refused or has
+// findings, 2 wrong usage. Results go to standard output, reasons to standard error.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "template/reader.h"
+
+namespace kev::tool {
+
+inline constexpr int kGood = 0;
+inline constexpr int kRefused = 1;
+inline constexpr int kWrongUsage = 2;
+
+int Check(const std::vector<std::string>& files);
+int Dump(const std::string& file, bool geometry);
+int Rewrite(const std::string& in, const std::string& out, bool comments);
+int Eval(const std::string& file, const std::string& expression);
+
+struct RenderChoice {
+  std::string in;
+  std::string out;
+  double zoom = 100;  // percent
+  double scale = 1;   // device ratio
+  std::string filter = "all";
+  bool grid = false;
+};
+int Render(const RenderChoice& choice);
+
+// Reads a template as the designer opens one: what it refuses is refused here too, with the reason on
+// standard error.
+std::optional<ReadOutcome> Open(const std::string& file);
+
+}  // namespace kev::tool

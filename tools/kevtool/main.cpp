@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <iostream>
+
+#include "commands.h"
+
+namespace {
+
+using namespace kev::tool;
+
+// Every command stores here what is to be done; the command line is complete before anything runs.
+struct Invocation {
+  std::function<int()> run;
+};
+
+void AddCheck(CLI::App& app, Invocation& invocation) {
+  auto* command = app.add_subcommand("check", "Check templates: structure, and what a save would lose");
+  auto files = std::make_shared<std::vector<std::string>>();
+  command->add_option("FILE", *files, "Templates")->required();
+  command->callback([&invocation, files] { invocation.run = [files] { return Check(*files); }; });
+}
+
+void AddDump(CLI::App& app, Invocation& invocation) {
+  auto* command = app.add_subcommand("dump", "Print a template as JSON");
+  auto file = std::make_shared<std::string>();
+  auto geometry = std::make_shared<bool>(false);
+  command->add_option("FILE", *file, "Template")->required();
+  command->add_flag("--geometry", *geometry, "After the geometry was derived, not after the read alone");
+  command->callback(
+      [&invocation, file, geometry] { invocation.run = [=] { return Dump(*file, *geometry); }; });
+}
+
+void AddRewrite(CLI::App& app, Invocation& invocation) {
+  auto* command = app.add_subcommand("rewrite", "Read a template as on opening and write it as on saving");
+  auto in = std::make_shared<std::string>();
+  auto out = std::make_shared<std::string>();
+  auto comments = std::make_shared<bool>(false);
+  command->add_option("IN", *in, "Template to read")->required();
+  command->add_option("OUT", *out, "Template to write")->required();
+  command->add_flag("--comments", *comments, "Write the comment behind each vertical step");
+  command->callback(
+      [&invocation, in, out, comments] { invocation.run = [=] { return Rewrite(*in, *out, *comments); }; });
+}
+
+void AddEval(CLI::App& app, Invocation& invocation) {
+  auto* command =
+      app.add_subcommand("eval", "Print the value of a position in twips; nothing where it has none");
+  auto file = std::make_shared<std::string>();
+  auto expression = std::make_shared<std::string>();
+  command->add_option("FILE", *file, "Template whose columns count")->required();
+  command->add_option("EXPRESSION", *expression, "A number, a column, or a column and a step")->required();
+  command->callback(
+      [&invocation, file, expression] { invocation.run = [=] { return Eval(*file, *expression); }; });
+}
+
+#ifdef KEV_WITH_QT
+void AddRender(CLI::App& app, Invocation& invocation) {
+  auto* command = app.add_subcommand("render", "Paint the page as the designer does, to PNG, PDF or SVG");
+  auto choice = std::make_shared<RenderChoice>();
+  command->add_option("FILE", choice->in, "Template")->required();
+  command->add_option("OUT", choice->out, "Picture: .png, .pdf or .svg")->required();
+  command->add_option("--zoom", choice->zoom, "Zoom in percent")->check(CLI::Range(10.0, 800.0));
+  command->add_option("--scale", choice->scale, "Device pixels for each logical pixel")
+      ->check(CLI::Range(0.1, 16.0));
+  command->add_option("--filter", choice->filter, "Which objects")
+      ->check(CLI::IsMember({"all", "ebeu", "print"}));
+  command->add_flag("--grid", choice->grid, "Draw the grid");
+  command->callback([&invocation, choice] { invocation.run = [choice] { return Render(*choice); }; });
+}
+#endif
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app{"Kev templates on the command line", "kevtool"};
+  app.set_version_flag("--version", "kevtool 0.1.0");
+  app.require_subcommand(1);
+  // A position such as -120 is an argument, not an option.
+  app.allow_windows_style_options(false);
+  Invocation invocation;
+  AddCheck(app, invocation);
+  AddDump(app, invocation);
+  AddRewrite(app, invocation);
+  AddEval(app, invocation);
+#ifdef KEV_WITH_QT
+  AddRender(app, invocation);
+#endif
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? kGood : kWrongUsage;
+  }
+  try {
+    return invocation.run();
+  } catch (const std::exception& error) {
+    std::cerr << "kevtool: " << error.what() << '\n';
+    return kRefused;
+  }
+}

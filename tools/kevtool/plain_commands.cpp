@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include <iostream>
+
+#include "base/numbers.h"
+#include "commands.h"
+#include "document/position.h"
+#include "document/sections.h"
+#include "template/template_check.h"
+#include "template/writer.h"
+
+namespace kev::tool {
+
+int Check(const std::vector<std::string>& files) {
+  int status = kGood;
+  for (const std::string& file : files) {
+    const std::optional<ReadOutcome> outcome = Open(file);
+    if (!outcome) {
+      status = kRefused;
+      continue;
+    }
+    std::cout << file << ": " << CheckTemplate(file) << '\n';
+    for (const Finding& finding : outcome->Findings) {
+      std::cout << file << ':' << finding.Line << ':' << finding.Column << ": " << FindingText(finding.Kind)
+                << ": " << outcome->Read.Page->ToUtf8(finding.Text) << '\n';
+      status = kRefused;
+    }
+  }
+  return status;
+}
+
+int Rewrite(const std::string& in, const std::string& out, bool comments) {
+  std::optional<ReadOutcome> outcome = Open(in);
+  if (!outcome) return kRefused;
+  DeriveGeometry(outcome->Read);
+  DeriveGeometry(outcome->Read);
+  const WriteReport report = WriteTemplate(out, outcome->Read, {comments});
+  if (report.Failure) {
+    std::cerr << report.Failure->path << ": " << report.Failure->reason << '\n';
+    return kRefused;
+  }
+  for (const std::string& kind : report.UnnamedSymbologies) {
+    std::cerr << out << ": bar code kind " << kind << " has no word in a template and will not come back\n";
+  }
+  return kGood;
+}
+
+int Eval(const std::string& file, const std::string& expression) {
+  const std::optional<ReadOutcome> outcome = Open(file);
+  if (!outcome) return kRefused;
+  const Document& document = outcome->Read;
+  const std::string text = document.Page->FromUtf8(expression).value_or(expression);
+  const std::optional<double> value = EvaluatePosition(text, document.Columns, *document.Page);
+  std::cout << (value ? FormatNumber(*value) : std::string()) << '\n';
+  return kGood;
+}
+
+}  // namespace kev::tool
