@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// A copy of the document's sample data that tells the viewer which template it belongs to.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/code_page.h"
+
+namespace kev {
+
+struct ClockTime {
+  int Hour = 0;
+  int Minute = 0;
+  int Second = 0;
+};
+
+// The copy of this run. There is at most one at a time, named after the moment of the last save or test run.
+class SampleCopy {
+ public:
+  // Deletes the copy made before and makes a new one, if `samplePath` is a .kex or .ked file that exists. Its
+  // first line names `templatePath`; lines of the source that name a template are left out. That a copy
+  // cannot be made or deleted stops no save.
+  void Renew(const std::string& tempFolder, const ClockTime& now, const std::string& samplePath,
+             const std::string& templatePath);
+  void Delete() const;
+
+  // Path without an extension; empty before the first save.
+  const std::string& SampleCopyBase() const { return base_; }
+
+ private:
+  std::string base_;
+};
+
+// The text of the copy.
+std::string SampleCopyText(std::string_view sample, std::string_view templatePath);
+
+}  // namespace kev
