@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+// The owner of everything that lives for the length of a run: the one open document, the options, the
+// language texts, the theme and the folders. It decides; what it needs of the window system it asks the Host,
+// and what the window must show anew it tells the DesignerView.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/command_line.h"
+#include "app/folders.h"
+#include "app/language.h"
+#include "app/options.h"
+#include "app/picture_source.h"
+#include "app/theme.h"
+#include "base/finding.h"
+#include "base/host.h"
+#include "document/document.h"
+#include "document/object_creation.h"
+#include "template/reader.h"
+#include "template/template_check.h"
+
+namespace kev {
+
+// In the order of the list. Any other number may be typed.
+inline constexpr auto kZoomList =
+    std::to_array<std::string_view>({"25%", "50%", "75%", "80%", "100%", "120%", "150%", "180%", "200%"});
+
+inline constexpr std::string_view kFreshTitle = "Noname.kev";
+
+// Which of the objects the page shows.
+enum class PageFilter : std::uint8_t { All, ModifiableByEndUser, PrintedOnly };
+
+// What the window does when the document has changed under it. The window implements it; every call comes
+// from the one thread, and none before AttachView.
+class DesignerView {
+ public:
+  virtual ~DesignerView() = default;
+  // Another document stands in the tables: selection, pending tool and open cells of the old one are void.
+  virtual void DocumentReplaced() = 0;
+  // Paints the whole page, rulers and sheets at the present zoom. Painting may store measured sizes in rows.
+  virtual void RedrawDocument() = 0;
+  // The zoom box shows this text ("100%") again.
+  virtual void ShowZoom(std::string_view text) = 0;
+  // The list of findings is another one.
+  virtual void FindingsChanged() = 0;
+};
+
+// What a process gives to its designer.
+struct StartInput {
+  Environment Variables;               // of the process
+  std::string ProgramFolder;           // see ExecutableFolder
+  std::vector<std::string> Arguments;  // without the program's name
+};
+
+// Who wants a template opened; it decides only where a missing file is told.
+enum class OpenedFrom : std::uint8_t { Start, Command };
+
+// What a guarded piece of work is, for the message that a failure gives.
+struct GuardedWork {
+  int Message = 0;   // number of the text; 0 is "could not be done and nothing was changed"
+  std::string Path;  // native bytes, shown with the message
+};
+
+class Designer {
+ public:
+  // The host and the measurer outlive the designer.
+  Designer(Host& host, const TextMeasurer& measurer, StartInput input);
+  Designer(const Designer&) = delete;
+  Designer& operator=(const Designer&) = delete;
+
+  void AttachView(DesignerView* view) { view_ = view; }
+
+  // --- Start, in this order -------------------------------------------------------------------------------
+  // Before the window is built. False when the texts cannot be had: the message was shown, the process ends.
+  bool Load();
+  // At each activation of the window. True for the first one alone: then the splash form is shown, which
+  // calls SplashLoad as it opens, and AfterSplash follows when it has closed.
+  bool BeginActivation();
+  void SplashLoad();
+  void AfterSplash();
+
+  // --- Documents -------------------------------------------------------------------------------------------
+  // The one road for start, menu, recent files and welcome screen. Does not ask about unsaved changes. False
+  // when the file was refused: one message was shown and the open document stays.
+  bool OpenTemplate(const std::string& path, OpenedFrom from = OpenedFrom::Command);
+  // A fresh document from the skeleton, which takes over the line step of the open one.
+  void NewTemplate();
+  // With the question about unsaved changes before it; false when the user gave up or the file was refused.
+  bool AskAndOpen(const std::string& path);
+  bool ChooseAndOpen();
+  bool AskAndNew();
+  // False when the user gave up or the file could not be written.
+  bool Save();
+  bool SaveAs();
+  // Asks about unsaved changes, and saves on Yes. False when what follows must not happen.
+  bool AskToSave();
+  // Whether the window may close.
+  bool MayClose() { return AskToSave(); }
+  // After the window has closed: writes the options, deletes the working files of this run.
+  void ShutDown();
+
+  // --- Around every change ---------------------------------------------------------------------------------
+  // Geometry chain, redraw, chain, redraw of what moved.
+  void DeriveGeometryAndRedraw();
+  // Runs a command, event or read. Where it throws, the document is put back as it was, one message says
+  // what could not be done and why, and the result is false. Guards may nest; the innermost one acts.
+  bool Guarded(const GuardedWork& work, const std::function<void()>& body);
+  bool Guarded(const std::function<void()>& body) { return Guarded({}, body); }
+  // Sets `Modified` and the caption.
+  void MarkModified();
+  // A typed or chosen percentage. Below 10 or above 800 the old one is put back and the result is false.
+  bool SetZoom(std::string_view text);
+
+  // --- What it owns ----------------------------------------------------------------------------------------
+  Document& OpenDocument() { return document_; }
+  const Document& OpenDocument() const { return document_; }
+  AttributeState& Attributes() { return attributes_; }
+  DesignerOptions& Options() { return options_; }
+  const UserSettings& Settings() const { return settings_; }
+  const DesignerFolders& Folders() const { return folders_; }
+  const Theme& CurrentTheme() const { return theme_; }
+  const LanguageTexts& Texts() const { return texts_; }
+  const std::string& Text(int number) const { return texts_.Text(number); }
+  char Language() const { return language_; }
+  int SessionNumber() const { return session_; }
+  const CommandLineParts& Command() const { return command_; }
+  Host& TheHost() { return host_; }
+  const TextMeasurer& Measurer() const { return measurer_; }
+  PictureSource& Pictures() { return pictures_; }
+
+  // Absolute, native bytes; empty for a document that has no file of its own yet. Save writes here.
+  const std::string& DocumentPath() const { return documentPath_; }
+  // Its file name; "Noname.kev" for a fresh document.
+  const std::string& DocumentTitle() const { return documentTitle_; }
+  // Relative paths inside the template start here; native bytes.
+  std::string TemplateFolder() const;
+  // The file that a record's PictureFile means; nothing when there is none.
+  std::optional<std::string> PictureFileOnDisk(std::string_view pictureFile) const;
+  bool Modified() const { return modified_; }
+  double ZoomFactor() const { return zoomFactor_; }
+  PageFilter Filter = PageFilter::All;
+  // Of the last read or save.
+  const std::vector<Finding>& Findings() const { return findings_; }
+
+  // A box under the program's title with one OK. `detail` is native bytes.
+  void ShowText(int number, BoxIcon icon, std::string detail = {});
+  CreationContext Creation();
+
+ private:
+  Host& host_;
+  const TextMeasurer& measurer_;
+  StartInput input_;
+  DesignerView* view_ = nullptr;
+  Document document_;
+  AttributeState attributes_;
+  LayoutCursor cursor_;
+  DesignerOptions options_;
+  UserSettings settings_;
+  DesignerFolders folders_;
+  Theme theme_;
+  LanguageTexts texts_;
+  CommandLineParts command_;
+  FolderPictures pictures_;
+  std::string documentPath_;
+  std::string documentTitle_{kFreshTitle};
+  std::vector<Finding> findings_;
+  double zoomFactor_ = 1;
+  int session_ = 0;
+  char language_ = 'E';
+  bool modified_ = false;
+  bool firstActivation_ = false;
+};
+
+}  // namespace kev

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+// Where the pictures that a template names come from: a file, or an address that is fetched into the cache.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/folders.h"
+#include "base/code_page.h"
+#include "base/host.h"
+#include "document/object_creation.h"
+
+namespace kev {
+
+inline constexpr std::string_view kCacheFolder = "\\Cache\\";
+
+// "\Cache\" and the last part of the address, with every character that is not a letter, a digit, ".", "-"
+// or "_" replaced by "_".
+std::string CacheNameOf(std::string_view address);
+
+// The file that a record's PictureFile means; nothing when there is none. A name of the cache lies in
+// TempFolder, any other that begins with "\" in ProgramFolder unless such a path exists, and the rest
+// relative to the template. `pictureFile` is in the code page of the template, the folders and the result are
+// native bytes.
+std::optional<std::string> ResolvePictureFile(std::string_view pictureFile, const DesignerFolders& folders,
+                                              std::string_view templateFolder, const CodePage& page);
+
+class FolderPictures final : public PictureSource {
+ public:
+  // Told when a fetch has ended: the PictureFile that it was for, and whether the file is there now.
+  using Arrived = std::function<void(const std::string& pictureFile, bool there)>;
+
+  // Both outlive it.
+  FolderPictures(Host& host, const DesignerFolders& folders) : host_(host), folders_(folders) {}
+
+  // Native bytes.
+  void SetTemplateFolder(std::string folder) { templateFolder_ = std::move(folder); }
+  const std::string& TemplateFolder() const { return templateFolder_; }
+  // Of the texts that Look is given.
+  void SetPage(const CodePage& page) { page_ = &page; }
+  void OnArrival(Arrived arrived) { arrived_ = std::move(arrived); }
+
+  PictureAnswer Look(std::string_view path) override;
+
+ private:
+  PictureAnswer LookRemote(std::string_view address);
+
+  Host& host_;
+  const DesignerFolders& folders_;
+  const CodePage* page_ = &CodePage::Default();
+  std::string templateFolder_;
+  Arrived arrived_;
+};
+
+}  // namespace kev
