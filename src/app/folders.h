@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/result.h"
+
 namespace kev {
 
 // The value of an environment variable; nothing where it is unset.
@@ -29,6 +31,8 @@ std::string ExecutableFolder();
 // The letter of the language in force: `\activelang` in DataFolder, then the one beside the executable, then
 // "E".
 char FindActiveLanguage(const DesignerFolders& folders);
+// For the next start: into `\activelang` of DataFolder.
+std::optional<FileFailure> WriteActiveLanguage(const DesignerFolders& folders, char letter);
 
 // Those of the expected folders that are not there.
 std::vector<std::string> MissingFolders(const DesignerFolders& folders);

@@ -60,6 +60,15 @@ std::string OptionsText(const DesignerOptions& options);
 DesignerOptions LoadOptions(const std::string& path);
 std::optional<FileFailure> SaveOptions(const std::string& path, const DesignerOptions& options);
 
+// A panel or the screen, twips.
+struct PanelArea {
+  std::int32_t Left = 0, Top = 0, Width = 0, Height = 0;
+
+  bool operator==(const PanelArea&) const = default;
+};
+// A panel that a former screen had room for comes back into sight; its left top corner counts most.
+void MovePanelIn(PanelArea& panel, const PanelArea& screen);
+
 // What only the user writes, by hand.
 struct UserSettings {
   std::string DefaultEditor = "notepad";

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -33,25 +35,30 @@ class FolderPictures final : public PictureSource {
   using Arrived = std::function<void(const std::string& pictureFile, bool there)>;
 
   // Both outlive it.
-  FolderPictures(Host& host, const DesignerFolders& folders) : host_(host), folders_(folders) {}
+  FolderPictures(Host& host, const DesignerFolders& folders);
 
   // Native bytes.
   void SetTemplateFolder(std::string folder) { templateFolder_ = std::move(folder); }
   const std::string& TemplateFolder() const { return templateFolder_; }
   // Of the texts that Look is given.
   void SetPage(const CodePage& page) { page_ = &page; }
-  void OnArrival(Arrived arrived) { arrived_ = std::move(arrived); }
+  void OnArrival(Arrived arrived) { fetches_->arrived = std::move(arrived); }
 
   PictureAnswer Look(std::string_view path) override;
 
  private:
-  PictureAnswer LookRemote(std::string_view address);
+  struct Fetches {
+    std::set<std::string> underWay;  // by PictureFile, so that no file is fetched twice at a time
+    Arrived arrived;
+  };
+
+  PictureAnswer LookRemote(const std::string& address);
 
   Host& host_;
   const DesignerFolders& folders_;
   const CodePage* page_ = &CodePage::Default();
   std::string templateFolder_;
-  Arrived arrived_;
+  std::shared_ptr<Fetches> fetches_ = std::make_shared<Fetches>();
 };
 
 }  // namespace kev

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "app/folders.h"
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+
+#include "base/code_page.h"
+#include "base/files.h"
+#include "base/key_file.h"
+#include "base/text.h"
+
+namespace kev {
+namespace {
+
+constexpr std::string_view kOwnFolder = "\\Kev";
+constexpr std::string_view kLanguageSwitch = "\\activelang";
+
+// The first of the variables that is set and not empty.
+std::string FirstOf(const Environment& environment, const std::array<std::string_view, 2>& names) {
+  for (const std::string_view name : names) {
+    if (const auto value = environment(name); value && !value->empty()) return *value;
+  }
+  return {};
+}
+
+}  // namespace
+
+Environment ProcessEnvironment() {
+  return [](std::string_view name) -> std::optional<std::string> {
+    const char* value = std::getenv(std::string(name).c_str());
+    if (value == nullptr) return std::nullopt;
+    return std::string(value);
+  };
+}
+
+DesignerFolders FindFolders(const Environment& environment, const std::string& programFolder) {
+  DesignerFolders folders;
+  folders.ProgramFolder = programFolder;
+  folders.TempFolder = JoinPath(FirstOf(environment, {"TEMP", "TMP"}), kOwnFolder);
+  std::string data = ReadKey(InProgramFolder(folders, kLanguageSwitch), "DATADIR");
+  if (data.empty()) data = FirstOf(environment, {"appdata", "APPDATA"});
+  folders.DataFolder = JoinPath(data, kOwnFolder);
+  return folders;
+}
+
+std::string ExecutableFolder() {
+  std::error_code ignored;
+  const std::filesystem::path executable = std::filesystem::canonical("/proc/self/exe", ignored);
+  return FolderOf(executable.string());
+}
+
+char FindActiveLanguage(const DesignerFolders& folders) {
+  for (const std::string& folder : {folders.DataFolder, folders.ProgramFolder}) {
+    const std::string letter = ReadKey(JoinPath(folder, kLanguageSwitch), "ACTIVELANG");
+    if (!letter.empty()) return CodePage::Default().Upper(letter.front());
+  }
+  return 'E';
+}
+
+std::optional<FileFailure> WriteActiveLanguage(const DesignerFolders& folders, char letter) {
+  return WriteWholeFile(InDataFolder(folders, kLanguageSwitch), std::string("ACTIVELANG=") + letter + "\r\n");
+}
+
+std::vector<std::string> MissingFolders(const DesignerFolders& folders) {
+  std::vector<std::string> missing;
+  for (const std::string& folder :
+       {folders.TempFolder, InTempFolder(folders, "\\Cache"), InTempFolder(folders, "\\Temp"),
+        folders.DataFolder, InDataFolder(folders, "\\temp")}) {
+    if (!FolderExists(folder)) missing.push_back(folder);
+  }
+  return missing;
+}
+
+std::string InTempFolder(const DesignerFolders& folders, std::string_view name) {
+  return JoinPath(folders.TempFolder, name);
+}
+std::string InDataFolder(const DesignerFolders& folders, std::string_view name) {
+  return JoinPath(folders.DataFolder, name);
+}
+std::string InProgramFolder(const DesignerFolders& folders, std::string_view name) {
+  return JoinPath(folders.ProgramFolder, name);
+}
+
+}  // namespace kev
