@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -16,13 +17,14 @@
 #include "app/language.h"
 #include "app/options.h"
 #include "app/picture_source.h"
+#include "app/read_back.h"
 #include "app/theme.h"
 #include "base/finding.h"
 #include "base/host.h"
 #include "document/document.h"
 #include "document/object_creation.h"
 #include "template/reader.h"
-#include "template/template_check.h"
+#include "template/writer.h"
 
 namespace kev {
 
@@ -31,6 +33,10 @@ inline constexpr auto kZoomList =
     std::to_array<std::string_view>({"25%", "50%", "75%", "80%", "100%", "120%", "150%", "180%", "200%"});
 
 inline constexpr std::string_view kFreshTitle = "Noname.kev";
+
+// Percent. A zoom outside is refused.
+inline constexpr double kSmallestZoom = 10;
+inline constexpr double kLargestZoom = 800;
 
 // Which of the objects the page shows.
 enum class PageFilter : std::uint8_t { All, ModifiableByEndUser, PrintedOnly };
@@ -90,6 +96,8 @@ class Designer {
   bool OpenTemplate(const std::string& path, OpenedFrom from = OpenedFrom::Command);
   // A fresh document from the skeleton, which takes over the line step of the open one.
   void NewTemplate();
+  // A document that has no file yet, from the text of a template. False when it can't be read.
+  bool OpenFresh(std::string_view bytes);
   // With the question about unsaved changes before it; false when the user gave up or the file was refused.
   bool AskAndOpen(const std::string& path);
   bool ChooseAndOpen();
@@ -103,6 +111,8 @@ class Designer {
   bool MayClose() { return AskToSave(); }
   // After the window has closed: writes the options, deletes the working files of this run.
   void ShutDown();
+  // Takes effect at the next start.
+  void ChooseLanguage(char letter);
 
   // --- Around every change ---------------------------------------------------------------------------------
   // Geometry chain, redraw, chain, redraw of what moved.
@@ -142,7 +152,7 @@ class Designer {
   // The file that a record's PictureFile means; nothing when there is none.
   std::optional<std::string> PictureFileOnDisk(std::string_view pictureFile) const;
   bool Modified() const { return modified_; }
-  double ZoomFactor() const { return zoomFactor_; }
+  double ZoomFactor() const { return zoomPercent_ / 100; }
   PageFilter Filter = PageFilter::All;
   // Of the last read or save.
   const std::vector<Finding>& Findings() const { return findings_; }
@@ -152,6 +162,28 @@ class Designer {
   CreationContext Creation();
 
  private:
+  // What a failed command gives back.
+  struct Kept;
+
+  void DecideTemplate();
+  void TellMissingFolders();
+  void RefuseMissing(const std::string& path, OpenedFrom from);
+  void TellReadFailure(const std::string& path, const std::string& reason);
+  bool Refuse(const std::string& path, std::string_view bytes);
+  // Reads and adopts; an empty path makes a fresh document.
+  bool ReadAndAdopt(const std::string& path, std::string_view bytes);
+  void Adopt(ReadOutcome outcome, const std::string& path);
+  bool SaveTo(const std::string& path);
+  std::optional<std::string> ChooseTarget();
+  void CheckSaved(const std::string& path, const std::string& oldFolder);
+  ReadBack ReadBackFrom(const std::string& path);
+  void PictureArrived(const std::string& pictureFile, bool there);
+  void PutBack(Kept kept) noexcept;
+  void TellFailure(const GuardedWork& work, const std::string& reason);
+  void SetFindings(std::vector<Finding> findings);
+  void ShowCaption();
+  ReadServices Services(ReadProgress* progress);
+
   Host& host_;
   const TextMeasurer& measurer_;
   StartInput input_;
@@ -169,11 +201,12 @@ class Designer {
   std::string documentPath_;
   std::string documentTitle_{kFreshTitle};
   std::vector<Finding> findings_;
-  double zoomFactor_ = 1;
+  double zoomPercent_ = 100;
   int session_ = 0;
   char language_ = 'E';
   bool modified_ = false;
   bool firstActivation_ = false;
+  bool documentShown_ = false;
 };
 
 }  // namespace kev

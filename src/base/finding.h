@@ -17,7 +17,8 @@ enum class FindingKind : std::uint8_t {
   RepeatedKey,      // a head key that stands a second time
   DanglingColumn,   // a position that names no column
   ValueOutOfRange,  // a number that does not fit its field
-  WillNotComeBack   // a form that saving cannot keep
+  WillNotComeBack,  // a form that saving cannot keep
+  MissingFile       // a file that the template names is not there
 };
 
 // "unknown key", "text is lost" and so on, for lists and the command line.

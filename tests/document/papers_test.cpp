@@ -14,9 +14,9 @@ struct Expected {
 };
 
 TEST(Papers, TellingRowsHaveTheirExactSizes) {
-  constexpr Expected kRows[] = {{"LETTER", 1, 12240, 15840},    {"LEGAL", 5, 12240, 20160},
-                                {"EXECUTIVE", 7, 10440, 15120}, {"A3", 8, 16840, 23820},
-                                {"A4", 9, 11900, 16840},        {"A5", 11, 8390, 11905},
+  constexpr Expected kRows[] = {{"LETTER", 1, 12240, 15840},     {"LEGAL", 5, 12240, 20160},
+                                {"EXECUTIVE", 7, 10440, 15120},  {"A3", 8, 16840, 23820},
+                                {"A4", 9, 11900, 16840},         {"A5", 11, 8390, 11905},
                                 {"ENVELOPEDL", 27, 6236, 12473}, {"A2", 66, 23812, 33676}};
   for (const Expected& row : kRows) {
     const auto paper = LookupPaper(row.name);
@@ -28,17 +28,26 @@ TEST(Papers, TellingRowsHaveTheirExactSizes) {
 }
 
 TEST(Papers, OtherSizesFollowThePrintedOnes) {
-  constexpr Expected kRows[] = {
-      {"Tabloid", 3, 15840, 24480},          {"Ledger", 4, 24480, 15840},
-      {"Statement", 6, 7920, 12240},         {"B5", 13, 10318, 14570},
-      {"Envelope #10", 20, 5940, 13680},     {"Envelope #12", 22, 6840, 15840},
-      {"ESizeSheet", 26, 48960, 63360},      {"Envelope C5", 28, 9184, 12983},
-      {"Envelope B6", 35, 9978, 7087},       {"6 3/4 Envelope", 38, 5220, 9360},
-      {"US Std Fanfold", 39, 21420, 15840},  {"Envelope Invite", 47, 12472, 12472},
-      {"A4 Extra", 53, 13349, 18274},        {"Letter Extra Transverse", 56, 13680, 17280},
-      {"Super B", 58, 17291, 27609},         {"Japanese Double Postcard", 69, 11339, 8391},
-      {"A6", 70, 5953, 8391},                {"JCHOU3", 73, 6803, 13323},
-      {"A4 Rotated", 77, 16838, 11906},      {"B5(JIS)ROTATED", 80, 14570, 10318}};
+  constexpr Expected kRows[] = {{"Tabloid", 3, 15840, 24480},
+                                {"Ledger", 4, 24480, 15840},
+                                {"Statement", 6, 7920, 12240},
+                                {"B5", 13, 10318, 14570},
+                                {"Envelope #10", 20, 5940, 13680},
+                                {"Envelope #12", 22, 6840, 15840},
+                                {"ESizeSheet", 26, 48960, 63360},
+                                {"Envelope C5", 28, 9184, 12983},
+                                {"Envelope B6", 35, 9978, 7087},
+                                {"6 3/4 Envelope", 38, 5220, 9360},
+                                {"US Std Fanfold", 39, 21420, 15840},
+                                {"Envelope Invite", 47, 12472, 12472},
+                                {"A4 Extra", 53, 13349, 18274},
+                                {"Letter Extra Transverse", 56, 13680, 17280},
+                                {"Super B", 58, 17291, 27609},
+                                {"Japanese Double Postcard", 69, 11339, 8391},
+                                {"A6", 70, 5953, 8391},
+                                {"JCHOU3", 73, 6803, 13323},
+                                {"A4 Rotated", 77, 16838, 11906},
+                                {"B5(JIS)ROTATED", 80, 14570, 10318}};
   for (const Expected& row : kRows) {
     const auto paper = LookupPaper(row.name);
     ASSERT_TRUE(paper) << row.name;
@@ -67,8 +76,8 @@ TEST(Papers, CaseBlanksAndWhatFollowsTheCommaDoNotMatter) {
 }
 
 TEST(Papers, AlternativeNamesGiveTheSameRow) {
-  constexpr std::pair<const char*, int> kNames[] = {{"b5", 13},     {"b5jis", 13},     {"jisb5", 13},
-                                                    {"jisb4", 12},  {"b4 jis", 12},    {"Envelope10", 20},
+  constexpr std::pair<const char*, int> kNames[] = {{"b5", 13},     {"b5jis", 13},   {"jisb5", 13},
+                                                    {"jisb4", 12},  {"b4 jis", 12},  {"Envelope10", 20},
                                                     {"JKAKU2", 71}, {"B4 (ISO)", 42}};
   for (const auto& [name, code] : kNames)
     EXPECT_EQ(LookupPaper(name).value_or(Paper{}).Code, code) << name;

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "app/designer.h"
+
+#include <algorithm>
+#include <exception>
+#include <new>
+
+#include "app/image_size.h"
+#include "app/text_numbers.h"
+#include "base/files.h"
+#include "base/numbers.h"
+#include "document/sections.h"
+
+namespace kev {
+namespace {
+
+// Where each row stands, to see whether something moved.
+std::vector<std::int32_t> Places(const ObjectTable& objects) {
+  std::vector<std::int32_t> places;
+  for (int row = 1; row <= objects.LastScanned(); ++row)
+    places.push_back(objects[row].AbsoluteY);
+  return places;
+}
+
+// The size that a picture gives to the sides that its template leaves open.
+void FitPicture(ObjectRecord& record, const TextExtent& own) {
+  const bool fixedWidth = record.PictureFixedWidth != kFalse;
+  const bool fixedHeight = record.PictureFixedHeight != kFalse;
+  if (!fixedWidth) record.Width = ToInt32(fixedHeight ? record.Height * own.Width / own.Height : own.Width);
+  if (!fixedHeight) record.Height = ToInt32(fixedWidth ? record.Width * own.Height / own.Width : own.Height);
+}
+
+}  // namespace
+
+struct Designer::Kept {
+  explicit Kept(const Document& document)
+      : count(document.Objects.ObjectCount),
+        current(document.Objects.CurrentObject),
+        focus(document.Objects.FocusObject),
+        selected(document.Objects.SelectionCount),
+        columns(document.Columns),
+        settings(document.Settings) {
+    for (int row = 0; row <= document.Objects.LastScanned(); ++row)
+      rows.push_back(document.Objects[row]);
+  }
+
+  int count, current, focus, selected;
+  std::vector<ObjectRecord> rows;
+  ColumnTable columns;
+  DocumentSettings settings;
+};
+
+Designer::Designer(Host& host, const TextMeasurer& measurer, StartInput input)
+    : host_(host), measurer_(measurer), input_(std::move(input)), pictures_(host, folders_) {
+  pictures_.OnArrival(
+      [this](const std::string& pictureFile, bool there) { PictureArrived(pictureFile, there); });
+}
+
+std::string Designer::TemplateFolder() const {
+  return documentPath_.empty() ? folders_.TempFolder : FolderOf(documentPath_);
+}
+
+std::optional<std::string> Designer::PictureFileOnDisk(std::string_view pictureFile) const {
+  return ResolvePictureFile(pictureFile, folders_, TemplateFolder(), *document_.Page);
+}
+
+void Designer::ShowText(int number, BoxIcon icon, std::string detail) {
+  std::string text = Text(number);
+  if (!detail.empty()) text += ' ';
+  host_.ShowMessage({Text(kTextProgramTitle), std::move(text), std::move(detail), icon});
+}
+
+CreationContext Designer::Creation() {
+  return {document_, attributes_, cursor_, measurer_, pictures_, ZoomFactor(), {}};
+}
+
+ReadServices Designer::Services(ReadProgress* progress) {
+  return {measurer_, pictures_, settings_.DefaultPaperSize, document_.Page, progress};
+}
+
+void Designer::DeriveGeometryAndRedraw() {
+  DeriveGeometry(document_);
+  if (view_ != nullptr) view_->RedrawDocument();
+  const std::vector<std::int32_t> painted = Places(document_.Objects);
+  DeriveGeometry(document_);
+  // What painting measured can move what was painted before it.
+  if (view_ != nullptr && Places(document_.Objects) != painted) view_->RedrawDocument();
+}
+
+bool Designer::Guarded(const GuardedWork& work, const std::function<void()>& body) {
+  std::optional<Kept> kept;
+  std::string reason;
+  try {
+    kept.emplace(document_);
+    body();
+    return true;
+  } catch (const std::bad_alloc&) {
+    reason = "out of memory";
+  } catch (const std::exception& failure) {
+    reason = failure.what();
+  }
+  if (kept) PutBack(std::move(*kept));
+  TellFailure(work, reason);
+  return false;
+}
+
+// Moves only, so that it works where memory is short.
+void Designer::PutBack(Kept kept) noexcept {
+  ObjectTable& objects = document_.Objects;
+  objects.Restart();
+  for (std::size_t row = 0; row < kept.rows.size(); ++row)
+    objects[static_cast<int>(row)] = std::move(kept.rows[row]);
+  objects.ObjectCount = kept.count;
+  objects.CurrentObject = kept.current;
+  objects.FocusObject = kept.focus;
+  objects.SelectionCount = kept.selected;
+  document_.Columns = std::move(kept.columns);
+  document_.Settings = std::move(kept.settings);
+}
+
+void Designer::TellFailure(const GuardedWork& work, const std::string& reason) {
+  try {
+    if (view_ != nullptr) view_->RedrawDocument();
+  } catch (const std::exception&) {
+    // Painting may be what failed; the message below is about that then.
+  }
+  if (work.Message == kTextReadFailed) return TellReadFailure(work.Path, reason);
+  ShowText(work.Message == 0 ? kTextOperationFailed : work.Message, BoxIcon::Critical,
+           work.Path.empty() ? reason : work.Path + "\r\n" + reason);
+}
+
+void Designer::MarkModified() {
+  modified_ = true;
+  ShowCaption();
+}
+
+void Designer::ShowCaption() {
+  host_.ShowCaption(documentTitle_, modified_);
+}
+
+bool Designer::SetZoom(std::string_view text) {
+  const double percent = NumericPrefix(text);
+  const bool good = percent >= kSmallestZoom && percent <= kLargestZoom;
+  if (good) zoomPercent_ = percent;
+  if (view_ == nullptr) return good;
+  view_->ShowZoom(FormatNumber(zoomPercent_) + "%");
+  if (good) view_->RedrawDocument();
+  return good;
+}
+
+void Designer::SetFindings(std::vector<Finding> findings) {
+  findings_ = std::move(findings);
+  if (view_ != nullptr) view_->FindingsChanged();
+}
+
+void Designer::PictureArrived(const std::string& pictureFile, bool there) {
+  const std::optional<std::string> file = there ? PictureFileOnDisk(pictureFile) : std::nullopt;
+  const std::optional<TextExtent> own = file ? ImageSizeOfFile(*file) : std::nullopt;
+  Guarded([&] {
+    for (int row = 1; row <= document_.Objects.LastScanned(); ++row) {
+      ObjectRecord& record = document_.Objects[row];
+      if (record.Kind != ObjectKind::Picture || record.PictureFile != pictureFile) continue;
+      if (!file) record.PictureFile = kMissingPicture;
+      if (own) FitPicture(record, *own);
+    }
+    if (view_ != nullptr) view_->RedrawDocument();
+  });
+}
+
+}  // namespace kev

@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: MIT
+// Opening and saving.
+#include <algorithm>
+#include <filesystem>
+
+#include "app/designer.h"
+#include "app/host_progress.h"
+#include "app/read_back.h"
+#include "app/text_numbers.h"
+#include "base/files.h"
+#include "base/text.h"
+#include "document/sections.h"
+#include "template/skeleton.h"
+#include "template/template_check.h"
+
+namespace kev {
+namespace {
+
+constexpr std::string_view kExtension = ".kev";
+// The question stands under this title in all languages.
+constexpr std::string_view kClosingTitle = "Kev Visual Editor";
+
+int TextOf(Refusal refusal) {
+  switch (refusal) {
+    case Refusal::None:
+      break;
+    case Refusal::NoSections:
+      return kTextNotATemplate;
+    case Refusal::NoHeader:
+      return kTextNoHeader;
+    case Refusal::WrongStructure:
+      return kTextWrongStructure;
+  }
+  return 0;
+}
+
+bool IsTemplateName(std::string_view path) {
+  return CodePage::Default().Upper(path).ends_with(".KEV");
+}
+
+// Pictures that are named relative to the folder that the template has left.
+std::vector<Finding> LostPictures(const Document& document, const std::string& oldFolder,
+                                  const std::string& newFolder) {
+  std::vector<Finding> lost;
+  if (oldFolder == newFolder) return lost;
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+    const ObjectRecord& record = document.Objects[row];
+    if (record.Kind != ObjectKind::Picture) continue;
+    const std::string path = document.Page->ToUtf8(record.PicturePath);
+    if (FindFile(path, oldFolder) && !FindFile(path, newFolder))
+      lost.push_back({0, 0, FindingKind::MissingFile, record.PicturePath, row});
+  }
+  return lost;
+}
+
+}  // namespace
+
+bool Designer::OpenTemplate(const std::string& path, OpenedFrom from) {
+  const std::string file = FindFile(path, {}).value_or(path);
+  std::error_code ignored;
+  if (!command_.SkipsChecks() && !std::filesystem::exists(file, ignored)) {
+    RefuseMissing(path, from);
+    return false;
+  }
+  const Result<std::string> bytes = ReadWholeFile(file);
+  if (!bytes) {
+    TellReadFailure(path, bytes.Error().reason);
+    return false;
+  }
+  if (!command_.SkipsChecks() && Refuse(file, *bytes)) return false;
+  if (ReadAndAdopt(AbsolutePath(file), *bytes)) return true;
+  NewTemplate();
+  return false;
+}
+
+void Designer::RefuseMissing(const std::string& path, OpenedFrom from) {
+  if (from == OpenedFrom::Start) return host_.ShowStatus(Text(kTextFileMissing) + " ", path);
+  ShowText(kTextFileMissing, BoxIcon::Critical, path);
+}
+
+void Designer::TellReadFailure(const std::string& path, const std::string& reason) {
+  host_.ShowMessage({Text(kTextProgramTitle), Text(kTextReadFailed) + "\r\nFile: ", path + "\r\n" + reason});
+}
+
+bool Designer::Refuse(const std::string& path, std::string_view bytes) {
+  const Refusal refusal = RefusalOf(CheckTemplateBytes(bytes, *document_.Page));
+  if (refusal == Refusal::None) return false;
+  ShowText(TextOf(refusal), BoxIcon::Critical, path);
+  return true;
+}
+
+bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes) {
+  pictures_.SetTemplateFolder(path.empty() ? folders_.TempFolder : FolderOf(path));
+  bool adopted = false;
+  const bool finished = Guarded({kTextReadFailed, path}, [&] {
+    HostProgress progress(host_, texts_);
+    Result<ReadOutcome> outcome = ReadTemplateBytes(bytes, Services(&progress));
+    progress.End();
+    if (!outcome) return TellReadFailure(path, outcome.Error().reason);
+    Adopt(std::move(*outcome), path);
+    adopted = true;
+  });
+  if (!adopted) pictures_.SetTemplateFolder(TemplateFolder());
+  return finished && adopted;
+}
+
+void Designer::Adopt(ReadOutcome outcome, const std::string& path) {
+  document_ = std::move(outcome.Read);
+  attributes_ = std::move(outcome.Attributes);
+  cursor_ = {};
+  documentPath_ = path;
+  documentTitle_ = path.empty() ? std::string(kFreshTitle) : FileNameOf(path);
+  modified_ = false;
+  documentShown_ = true;
+  ShowCaption();
+  if (view_ != nullptr) view_->DocumentReplaced();
+  SetFindings(std::move(outcome.Findings));
+  Guarded([this] { DeriveGeometryAndRedraw(); });
+}
+
+bool Designer::OpenFresh(std::string_view bytes) {
+  return ReadAndAdopt({}, bytes);
+}
+
+void Designer::NewTemplate() {
+  const std::string spacing = document_.Settings[Setting::Spacing];
+  // The document is made from the same text in memory, so that it needs no folder.
+  static_cast<void>(WriteSkeleton(folders_.TempFolder, spacing));
+  OpenFresh(SkeletonText(spacing));
+}
+
+bool Designer::AskAndOpen(const std::string& path) {
+  return AskToSave() && OpenTemplate(path);
+}
+
+bool Designer::ChooseAndOpen() {
+  if (!AskToSave()) return false;
+  FileChoice choice;
+  choice.Title = Text(kTextMenuOpen);
+  choice.Folder = documentPath_.empty() ? std::string() : FolderOf(documentPath_);
+  choice.Filters = {{Text(kTextFilesPlain), "*.kev *.KEV"}, {Text(kTextFilesAll), "*"}};
+  const std::optional<std::string> path = host_.ChooseFileToOpen(choice);
+  return path && OpenTemplate(*path);
+}
+
+bool Designer::AskAndNew() {
+  if (!AskToSave()) return false;
+  NewTemplate();
+  return true;
+}
+
+bool Designer::AskToSave() {
+  if (!modified_) return true;
+  const BoxAnswer answer = host_.ShowMessage({std::string(kClosingTitle), Text(kTextSaveChanges) + " ",
+                                              documentTitle_, BoxIcon::Question, BoxButtons::YesNoCancel});
+  if (answer == BoxAnswer::Yes) return Save();
+  return answer == BoxAnswer::No;
+}
+
+bool Designer::Save() {
+  return documentPath_.empty() ? SaveAs() : SaveTo(documentPath_);
+}
+
+bool Designer::SaveAs() {
+  const std::optional<std::string> target = ChooseTarget();
+  return target && SaveTo(*target);
+}
+
+// The chooser asks before it lets a file be replaced, so a name that only becomes one of an existing file by
+// its ending is chosen once more.
+std::optional<std::string> Designer::ChooseTarget() {
+  FileChoice choice;
+  choice.Title = Text(kTextMenuSaveAs);
+  choice.Folder = documentPath_.empty() ? std::string() : FolderOf(documentPath_);
+  choice.SuggestedName = documentTitle_;
+  choice.Filters = {{Text(kTextFilesPlain), "*.kev *.KEV"}, {Text(kTextFilesAll), "*"}};
+  while (true) {
+    const std::optional<std::string> chosen = host_.ChooseFileToSave(choice);
+    if (!chosen || chosen->empty()) return std::nullopt;
+    const std::string path = AbsolutePath(*chosen);
+    if (IsTemplateName(path)) return path;
+    const std::string named = path + std::string(kExtension);
+    if (!FileExists(named)) return named;
+    choice.Folder = FolderOf(named);
+    choice.SuggestedName = FileNameOf(named);
+  }
+}
+
+bool Designer::SaveTo(const std::string& path) {
+  host_.ShowStatus(Text(kTextStatusSaving));
+  WriteReport report;
+  const bool done =
+      Guarded([&] { report = WriteTemplate(path, document_, WriteOptions{command_.WriterComments()}); });
+  if (!done || report.Failure) {
+    host_.ShowStatus("");
+    if (report.Failure)
+      ShowText(kTextWriteFailed, BoxIcon::Critical, report.Failure->path + "\r\n" + report.Failure->reason);
+    return false;
+  }
+  const std::string oldFolder = TemplateFolder();
+  documentPath_ = path;
+  documentTitle_ = FileNameOf(path);
+  modified_ = false;
+  pictures_.SetTemplateFolder(FolderOf(path));
+  ShowCaption();
+  host_.ShowStatus("");
+  for (const std::string& symbology : report.UnnamedSymbologies)
+    host_.ShowMessage({Text(kTextProgramTitle), symbology, {}, BoxIcon::Warning});
+  CheckSaved(path, oldFolder);
+  return true;
+}
+
+// The file is there; whatever is found now only tells about it.
+void Designer::CheckSaved(const std::string& path, const std::string& oldFolder) {
+  Guarded([&] {
+    ReadBack back = ReadBackFrom(path);
+    const bool same = back.Same();
+    const std::vector<Finding> missing = LostPictures(document_, oldFolder, FolderOf(path));
+    back.Findings.insert(back.Findings.end(), missing.begin(), missing.end());
+    if (back.Structure) {
+      host_.ShowStatus(Text(kTextReadBackDiffers));
+    } else if (!same) {
+      host_.ShowStatus(Text(kTextSavedWithFindings));
+    } else if (!missing.empty()) {
+      host_.ShowStatus(Text(kTextRelativePicturesMissing));
+    }
+    SetFindings(std::move(back.Findings));
+  });
+}
+
+ReadBack Designer::ReadBackFrom(const std::string& path) {
+  // Sizes of pictures are not compared unless the template gives them, so that none is looked at or fetched.
+  NoPictures pictures;
+  ReadServices services{measurer_, pictures, settings_.DefaultPaperSize, document_.Page, nullptr};
+  Result<ReadOutcome> outcome = ReadTemplate(path, services);
+  if (!outcome) {
+    return {{{0, 0, FindingKind::WillNotComeBack, outcome.Error().reason, 0}}, true};
+  }
+  DeriveGeometry(outcome->Read);
+  return CompareReadBack(document_, outcome->Read);
+}
+
+}  // namespace kev

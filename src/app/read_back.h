@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// What a saved file gives back, held against what the page shows.
+#pragma once
+
+#include <vector>
+
+#include "base/finding.h"
+#include "document/document.h"
+
+namespace kev {
+
+struct ReadBack {
+  // One for each value, object, setting or column that does not come back; each names the row on the page.
+  std::vector<Finding> Findings;
+  // Whether objects, settings or columns are gone or have appeared, and not only values of them.
+  bool Structure = false;
+
+  bool Same() const { return Findings.empty(); }
+};
+
+// Both with their geometry derived. Rows are matched by what they are and where they stand, not by their
+// index. Only what an object of a kind shows or does is compared.
+ReadBack CompareReadBack(const Document& page, const Document& file);
+
+}  // namespace kev

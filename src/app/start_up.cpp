@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+// The first and the last steps of a run.
+#include <algorithm>
+#include <filesystem>
+
+#include "app/designer.h"
+#include "app/text_numbers.h"
+#include "base/files.h"
+
+namespace kev {
+namespace {
+
+bool IsSampleCopy(const std::string& name) {
+  const std::string capitals = CodePage::Default().Upper(name);
+  return capitals.starts_with("SAMPLEDATA") && (capitals.ends_with(".KEX") || capitals.ends_with(".KED"));
+}
+
+// All of them, whoever left them there.
+void DeleteSampleCopies(const std::string& folder) {
+  std::error_code ignored;
+  std::vector<std::string> copies;
+  for (std::filesystem::directory_iterator at(folder, ignored), end; !ignored && at != end;
+       at.increment(ignored)) {
+    if (IsSampleCopy(at->path().filename().string())) copies.push_back(at->path().string());
+  }
+  for (const std::string& copy : copies) {
+    if (FileExists(copy)) DeleteFileIfThere(copy);
+  }
+}
+
+std::string InLines(const std::vector<std::string>& texts) {
+  std::string lines;
+  for (const std::string& text : texts)
+    lines.append(lines.empty() ? "" : "\r\n").append(text);
+  return lines;
+}
+
+}  // namespace
+
+bool Designer::Load() {
+  zoomPercent_ = 100;
+  folders_ = FindFolders(input_.Variables, input_.ProgramFolder);
+  theme_ = LoadTheme(InProgramFolder(folders_, kThemeFile));
+  language_ = FindActiveLanguage(folders_);
+  Result<LanguageTexts> texts = LoadLanguage(InProgramFolder(folders_, "\\Kev.lng"), language_);
+  if (!texts) {
+    host_.ShowMessage({std::string(kLanguageErrorTitle), std::string(kLanguageErrorText), {}});
+    return false;
+  }
+  texts_ = std::move(*texts);
+  command_ = ParseCommandLine(input_.Arguments);
+  firstActivation_ = true;
+  return true;
+}
+
+bool Designer::BeginActivation() {
+  return std::exchange(firstActivation_, false);
+}
+
+void Designer::SplashLoad() {
+  command_.CommandLine = ResolveTemplatePath(command_.CommandLine);
+  document_.Objects.Restart();
+  document_.Columns.Clear();
+  document_.Settings = DocumentSettings();
+  language_ = FindActiveLanguage(folders_);
+  session_ = NextSession(InDataFolder(folders_, kSessionFile));
+  options_ = LoadOptions(InDataFolder(folders_, kLastRunFile));
+  settings_ = LoadUserSettings(InDataFolder(folders_, kSettingsFile));
+  if (const CodePage* page = CodePage::Find(settings_.CodePageName)) document_.Page = page;
+  pictures_.SetPage(*document_.Page);
+}
+
+void Designer::AfterSplash() {
+  TellMissingFolders();
+  DecideTemplate();
+}
+
+void Designer::TellMissingFolders() {
+  const std::vector<std::string> missing = MissingFolders(folders_);
+  if (!missing.empty()) ShowText(kTextFolderMissing, BoxIcon::Warning, InLines(missing));
+}
+
+void Designer::DecideTemplate() {
+  if (!command_.CommandLine.empty() && OpenTemplate(command_.CommandLine, OpenedFrom::Start)) return;
+  if (!documentShown_) NewTemplate();
+}
+
+void Designer::ShutDown() {
+  const auto failure = SaveOptions(InDataFolder(folders_, kLastRunFile), options_);
+  // A folder that is missing altogether was told at the start.
+  if (failure && FolderExists(folders_.DataFolder))
+    ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
+  DeleteSampleCopies(folders_.DataFolder);
+}
+
+void Designer::ChooseLanguage(char letter) {
+  if (const auto failure = WriteActiveLanguage(folders_, letter))
+    return ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
+  ShowText(kTextLanguageAtNextStart, BoxIcon::Information);
+}
+
+}  // namespace kev
