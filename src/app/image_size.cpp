@@ -45,7 +45,7 @@ std::optional<TextExtent> Pixels(double width, double height) {
 }
 
 std::optional<TextExtent> PngSize(std::string_view bytes) {
-  if (bytes.substr(12, 4) != "IHDR") return std::nullopt;
+  if (bytes.size() < 24 || bytes.substr(12, 4) != "IHDR") return std::nullopt;
   return Pixels(Big32(bytes, 16), Big32(bytes, 20));
 }
 

@@ -94,7 +94,8 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes) {
   bool adopted = false;
   const bool finished = Guarded({kTextReadFailed, path}, [&] {
     HostProgress progress(host_, texts_);
-    Result<ReadOutcome> outcome = ReadTemplateBytes(bytes, Services(&progress));
+    // A fresh document is there at once; what the status line says about another file stays.
+    Result<ReadOutcome> outcome = ReadTemplateBytes(bytes, Services(path.empty() ? nullptr : &progress));
     progress.End();
     if (!outcome) return TellReadFailure(path, outcome.Error().reason);
     Adopt(std::move(*outcome), path);

@@ -8,6 +8,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "chart/definition.h"
 #include "document/object_fields.h"
 
 namespace kev {
@@ -200,8 +201,8 @@ Item ItemOf(const ObjectRecord& record, int row, const CodePage& page) {
   Item item{row, record.Kind, record.OwnerName, {}, {}, false};
   for (const std::string_view field : FieldsOf(record.Kind))
     item.values.push_back({field, Comparable(record, FieldNamed(field), page)});
-  for (const std::string& value : record.ChartValues)
-    item.values.push_back({"ChartValues", value});
+  for (std::size_t slot = 0; slot < std::min(record.ChartValues.size(), kChartKeyCount); ++slot)
+    item.values.push_back({ChartKeys()[slot].key, record.ChartValues[slot]});
   item.all = std::string(KindText(record.Kind)) + '\0' + item.owner;
   for (const Value& value : item.values)
     item.all.append(1, '\0').append(value.text);

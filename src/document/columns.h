@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -23,8 +24,8 @@ class ColumnTable {
   static constexpr int kLastSlot = 100;
 
   // Slots 1 to 100 are columns; slot 0 is never used. Anything else throws std::out_of_range.
-  Column& operator[](int slot) { return slots_.at(static_cast<std::size_t>(slot)); }
-  const Column& operator[](int slot) const { return slots_.at(static_cast<std::size_t>(slot)); }
+  Column& operator[](int slot) { return slots_[Checked(slot)]; }
+  const Column& operator[](int slot) const { return slots_[Checked(slot)]; }
 
   // The first slot with this name, in any case; 0 when there is none. A free slot never matches.
   int Find(std::string_view name, const CodePage& page = CodePage::Default()) const;
@@ -33,6 +34,12 @@ class ColumnTable {
   bool operator==(const ColumnTable&) const = default;
 
  private:
+  // The sentence is what a user reads when a command or a file goes beyond the table.
+  static std::size_t Checked(int slot) {
+    if (slot < 0 || slot > kLastSlot) throw std::out_of_range("a template holds at most 100 columns");
+    return static_cast<std::size_t>(slot);
+  }
+
   std::array<Column, kLastSlot + 1> slots_;
 };
 

@@ -2,6 +2,7 @@
 // The fixed table of all objects: rows 1 to 2001. A row is free exactly when its kind is None.
 #pragma once
 
+#include <stdexcept>
 #include <vector>
 
 #include "document/object_record.h"
@@ -14,8 +15,8 @@ class ObjectTable {
   static constexpr int kFirstCount = 50;
 
   // An index outside 0 to 2001 throws std::out_of_range; this is how the limit of the table shows.
-  ObjectRecord& operator[](int row) { return rows_.at(static_cast<std::size_t>(row)); }
-  const ObjectRecord& operator[](int row) const { return rows_.at(static_cast<std::size_t>(row)); }
+  ObjectRecord& operator[](int row) { return rows_[Checked(row)]; }
+  const ObjectRecord& operator[](int row) const { return rows_[Checked(row)]; }
 
   // The highest row that loops look at; not a count of objects. It grows by ten and may step beyond the
   // table.
@@ -41,6 +42,12 @@ class ObjectTable {
   void RowChanged(int row);
 
  private:
+  // The sentence is what a user reads when a command or a file goes beyond the table.
+  static std::size_t Checked(int row) {
+    if (row < 0 || row > kLastRow) throw std::out_of_range("a template holds at most 2001 objects");
+    return static_cast<std::size_t>(row);
+  }
+
   std::vector<ObjectRecord> rows_ = std::vector<ObjectRecord>(kLastRow + 1);
   // No row below this one is free, so that filling the table takes one walk and not one for each object.
   int firstMaybeFree_ = 1;

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+// A designer in folders of its own, with a scripted host and a view that counts.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/designer.h"
+#include "app/text_numbers.h"
+#include "document/text_measurer.h"
+#include "support/run_tool.h"
+#include "support/scripted_host.h"
+
+namespace kev::test {
+
+class CountingView final : public DesignerView {
+ public:
+  int Replaced = 0, Redrawn = 0, FindingLists = 0;
+  std::string Zoom;
+  std::function<void()> OnRedraw;
+
+  void DocumentReplaced() override { ++Replaced; }
+  void RedrawDocument() override {
+    ++Redrawn;
+    if (OnRedraw) OnRedraw();
+  }
+  void ShowZoom(std::string_view text) override { Zoom = text; }
+  void FindingsChanged() override { ++FindingLists; }
+};
+
+class DesignerTest : public testing::Test {
+ protected:
+  DesignerTest() {
+    for (const char* folder : {"temp/Kev/Cache", "temp/Kev/Temp", "data/Kev/temp", "program", "work"})
+      std::filesystem::create_directories(root_ / folder);
+    std::filesystem::create_symlink(KEV_PROGRAM_DIR "/Kev.lng", root_ / "program/Kev.lng");
+  }
+
+  std::string Temp(const std::string& name) const { return root_ / ("temp/Kev/" + name); }
+  std::string Data(const std::string& name) const { return root_ / ("data/Kev/" + name); }
+  std::string Work(const std::string& name) const { return root_ / ("work/" + name); }
+
+  std::string Made(const std::string& name, const std::string& bytes) const {
+    WriteBytes(Work(name), bytes);
+    return Work(name);
+  }
+
+  std::unique_ptr<Designer> Make(std::vector<std::string> arguments = {}) {
+    const std::map<std::string, std::string> variables = variables_;
+    StartInput input{[variables](std::string_view name) -> std::optional<std::string> {
+                       const auto found = variables.find(std::string(name));
+                       return found == variables.end() ? std::nullopt : std::optional(found->second);
+                     },
+                     root_ / "program", std::move(arguments)};
+    auto designer = std::make_unique<Designer>(host_, measurer_, std::move(input));
+    designer->AttachView(&view_);
+    return designer;
+  }
+
+  // The whole start, as the window runs it.
+  std::unique_ptr<Designer> Start(std::vector<std::string> arguments = {}) {
+    std::unique_ptr<Designer> designer = Make(std::move(arguments));
+    EXPECT_TRUE(designer->Load());
+    EXPECT_TRUE(designer->BeginActivation());
+    designer->SplashLoad();
+    designer->AfterSplash();
+    return designer;
+  }
+
+  // One message with this text was shown since the last look.
+  void ExpectMessage(const Designer& designer, int number) {
+    ASSERT_EQ(host_.Messages.size(), 1U) << "for text " << number;
+    EXPECT_TRUE(host_.Messages[0].Text.starts_with(designer.Text(number))) << host_.Messages[0].Text;
+    EXPECT_EQ(host_.Messages[0].Title, designer.Text(kTextProgramTitle));
+    host_.Messages.clear();
+  }
+
+  TemporaryFolder root_;
+  std::map<std::string, std::string> variables_ = {{"TEMP", root_ / "temp"}, {"appdata", root_ / "data"}};
+  ScriptedHost host_;
+  BuiltInMeasurer measurer_;
+  CountingView view_;
+};
+
+inline int CountOf(const Designer& designer, ObjectKind kind) {
+  int count = 0;
+  const ObjectTable& objects = designer.OpenDocument().Objects;
+  for (int row = 1; row <= objects.LastScanned(); ++row)
+    count += objects[row].Kind == kind ? 1 : 0;
+  return count;
+}
+
+inline std::string TemplateWith(const std::string& data) {
+  return "KEXVER=4\r\n[HEADER]\r\n{Spacing=400;\\n}\r\n[DATA]\r\n" + data +
+         "{Spacing=400;\\n}\r\n[FOOTER]\r\n{Spacing=400;\\n}\r\n";
+}
+
+}  // namespace kev::test

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "app/folders.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "support/run_tool.h"
+
+namespace kev {
+namespace {
+
+Environment Of(std::map<std::string, std::string> variables) {
+  return [variables](std::string_view name) -> std::optional<std::string> {
+    const auto found = variables.find(std::string(name));
+    if (found == variables.end()) return std::nullopt;
+    return found->second;
+  };
+}
+
+TEST(Folders, TempComesFromTempThenTmp) {
+  EXPECT_EQ(FindFolders(Of({{"TEMP", "/t"}, {"TMP", "/u"}}), "/p").TempFolder, "/t/Kev");
+  EXPECT_EQ(FindFolders(Of({{"TEMP", ""}, {"TMP", "/u"}}), "/p").TempFolder, "/u/Kev");
+  EXPECT_EQ(FindFolders(Of({{"TMP", "/u/"}}), "/p").TempFolder, "/u/Kev");
+}
+
+TEST(Folders, WithNeitherTheFolderLiesAtTheRoot) {
+  EXPECT_EQ(FindFolders(Of({}), "/p").TempFolder, "/Kev");
+  EXPECT_EQ(FindFolders(Of({{"TEMP", ""}, {"TMP", ""}}), "/p").TempFolder, "/Kev");
+}
+
+TEST(Folders, DataComesFromAppdataInEitherCase) {
+  EXPECT_EQ(FindFolders(Of({{"appdata", "/a"}, {"APPDATA", "/b"}}), "/p").DataFolder, "/a/Kev");
+  EXPECT_EQ(FindFolders(Of({{"APPDATA", "/b"}}), "/p").DataFolder, "/b/Kev");
+}
+
+TEST(Folders, DataDirBesideTheExecutableComesFirst) {
+  const test::TemporaryFolder program;
+  test::WriteBytes(program / "activelang", "DATADIR=/data\r\nACTIVELANG=s\r\n");
+  const DesignerFolders folders = FindFolders(Of({{"appdata", "/a"}}), (program / ""));
+  EXPECT_EQ(folders.DataFolder, "/data/Kev");
+  EXPECT_EQ(FindActiveLanguage(folders), 'S');
+  test::WriteBytes(program / "activelang", "DATADIR=\r\n");
+  EXPECT_EQ(FindFolders(Of({{"appdata", "/a"}}), (program / "")).DataFolder, "/a/Kev");
+}
+
+TEST(Folders, TheLanguageChosenByTheUserOverridesTheInstalledOne) {
+  const test::TemporaryFolder program, data;
+  std::filesystem::create_directory(data / "Kev");
+  DesignerFolders folders;
+  folders.ProgramFolder = (program / "");
+  folders.DataFolder = (data / "Kev");
+  EXPECT_EQ(FindActiveLanguage(folders), 'E');
+  test::WriteBytes(program / "activelang", "ACTIVELANG=I");
+  EXPECT_EQ(FindActiveLanguage(folders), 'I');
+  EXPECT_FALSE(WriteActiveLanguage(folders, 'P'));
+  EXPECT_EQ(FindActiveLanguage(folders), 'P');
+}
+
+TEST(Folders, MissingOnesAreNamedAndNoneIsMade) {
+  const test::TemporaryFolder root;
+  std::filesystem::create_directories(root / "Kev/Cache");
+  const DesignerFolders folders = FindFolders(Of({{"TEMP", (root / "")}, {"appdata", (root / "no")}}), "/p");
+  EXPECT_EQ(MissingFolders(folders),
+            (std::vector<std::string>{(root / "Kev/Temp"), (root / "no/Kev"), (root / "no/Kev/temp")}));
+  EXPECT_FALSE(std::filesystem::exists(root / "Kev/Temp"));
+}
+
+TEST(Folders, TheExecutableLiesInOne) {
+  EXPECT_TRUE(std::filesystem::exists(ExecutableFolder()));
+  EXPECT_EQ(ExecutableFolder(), std::filesystem::canonical(KEV_PROGRAM_DIR).string());
+}
+
+}  // namespace
+}  // namespace kev

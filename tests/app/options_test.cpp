@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "app/options.h"
+
+#include <gtest/gtest.h>
+
+#include "base/files.h"
+#include "support/run_tool.h"
+
+namespace kev {
+namespace {
+
+class OptionsFile : public testing::Test {
+ protected:
+  std::string Path() const { return (folder_ / "LASTRV.DAT"); }
+  std::string Bytes() const { return *ReadWholeFile(Path()); }
+
+  test::TemporaryFolder folder_;
+};
+
+TEST_F(OptionsFile, AFirstRunWritesItWithoutAHeadingInItsFixedOrder) {
+  EXPECT_EQ(LoadOptions(Path()), DesignerOptions());
+  EXPECT_EQ(Bytes(),
+            "SHOWWELCOME=1\r\nPROPFIX=1\r\nPROPLEFT=1000\r\nPROPTOP=1000\r\nPROPHEIGHT=3000\r\n"
+            "PROPWIDTH=3000\r\nPROPFIXWIDTH=3500\r\nLAST_FONTNAME=Arial\r\nLAST_FONTSIZE=8\r\n"
+            "LAST_FONTCOLOR=0,0,0\r\nLAST_FONTUNDERLINE=N\r\nLAST_FONTITALIC=N\r\n"
+            "LAST_TEXTBOX_FONTNAME=Arial\r\nLAST_TEXTBOX_FONTSIZE=8\r\nLAST_TEXTBOX_FONTCOLOR=0,0,0\r\n"
+            "LAST_TEXTBOX_BACKCOLOR=255,255,255\r\nLAST_TEXTBOX_FONTUNDERLINE=N\r\n"
+            "LAST_TEXTBOX_FONTCHARSET=0\r\nLAST_TEXTBOX_FONTITALIC=N\r\nSHOWQUICKPROPS=1\r\n");
+}
+
+TEST_F(OptionsFile, TheEndOfARunWritesTheHeadingAndFifteenKeys) {
+  DesignerOptions options;
+  options.PropFix = kPanelClosed;
+  options.LastFontItalic = true;
+  options.QuickPropsX = -30;
+  EXPECT_FALSE(SaveOptions(Path(), options));
+  EXPECT_EQ(Bytes(),
+            "# LAST RUN DESIGNER OPTIONS\r\nSHOWWELCOME=1\r\nPROPFIX=-1\r\nPROPLEFT=1000\r\nPROPTOP=1000\r\n"
+            "PROPHEIGHT=3000\r\nPROPWIDTH=3000\r\nPROPFIXWIDTH=3500\r\nLAST_FONTNAME=Arial\r\n"
+            "LAST_FONTSIZE=8\r\nLAST_FONTCOLOR=0,0,0\r\nLAST_FONTUNDERLINE=N\r\nLAST_FONTITALIC=Y\r\n"
+            "SHOWQUICKPROPS=1\r\nQUICKPROPSX=-30\r\nQUICKPROPSY=\r\n");
+  EXPECT_EQ(Bytes().find("LAST_TEXTBOX"), std::string::npos);
+}
+
+TEST_F(OptionsFile, WhatWasWrittenComesBack) {
+  DesignerOptions options;
+  options.ShowWelcome = 0;
+  options.PropFix = kPanelClosed;
+  options.PropLeft = -5;
+  options.PropFixWidth = 4000;
+  options.LastFontName = "Courier New";
+  options.LastFontSize = 12;
+  options.LastFontColor = "1,2,3";
+  options.LastFontUnderline = true;
+  options.QuickPropsX = 0;
+  options.QuickPropsY = 77;
+  EXPECT_FALSE(SaveOptions(Path(), options));
+  EXPECT_EQ(LoadOptions(Path()), options);
+}
+
+TEST(Options, EmptyOrNoNumberGivesTheDefaultAndAWrittenZeroStands) {
+  EXPECT_EQ(ReadOptions("PROPLEFT=\nPROPTOP=abc\nPROPWIDTH=-\n"), DesignerOptions());
+  const DesignerOptions zeros = ReadOptions(
+      "SHOWWELCOME=0\nPROPFIX=0\nPROPLEFT=0\nPROPTOP=0\nPROPHEIGHT=0\nPROPWIDTH=0\nPROPFIXWIDTH=0\n"
+      "LAST_FONTSIZE=0\nSHOWQUICKPROPS=0\nQUICKPROPSX=0\n");
+  EXPECT_EQ(zeros.ShowWelcome, 0);
+  EXPECT_EQ(zeros.PropFix, 0);
+  EXPECT_EQ(zeros.PropLeft, 0);
+  EXPECT_EQ(zeros.PropTop, 0);
+  EXPECT_EQ(zeros.PropHeight, 0);
+  EXPECT_EQ(zeros.PropWidth, 0);
+  EXPECT_EQ(zeros.PropFixWidth, 3500);
+  EXPECT_EQ(zeros.LastFontSize, 8);
+  EXPECT_EQ(zeros.ShowQuickProps, 0);
+  EXPECT_EQ(zeros.QuickPropsX, 0);
+  EXPECT_EQ(zeros.QuickPropsY, std::nullopt);
+}
+
+TEST(Options, ThePanelHasFourPlaces) {
+  for (const int place : {-1, 0, 1, 3})
+    EXPECT_EQ(ReadOptions("PROPFIX=" + std::to_string(place)).PropFix, place);
+  for (const char* place : {"2", "4", "-2", "x"})
+    EXPECT_EQ(ReadOptions(std::string("PROPFIX=") + place).PropFix, 1) << place;
+}
+
+TEST(Options, FontSizesOutside1To72AreTheDefault) {
+  EXPECT_EQ(ReadOptions("LAST_FONTSIZE=72").LastFontSize, 72);
+  EXPECT_EQ(ReadOptions("LAST_FONTSIZE=73").LastFontSize, 8);
+  EXPECT_EQ(ReadOptions("LAST_FONTSIZE=-1").LastFontSize, 8);
+  EXPECT_EQ(ReadOptions("LAST_TEXTBOX_FONTSIZE=73").LastTextBoxFontSize, 8);
+  EXPECT_EQ(ReadOptions("LAST_TEXTBOX_FONTSIZE=9").LastTextBoxFontSize, 9);
+}
+
+TEST(Options, OnlyACapitalYIsTrue) {
+  EXPECT_TRUE(ReadOptions("LAST_FONTITALIC=Y").LastFontItalic);
+  for (const char* value : {"y", "Yes", "1", "-1", ""})
+    EXPECT_FALSE(ReadOptions(std::string("LAST_FONTITALIC=") + value).LastFontItalic) << value;
+}
+
+TEST(Options, TheBackColourIsAskedForUnderAnotherNameThanTheOneWritten) {
+  EXPECT_EQ(ReadOptions("LAST_TEXTBOX_BACKCOLOR=1,2,3").LastTextBoxBackColor, "255,255,255");
+  EXPECT_EQ(ReadOptions("LAST_TEXTBOX_BACKFONTCOLOR=1,2,3").LastTextBoxBackColor, "1,2,3");
+}
+
+TEST(Options, CommentsAndBracketedLinesHoldNoKey) {
+  EXPECT_EQ(ReadOptions("# PROPLEFT=5\n[PROPTOP=6\n[x]\n# x\npropwidth=7\n").PropWidth, 7);
+  EXPECT_EQ(ReadOptions("# PROPLEFT=5\n[PROPTOP=6").PropLeft, 1000);
+  EXPECT_EQ(ReadOptions("# PROPLEFT=5\n[PROPTOP=6").PropTop, 1000);
+}
+
+TEST_F(OptionsFile, WhereItCannotBeMadeTheDefaultsHold) {
+  test::WriteBytes(folder_ / "file", "x");
+  const std::string path = (folder_ / "file/LASTRV.DAT");
+  EXPECT_EQ(LoadOptions(path), DesignerOptions());
+  EXPECT_TRUE(SaveOptions(path, DesignerOptions()));
+}
+
+TEST_F(OptionsFile, AFailedWriteLeavesTheOldOne) {
+  // A folder in its place can't be replaced by a file.
+  std::filesystem::create_directory(Path());
+  EXPECT_TRUE(SaveOptions(Path(), DesignerOptions()));
+  EXPECT_TRUE(FolderExists(Path()));
+}
+
+TEST(Options, PanelsOffTheScreenAreMovedIn) {
+  const PanelArea screen{0, 0, 20000, 15000};
+  PanelArea right{30000, 16000, 3000, 2000};
+  MovePanelIn(right, screen);
+  EXPECT_EQ(right, (PanelArea{17000, 13000, 3000, 2000}));
+  PanelArea left{-500, -1, 3000, 2000};
+  MovePanelIn(left, screen);
+  EXPECT_EQ(left, (PanelArea{0, 0, 3000, 2000}));
+  PanelArea inside{100, 200, 3000, 2000};
+  MovePanelIn(inside, screen);
+  EXPECT_EQ(inside, (PanelArea{100, 200, 3000, 2000}));
+  PanelArea huge{5, 5, 2000000000, 2000000000};
+  MovePanelIn(huge, screen);
+  EXPECT_EQ(huge.Left, 0);
+  EXPECT_EQ(huge.Top, 0);
+}
+
+TEST_F(OptionsFile, TheUserSettingsHaveDefaults) {
+  const std::string path = (folder_ / "KEV.INI");
+  EXPECT_EQ(LoadUserSettings(path).DefaultEditor, "notepad");
+  EXPECT_EQ(LoadUserSettings(path).DefaultPaperSize, "A4");
+  test::WriteBytes(path, "default_editor = vi -R\r\nDEFAULT_PAPERSIZE=\r\nCODEPAGE=windows-1250\r\n");
+  // The key is all that stands before the "=", its blank included.
+  EXPECT_EQ(LoadUserSettings(path).DefaultEditor, "notepad");
+  test::WriteBytes(path, "default_editor= vi -R\r\nDEFAULT_PAPERSIZE=\r\nCODEPAGE=windows-1250\r\n");
+  EXPECT_EQ(LoadUserSettings(path).DefaultEditor, "vi -R");
+  EXPECT_EQ(LoadUserSettings(path).DefaultPaperSize, "A4");
+  EXPECT_EQ(LoadUserSettings(path).CodePageName, "windows-1250");
+}
+
+TEST_F(OptionsFile, EachRunCountsOneMore) {
+  const std::string path = (folder_ / "SN.DAT");
+  EXPECT_EQ(NextSession(path), 1);
+  EXPECT_EQ(*ReadWholeFile(path), "SESSID=1\r\n");
+  EXPECT_EQ(NextSession(path), 2);
+  EXPECT_EQ(NextSession(path), 3);
+  EXPECT_EQ(*ReadWholeFile(path), "SESSID=3\r\n");
+  test::WriteBytes(path, "nonsense");
+  EXPECT_EQ(NextSession(path), 1);
+  EXPECT_EQ(NextSession((folder_ / "missing/SN.DAT")), 1);
+}
+
+}  // namespace
+}  // namespace kev

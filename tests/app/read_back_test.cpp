@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "app/read_back.h"
+
+#include <gtest/gtest.h>
+
+#include "chart/definition.h"
+
+namespace kev {
+namespace {
+
+int Add(Document& document, ObjectKind kind, const std::string& content, std::int32_t y) {
+  const int row = document.Objects.TakeFreeRow();
+  ObjectRecord& record = document.Objects[row];
+  record.Kind = kind;
+  record.Content = content;
+  record.XValue = "100";
+  record.Y = y;
+  record.OwnerName = "[DATA]";
+  return row;
+}
+
+class ReadingBack : public testing::Test {
+ protected:
+  ReadingBack() {
+    for (Document* document : {&page_, &file_}) {
+      Add(*document, ObjectKind::Label, "A", 0);
+      Add(*document, ObjectKind::Box, "", 200);
+    }
+  }
+
+  Document page_, file_;
+};
+
+TEST_F(ReadingBack, EqualDocumentsHaveNoFindings) {
+  EXPECT_TRUE(CompareReadBack(page_, file_).Same());
+}
+
+TEST_F(ReadingBack, TheOrderOfRowsDoesNotMatter) {
+  std::swap(file_.Objects[1], file_.Objects[2]);
+  EXPECT_TRUE(CompareReadBack(page_, file_).Same());
+}
+
+TEST_F(ReadingBack, FormsThatMeanTheSameAreNoDifference) {
+  page_.Objects[1].XValue = "0";
+  file_.Objects[1].XValue = "0.001";
+  page_.Objects[1].Align = "";
+  file_.Objects[1].Align = "L";
+  page_.Objects[1].CaseMode = "";
+  file_.Objects[1].CaseMode = "N";
+  page_.Objects[2].LineWidth = 0;
+  file_.Objects[2].LineWidth = 1;
+  EXPECT_TRUE(CompareReadBack(page_, file_).Same());
+}
+
+TEST_F(ReadingBack, AChangedValueNamesItsFieldAndItsRow) {
+  page_.Objects[1].Strikethrough = kTrue;
+  const ReadBack back = CompareReadBack(page_, file_);
+  ASSERT_EQ(back.Findings.size(), 1U);
+  EXPECT_EQ(back.Findings[0].Row, 1);
+  EXPECT_EQ(back.Findings[0].Text, "LABEL Strikethrough: -1 becomes 0");
+  EXPECT_FALSE(back.Structure);
+}
+
+TEST_F(ReadingBack, WhatAKindNeverShowsIsNotCompared) {
+  page_.Objects[2].FontName = "Courier New";
+  page_.Objects[1].LineWidth = 4;
+  page_.Objects[1].Selected = kTrue;
+  page_.Objects[1].SortKey = "x";
+  EXPECT_TRUE(CompareReadBack(page_, file_).Same());
+}
+
+TEST_F(ReadingBack, LostAndNewObjectsAreStructure) {
+  const int lost = Add(page_, ObjectKind::Circle, "", 900);
+  const ReadBack back = CompareReadBack(page_, file_);
+  ASSERT_EQ(back.Findings.size(), 1U);
+  EXPECT_EQ(back.Findings[0].Row, lost);
+  EXPECT_TRUE(back.Structure);
+  Add(file_, ObjectKind::Label, "new", 500);
+  EXPECT_EQ(CompareReadBack(page_, file_).Findings.size(), 2U);
+}
+
+TEST_F(ReadingBack, AnObjectThatComesBackAsAnotherKindIsStructure) {
+  file_.Objects[1].Kind = ObjectKind::Barcode;
+  const ReadBack back = CompareReadBack(page_, file_);
+  ASSERT_EQ(back.Findings.size(), 1U);
+  EXPECT_EQ(back.Findings[0].Text, "LABEL becomes BARCODE");
+  EXPECT_TRUE(back.Structure);
+}
+
+TEST_F(ReadingBack, SettingsAndColumnsAreCompared) {
+  page_.Settings[Setting::MAILTO] = "a@b";
+  page_.Columns[3] = {"$Col_03", 500, ""};
+  page_.Settings[Setting::Orientation] = "3";  // any other than 1 is written and read as 2
+  file_.Settings[Setting::Orientation] = "2";
+  const ReadBack back = CompareReadBack(page_, file_);
+  ASSERT_EQ(back.Findings.size(), 2U);
+  EXPECT_TRUE(back.Structure);
+  file_.Columns[1] = {"$Col_03", 500, ""};
+  EXPECT_EQ(CompareReadBack(page_, file_).Findings.size(), 1U);
+}
+
+TEST_F(ReadingBack, ChartValuesAreCompared) {
+  const int chart = Add(page_, ObjectKind::Chart, "", 700);
+  Add(file_, ObjectKind::Chart, "", 700);
+  page_.Objects[chart].ChartValues = {"a", "b"};
+  file_.Objects[3].ChartValues = {"a", "c"};
+  EXPECT_EQ(CompareReadBack(page_, file_).Findings.at(0).Text, "CHART " + std::string(ChartKeys()[1].key) + ": b becomes c");
+}
+
+TEST_F(ReadingBack, TheListOfFindingsHasAnEnd) {
+  for (int row = 0; row < 1500; ++row)
+    Add(page_, ObjectKind::Label, std::to_string(row), row);
+  EXPECT_EQ(CompareReadBack(page_, file_).Findings.size(), 1000U);
+}
+
+}  // namespace
+}  // namespace kev

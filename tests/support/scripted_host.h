@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+// A Host without a window: it keeps what it was told and answers from a script.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/host.h"
+
+namespace kev::test {
+
+class ScriptedHost final : public Host {
+ public:
+  struct Fetch {
+    std::string Address, File;
+    std::function<void(bool)> Done;
+  };
+
+  std::vector<MessageBox> Messages;
+  std::deque<BoxAnswer> Answers;  // taken one by one; Ok when there are none left
+  std::string Status, StatusDetail, Selection;
+  std::vector<std::string> StatusHistory;
+  std::string Caption;
+  bool CaptionModified = false;
+  int ProgressMaximum = 0, ProgressValue = 0, ProgressBegun = 0, ProgressEnded = 0;
+  std::deque<std::optional<std::string>> FilesToOpen, FilesToSave;
+  std::vector<FileChoice> Choices;
+  std::vector<Fetch> Fetches;
+
+  BoxAnswer ShowMessage(const MessageBox& box) override {
+    Messages.push_back(box);
+    return Take(Answers, BoxAnswer::Ok);
+  }
+  void ShowStatus(std::string_view text, std::string_view detail) override {
+    Status = text;
+    StatusDetail = detail;
+    StatusHistory.emplace_back(text);
+  }
+  void ShowSelectionStatus(std::string_view text) override { Selection = text; }
+  void BeginProgress(std::string_view, int maximum) override {
+    ++ProgressBegun;
+    ProgressMaximum = maximum;
+  }
+  void StepProgress(int value, std::string_view) override { ProgressValue = value; }
+  void EndProgress() override { ++ProgressEnded; }
+  std::optional<std::string> ChooseFileToOpen(const FileChoice& choice) override {
+    Choices.push_back(choice);
+    return Take(FilesToOpen, std::optional<std::string>());
+  }
+  std::optional<std::string> ChooseFileToSave(const FileChoice& choice) override {
+    Choices.push_back(choice);
+    return Take(FilesToSave, std::optional<std::string>());
+  }
+  void ShowCaption(std::string_view documentTitle, bool modified) override {
+    Caption = documentTitle;
+    CaptionModified = modified;
+  }
+  void FetchPicture(std::string_view address, std::string_view file,
+                    std::function<void(bool)> done) override {
+    Fetches.push_back({std::string(address), std::string(file), std::move(done)});
+  }
+
+ private:
+  template <typename Value>
+  static Value Take(std::deque<Value>& script, Value otherwise) {
+    if (script.empty()) return otherwise;
+    Value value = std::move(script.front());
+    script.pop_front();
+    return value;
+  }
+};
+
+}  // namespace kev::test
