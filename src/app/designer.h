@@ -24,6 +24,7 @@
 #include "document/document.h"
 #include "document/object_creation.h"
 #include "template/reader.h"
+#include "template/sample_copy.h"
 #include "template/writer.h"
 
 namespace kev {
@@ -61,6 +62,9 @@ struct StartInput {
   Environment Variables;               // of the process
   std::string ProgramFolder;           // see ExecutableFolder
   std::vector<std::string> Arguments;  // without the program's name
+  std::function<ClockTime()> Clock = LocalTime;
+
+  static ClockTime LocalTime();
 };
 
 // Who wants a template opened; it decides only where a missing file is told.
@@ -105,6 +109,9 @@ class Designer {
   // False when the user gave up or the file could not be written.
   bool Save();
   bool SaveAs();
+  // Writes the document as it stands and renews the copy of its sample data, for a save, the test run and the
+  // external editor. Path, title and mark stay; what went wrong is in the report and not shown.
+  WriteReport WriteDocument(const std::string& path);
   // Asks about unsaved changes, and saves on Yes. False when what follows must not happen.
   bool AskToSave();
   // Whether the window may close.
@@ -142,6 +149,7 @@ class Designer {
   Host& TheHost() { return host_; }
   const TextMeasurer& Measurer() const { return measurer_; }
   PictureSource& Pictures() { return pictures_; }
+  const SampleCopy& Samples() const { return samples_; }
 
   // Absolute, native bytes; empty for a document that has no file of its own yet. Save writes here.
   const std::string& DocumentPath() const { return documentPath_; }
@@ -198,6 +206,7 @@ class Designer {
   LanguageTexts texts_;
   CommandLineParts command_;
   FolderPictures pictures_;
+  SampleCopy samples_;
   std::string documentPath_;
   std::string documentTitle_{kFreshTitle};
   std::vector<Finding> findings_;

@@ -187,11 +187,17 @@ std::optional<std::string> Designer::ChooseTarget() {
   }
 }
 
+WriteReport Designer::WriteDocument(const std::string& path) {
+  const std::string& sample = document_.Settings[Setting::Sample_Kex_file];
+  samples_.Renew(folders_.TempFolder, input_.Clock(),
+                 FindFile(document_.Page->ToUtf8(sample), TemplateFolder()).value_or(""), path);
+  return WriteTemplate(path, document_, WriteOptions{command_.WriterComments()});
+}
+
 bool Designer::SaveTo(const std::string& path) {
   host_.ShowStatus(Text(kTextStatusSaving));
   WriteReport report;
-  const bool done =
-      Guarded([&] { report = WriteTemplate(path, document_, WriteOptions{command_.WriterComments()}); });
+  const bool done = Guarded([&] { report = WriteDocument(path); });
   if (!done || report.Failure) {
     host_.ShowStatus("");
     if (report.Failure)

@@ -8,6 +8,7 @@
 #include "app/key_values.h"
 #include "base/files.h"
 #include "base/key_file.h"
+#include "document/papers.h"
 
 namespace kev {
 namespace {
@@ -147,7 +148,9 @@ UserSettings LoadUserSettings(const std::string& path) {
   const KeyFile keys(bytes ? std::string_view(*bytes) : std::string_view());
   UserSettings settings;
   if (std::string editor = keys.Value("DEFAULT_EDITOR"); !editor.empty()) settings.DefaultEditor = editor;
-  if (std::string paper = keys.Value("DEFAULT_PAPERSIZE"); !paper.empty()) settings.DefaultPaperSize = paper;
+  // A paper that the table does not hold has no size to give to a page.
+  if (std::string paper = keys.Value("DEFAULT_PAPERSIZE"); LookupPaper(paper))
+    settings.DefaultPaperSize = paper;
   settings.CodePageName = keys.Value("CODEPAGE");
   return settings;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The first and the last steps of a run.
-#include <algorithm>
+#include <ctime>
 #include <filesystem>
 
 #include "app/designer.h"
@@ -36,6 +36,13 @@ std::string InLines(const std::vector<std::string>& texts) {
 }
 
 }  // namespace
+
+ClockTime StartInput::LocalTime() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  return {local.tm_hour, local.tm_min, local.tm_sec};
+}
 
 bool Designer::Load() {
   zoomPercent_ = 100;
@@ -91,6 +98,7 @@ void Designer::ShutDown() {
   if (failure && FolderExists(folders_.DataFolder))
     ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
   DeleteSampleCopies(folders_.DataFolder);
+  samples_.Delete();
 }
 
 void Designer::ChooseLanguage(char letter) {

@@ -56,7 +56,10 @@ class DesignerTest : public testing::Test {
                        const auto found = variables.find(std::string(name));
                        return found == variables.end() ? std::nullopt : std::optional(found->second);
                      },
-                     root_ / "program", std::move(arguments)};
+                     root_ / "program", std::move(arguments),
+                     [] {
+                       return ClockTime{9, 5, 30};
+                     }};
     auto designer = std::make_unique<Designer>(host_, measurer_, std::move(input));
     designer->AttachView(&view_);
     return designer;

@@ -217,6 +217,27 @@ TEST_F(Saving, CommentsFollowTheOptionsOfTheCommandLine) {
   EXPECT_NE(ReadWholeFile(file)->find("Rem="), std::string::npos);
 }
 
+TEST_F(Saving, TheSampleDataIsCopiedForTheViewerAndGoneAfterTheRun) {
+  Made("a.ked", "TEMPLATE=other.kev\r\n@Name=Jo\r\n");
+  const std::string file = Made("a.kev", "Sample_Kex_file=A.KED\r\n" + TemplateWith(Labels(1)));
+  const auto designer = Start({file});
+  EXPECT_TRUE(designer->Save());
+  EXPECT_EQ(designer->Samples().SampleCopyBase(), Temp("Sampledata9530"));
+  EXPECT_EQ(test::ReadBytes(Temp("Sampledata9530.ked")), "TEMPLATE=" + file + "\r\n@Name=Jo\r\n");
+  designer->ShutDown();
+  EXPECT_FALSE(FileExists(Temp("Sampledata9530.ked")));
+}
+
+TEST_F(Saving, WritingElsewhereLeavesPathAndMark) {
+  const std::string file = Made("a.kev", TemplateWith(Labels(1)));
+  const auto designer = Start({file});
+  designer->MarkModified();
+  EXPECT_FALSE(designer->WriteDocument(Temp("testreport.kev")).Failure);
+  EXPECT_TRUE(FileExists(Temp("testreport.kev")));
+  EXPECT_TRUE(designer->Modified());
+  EXPECT_EQ(designer->DocumentPath(), file);
+}
+
 TEST_F(Saving, WhatWillNotComeBackIsListedWithItsObject) {
   const std::string file = Made("a.kev", TemplateWith("{Box=100,,500,300}\r\n" + Labels(1)));
   const auto designer = Start({file});
@@ -260,9 +281,9 @@ TEST_F(Saving, PicturesLeftBehindAreToldAfterAMove) {
 
 // Forms that the examples hold and that a template can't keep.
 bool IsKnownLoss(const std::string& finding) {
-  return finding == "BARCODE becomes LABEL" ||                        // a symbology without a word
-         finding.find("_Format: ") != std::string::npos ||            // of a series
-         finding.starts_with("LABEL Content:    \x97  @@Pag");        // blanks kept by Trim=n
+  return finding == "BARCODE becomes LABEL" ||                  // a symbology without a word
+         finding.find("_format: ") != std::string::npos ||      // of a series
+         finding.starts_with("LABEL Content:    \x97  @@Pag");  // blanks kept by Trim=n
 }
 
 TEST_F(Saving, EveryExampleComesBackAsThePageShowsIt) {
@@ -273,7 +294,8 @@ TEST_F(Saving, EveryExampleComesBackAsThePageShowsIt) {
     ASSERT_EQ(designer->DocumentPath(), file);
     EXPECT_TRUE(designer->Save());
     for (const Finding& finding : designer->Findings())
-      EXPECT_TRUE(IsKnownLoss(finding.Text)) << entry.path().filename() << ": row " << finding.Row << " " << finding.Text;
+      EXPECT_TRUE(IsKnownLoss(finding.Text))
+          << entry.path().filename() << ": row " << finding.Row << " " << finding.Text;
   }
 }
 

@@ -150,6 +150,10 @@ TEST_F(OptionsFile, TheUserSettingsHaveDefaults) {
   EXPECT_EQ(LoadUserSettings(path).DefaultEditor, "vi -R");
   EXPECT_EQ(LoadUserSettings(path).DefaultPaperSize, "A4");
   EXPECT_EQ(LoadUserSettings(path).CodePageName, "windows-1250");
+  test::WriteBytes(path, "DEFAULT_PAPERSIZE=Letter");
+  EXPECT_EQ(LoadUserSettings(path).DefaultPaperSize, "Letter");
+  test::WriteBytes(path, "DEFAULT_PAPERSIZE=Banner");
+  EXPECT_EQ(LoadUserSettings(path).DefaultPaperSize, "A4");
 }
 
 TEST_F(OptionsFile, EachRunCountsOneMore) {

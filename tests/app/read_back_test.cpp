@@ -104,7 +104,8 @@ TEST_F(ReadingBack, ChartValuesAreCompared) {
   Add(file_, ObjectKind::Chart, "", 700);
   page_.Objects[chart].ChartValues = {"a", "b"};
   file_.Objects[3].ChartValues = {"a", "c"};
-  EXPECT_EQ(CompareReadBack(page_, file_).Findings.at(0).Text, "CHART " + std::string(ChartKeys()[1].key) + ": b becomes c");
+  EXPECT_EQ(CompareReadBack(page_, file_).Findings.at(0).Text,
+            "CHART " + std::string(ChartKeys()[1].key) + ": b becomes c");
 }
 
 TEST_F(ReadingBack, TheListOfFindingsHasAnEnd) {
