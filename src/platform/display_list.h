@@ -65,9 +65,9 @@ class DisplayList final : public SurfaceOps {
 
  private:
   struct Pen {
-    Rgb colour = 0;
-    double width = 1;
-    PenStyle style = PenStyle::Solid;
+    Rgb colour;
+    double width;  // logical pixels
+    PenStyle style;
   };
   struct Line {
     Pen pen;
@@ -112,7 +112,7 @@ class DisplayList final : public SurfaceOps {
   ImageCache& images_;
   WidgetLayer* layer_ = nullptr;
   double scaleLeft_ = 0, width_ = 0, height_ = 0;
-  Pen pen_;
+  Pen pen_{0, 1, PenStyle::Solid};
   Rgb foreground_ = 0;
   std::uint32_t font_ = 0;
   std::vector<FontSpec> specs_ = {FontSpec{}};

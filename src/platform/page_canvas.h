@@ -60,6 +60,7 @@ class PageCanvas : public QAbstractScrollArea {
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -68,6 +69,7 @@ class PageCanvas : public QAbstractScrollArea {
  private:
   void FitWindow();
   void MoveOverlays();
+  void MoveOverlay(QWidget* overlay, const QRectF& canvasArea) const;
   void PaintDesk(QPainter& painter, const QRectF& exposed, const QRectF& page) const;
   void Tell(PagePointer::Action action, const QMouseEvent& event);
 
