@@ -14,7 +14,6 @@ namespace {
 constexpr double kStripeHeight = 300 * kUnitsPerPixel;
 constexpr std::int64_t kMostStripes = 6;
 constexpr double kFarthest = 1e12;
-constexpr double kPixelsPerPoint = 96.0 / 72.0;
 // What is drawn beyond the painted region is cut this far outside it, so that lengths stay sane for the
 // painter and the cut is never seen.
 constexpr double kBeyond = 64;
@@ -82,8 +81,7 @@ class DisplayList::Painting {
       : list_(list),
         painter_(painter),
         region_(region),
-        window_(0, 0, region.width() / kUnitsPerPixel, region.height() / kUnitsPerPixel),
-        dpi_(painter.device()->logicalDpiY()) {}
+        window_(0, 0, region.width() / kUnitsPerPixel, region.height() / kUnitsPerPixel) {}
 
   void operator()(const Line& line) { DrawLine(QLineF(At(line.from), At(line.to)), line.pen); }
   void operator()(const Rect& rect);
@@ -107,8 +105,6 @@ class DisplayList::Painting {
   QPainter& painter_;
   QRectF region_;
   QRectF window_;
-  int dpi_;
-  std::int64_t font_ = -1;
   QList<QPointF> points_;
 };
 
@@ -161,14 +157,8 @@ void DisplayList::Painting::operator()(const Circle& circle) {
 }
 
 void DisplayList::Painting::operator()(const Text& text) {
-  const FontSpec& spec = list_.specs_[text.font];
-  if (font_ != text.font) {
-    font_ = text.font;
-    painter_.setFont(list_.fonts_.Font(spec, dpi_));
-  }
-  const double ascent = list_.fonts_.Face(spec).ascent * spec.Size * kPixelsPerPoint;
   painter_.setPen(ToColour(text.colour));
-  painter_.drawText(At(text.at) + QPointF(0, ascent), list_.fonts_.Text(spec, text.text));
+  list_.fonts_.Print(painter_, list_.specs_[text.font], At(text.at), text.text);
 }
 
 void DisplayList::Painting::DrawDotRow(const Dots& dots, double y) {
@@ -295,8 +285,10 @@ double DisplayList::TextWidth(std::string_view text) {
 }
 
 void DisplayList::DrawDots(double left, double top, double right, double bottom, double step) {
-  if (!(step >= kUnitsPerPixel)) return;
   const QRectF area = Between(left, top, right, bottom);
+  // Farther out a step would no longer change the place that it is added to.
+  const bool countable = QRectF(-kFarthest, -kFarthest, 2 * kFarthest, 2 * kFarthest).contains(area);
+  if (!(step >= kUnitsPerPixel) || !countable) return;
   Keep(Grown(area, kUnitsPerPixel), Dots{pen_.colour, area, step});
 }
 

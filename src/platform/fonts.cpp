@@ -3,7 +3,7 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QImage>
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
@@ -13,7 +13,11 @@ namespace kev {
 namespace {
 
 constexpr int kUnitsPerEm = 2048;
+// The window system rounds the sizes of its fonts, so texts are printed at this one and scaled by the
+// painter.
+constexpr int kPrintPixels = 128;
 constexpr double kPixelsPerInch = 96;  // 15 twips of 1440 to the inch are one pixel
+constexpr double kPixelsPerPoint = kPixelsPerInch / 72;
 constexpr double kSmallestPoints = 0.5;
 constexpr double kLargestPoints = 5000;
 
@@ -54,8 +58,8 @@ QFont StyledFont(const FontSpec& spec) {
   font.setItalic(spec.Italic);
   font.setUnderline(spec.Underline);
   font.setStrikeOut(spec.Strikethrough);
-  // Widths must not depend on the zoom or on neighbours: no grid fitting sideways, no kerning, no ligatures.
-  font.setHintingPreference(QFont::PreferVerticalHinting);
+  // Widths must not depend on the zoom or on neighbours: no grid fitting, no kerning, no ligatures.
+  font.setHintingPreference(QFont::PreferNoHinting);
   font.setKerning(false);
   font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::PreferNoShaping));
   return font;
@@ -68,6 +72,11 @@ double SanePoints(double points) {
 // Scripts that join or reorder their letters, and marks that stand above them.
 bool NeedsShaping(char16_t c) {
   return (c >= 0x0300 && c <= 0x036F) || (c >= 0x0590 && c <= 0x08FF) || c >= 0xFB1D;
+}
+
+void AppendLines(std::string& key, const FontSpec& spec) {
+  key += spec.Underline ? 'u' : ' ';
+  key += spec.Strikethrough ? 's' : ' ';
 }
 
 void AppendFace(std::string& key, const FontSpec& spec) {
@@ -104,8 +113,7 @@ QString InstalledFamily(std::string_view name) {
 
 const QFont& FontCache::Font(const FontSpec& spec, int dpi) {
   AppendFace(key_, spec);
-  key_ += spec.Underline ? 'u' : ' ';
-  key_ += spec.Strikethrough ? 's' : ' ';
+  AppendLines(key_, spec);
   key_ += FormatNumber(spec.Size);
   key_ += '\n';
   key_ += std::to_string(dpi);
@@ -114,6 +122,27 @@ const QFont& FontCache::Font(const FontSpec& spec, int dpi) {
   QFont font = StyledFont(spec);
   font.setPointSizeF(SanePoints(spec.Size) * kPixelsPerInch / std::max(dpi, 1));
   return fonts_.emplace(key_, std::move(font)).first->second;
+}
+
+const QFont& FontCache::PrintFont(const FontSpec& spec) {
+  AppendFace(key_, spec);
+  AppendLines(key_, spec);
+  const auto found = fonts_.find(key_);
+  if (found != fonts_.end()) return found->second;
+  QFont font = StyledFont(spec);
+  font.setPixelSize(kPrintPixels);
+  return fonts_.emplace(key_, std::move(font)).first->second;
+}
+
+void FontCache::Print(QPainter& painter, const FontSpec& spec, const QPointF& at, std::string_view text) {
+  const double pixels = SanePoints(spec.Size) * kPixelsPerPoint;
+  const double scale = pixels / kPrintPixels;
+  painter.save();
+  painter.translate(at.x(), at.y() + Face(spec).ascent * pixels);
+  painter.scale(scale, scale);
+  painter.setFont(PrintFont(spec));
+  painter.drawText(QPointF(0, 0), Text(spec, text));
+  painter.restore();
 }
 
 const FaceMetrics& FontCache::Face(const FontSpec& spec) {
@@ -125,7 +154,6 @@ const FaceMetrics& FontCache::Face(const FontSpec& spec) {
   face = std::make_unique<FaceMetrics>();
   face->design = StyledFont(spec);
   face->design.setPixelSize(kUnitsPerEm);
-  face->design.setHintingPreference(QFont::PreferNoHinting);
   const QFontMetricsF metrics(face->design);
   face->ascent = metrics.ascent() / kUnitsPerEm;
   face->descent = metrics.descent() / kUnitsPerEm;

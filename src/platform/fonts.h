@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFont>
+#include <QPointF>
 #include <QString>
 #include <array>
 #include <memory>
@@ -12,6 +13,8 @@
 
 #include "base/code_page.h"
 #include "document/text_measurer.h"
+
+class QPainter;
 
 namespace kev {
 
@@ -44,16 +47,21 @@ class FontCache {
  public:
   explicit FontCache(const CodePage& page = CodePage::Default()) : page_(&page) {}
 
-  // 1 point is 20 twips, and 15 twips are one logical pixel: a font of `spec.Size` points for a device whose
-  // logical resolution is `dpi`.
+  // For widgets. 1 point is 20 twips, and 15 twips are one logical pixel: a font of `spec.Size` points for a
+  // device whose logical resolution is `dpi`. The window system rounds it to whole pixels.
   const QFont& Font(const FontSpec& spec, int dpi);
   const FaceMetrics& Face(const FontSpec& spec);
+  // Prints with the top of the text at `at`, in the painter's pen and unit (the logical pixel), exactly as
+  // wide as it measures at any size.
+  void Print(QPainter& painter, const FontSpec& spec, const QPointF& at, std::string_view text);
   QString Text(const FontSpec& spec, std::string_view text) const;
 
   // The page of the open document. Changes how bytes above 127 are read.
   void SetPage(const CodePage& page);
 
  private:
+  const QFont& PrintFont(const FontSpec& spec);
+
   const CodePage* page_;
   std::unordered_map<std::string, QFont> fonts_;
   std::unordered_map<std::string, std::unique_ptr<FaceMetrics>> faces_;
