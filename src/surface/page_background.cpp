@@ -12,7 +12,7 @@ namespace kev {
 namespace {
 
 constexpr Rgb kMarginMark = 0x7D7D7D;
-constexpr Rgb kGridDot = 0xA8A8A8;
+constexpr Rgb kGridDot = 0xC4C9D2;
 constexpr double kRoomBelow = 1000;       // twips
 constexpr double kUsualStep = 200;        // twips
 constexpr double kLeastDotStep = 2 * 15;  // canvas units: two pixels
