@@ -1,2 +1,4 @@
 // SPDX-License-Identifier: MIT
-int main() { return 0; }
+int main() {
+  return 0;
+}

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+// From the fonts and bytes of the document to those of the window system.
+#pragma once
+
+#include <QFont>
+#include <QPointF>
+#include <QString>
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "base/code_page.h"
+#include "document/text_measurer.h"
+
+class QPainter;
+
+namespace kev {
+
+// The page through which a text with this charset number is read. Charsets 0 and 1, an empty number and one
+// that is not known mean the page of the document.
+const CodePage& PageOfCharSet(std::string_view charSet, const CodePage& documentPage);
+
+// Bytes of the page as the window system's text.
+QString ToQString(std::string_view text, const CodePage& page);
+// A native path or another UTF-8 text.
+inline QString FromNative(std::string_view path) {
+  return QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size()));
+}
+
+// The installed family that stands for a name: the family itself, or the one of equal metrics.
+QString InstalledFamily(std::string_view name);
+
+// One family and style, measured once at the size of its design grid. Widths and heights follow from it at
+// every size, so that a text is as wide at 50 % as at 200 %.
+struct FaceMetrics {
+  QFont design;                       // one em is kUnitsPerEm pixels
+  double ascent = 0;                  // in ems
+  double descent = 0;                 // in ems
+  std::array<double, 256> advance{};  // in ems, by byte
+  std::array<bool, 256> shaped{};     // bytes whose width depends on their neighbours
+};
+
+// Fonts by what a record says, made once. Not for use by more than one thread.
+class FontCache {
+ public:
+  explicit FontCache(const CodePage& page = CodePage::Default()) : page_(&page) {}
+
+  // For widgets. 1 point is 20 twips, and 15 twips are one logical pixel: a font of `spec.Size` points for a
+  // device whose logical resolution is `dpi`. The window system rounds it to whole pixels.
+  const QFont& Font(const FontSpec& spec, int dpi);
+  const FaceMetrics& Face(const FontSpec& spec);
+  // Prints with the top of the text at `at`, in the painter's pen and unit (the logical pixel), exactly as
+  // wide as it measures at any size.
+  void Print(QPainter& painter, const FontSpec& spec, const QPointF& at, std::string_view text);
+  QString Text(const FontSpec& spec, std::string_view text) const;
+
+  // The page of the open document. Changes how bytes above 127 are read.
+  void SetPage(const CodePage& page);
+
+ private:
+  const QFont& PrintFont(const FontSpec& spec);
+
+  const CodePage* page_;
+  std::unordered_map<std::string, QFont> fonts_;
+  std::unordered_map<std::string, std::unique_ptr<FaceMetrics>> faces_;
+  std::string key_;
+};
+
+}  // namespace kev

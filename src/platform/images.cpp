@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "platform/images.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <algorithm>
+
+#include "base/files.h"
+#include "platform/fonts.h"
+
+namespace kev {
+namespace {
+
+constexpr int kCacheKilobytes = 256 * 1024;
+constexpr qint64 kLargestSvg = 16 * 1024 * 1024;
+
+bool IsSvgFile(const QFileInfo& file) {
+  const QString suffix = file.suffix().toLower();
+  return suffix == u"prbm" || suffix == u"svg";
+}
+
+bool StartsWithWord(std::string_view file, std::string_view folder) {
+  return file.size() >= folder.size() &&
+         CodePage::Default().EqualsIgnoringCase(file.substr(0, folder.size()), folder);
+}
+
+bool IsAbsolute(std::string_view file) {
+  return file.front() == '/' || file.front() == '\\';
+}
+
+std::optional<std::string> FindNative(std::string_view file, const ImageFolders& folders) {
+  if (file.empty()) return std::nullopt;
+  if (file.front() == '\\') {
+    const bool cached = StartsWithWord(file, "\\Cache\\");
+    if (auto own = FindFile(file.substr(1), cached ? folders.Temp : folders.Program)) return own;
+  }
+  if (folders.Template.empty() && !IsAbsolute(file)) return std::nullopt;
+  return FindFile(file, folders.Template);
+}
+
+}  // namespace
+
+struct ImageCache::Entry {
+  QDateTime changed;
+  qint64 bytes = 0;
+  QImage bitmap;
+  std::unique_ptr<QSvgRenderer> drawing;
+  // The bitmap at the size at which it was painted last, so that a photograph is not reduced at each paint.
+  mutable QImage reduced;
+
+  int Kilobytes() const {
+    return static_cast<int>(std::max(bytes, bitmap.sizeInBytes() + qint64{0}) / 1024) + 1;
+  }
+};
+
+namespace {
+
+QImage ReadBitmap(const QString& path) {
+  QImageReader reader(path);
+  reader.setAutoTransform(true);
+  // By what the file holds: pictures often come with the ending of another format.
+  reader.setDecideFormatFromContent(true);
+  return reader.read();
+}
+
+std::unique_ptr<QSvgRenderer> ReadDrawing(const QString& path) {
+  QFile file(path);
+  if (file.size() > kLargestSvg || !file.open(QIODevice::ReadOnly)) return nullptr;
+  auto drawing = std::make_unique<QSvgRenderer>();
+  if (!drawing->load(file.readAll())) return nullptr;
+  drawing->setAspectRatioMode(Qt::IgnoreAspectRatio);
+  return drawing;
+}
+
+}  // namespace
+
+ImageResolver ResolverFor(const ImageFolders& folders) {
+  return [folders](std::string_view file) -> std::string {
+    if (auto found = FindNative(file, folders)) return *found;
+    // Names in a template are in its code page.
+    const std::string converted = folders.Page->ToUtf8(file);
+    if (converted == file) return {};
+    return FindNative(converted, folders).value_or(std::string());
+  };
+}
+
+ImageCache::ImageCache(ImageResolver resolver) : resolver_(std::move(resolver)), entries_(kCacheKilobytes) {}
+
+ImageCache::~ImageCache() = default;
+
+void ImageCache::SetResolver(ImageResolver resolver) {
+  resolver_ = std::move(resolver);
+  Forget();
+}
+
+void ImageCache::Forget() {
+  paths_.clear();
+}
+
+const QString& ImageCache::PathOf(std::string_view file) {
+  const auto [known, isNew] = paths_.try_emplace(std::string(file));
+  if (isNew) known->second = FromNative(resolver_(file));
+  return known->second;
+}
+
+std::shared_ptr<const ImageCache::Entry> ImageCache::Find(std::string_view file) {
+  const QString& path = PathOf(file);
+  if (path.isEmpty()) return nullptr;
+  const QFileInfo info(path);
+  if (!info.isFile()) return nullptr;
+  if (const auto* known = entries_.object(path))
+    if ((*known)->changed == info.lastModified() && (*known)->bytes == info.size()) return *known;
+  auto entry = std::make_shared<Entry>();
+  entry->changed = info.lastModified();
+  entry->bytes = info.size();
+  if (IsSvgFile(info))
+    entry->drawing = ReadDrawing(path);
+  else
+    entry->bitmap = ReadBitmap(path);
+  std::shared_ptr<const Entry> kept = std::move(entry);
+  entries_.insert(path, new std::shared_ptr<const Entry>(kept), kept->Kilobytes());
+  return kept;
+}
+
+void ImageCache::PaintBitmap(QPainter& painter, const Entry& entry, const QRectF& target) {
+  const QSize pixels = painter.deviceTransform().mapRect(target).size().toSize();
+  const QSize whole = entry.bitmap.size();
+  const bool smaller = pixels.width() * 2 < whole.width() && pixels.height() * 2 < whole.height();
+  if (!smaller || pixels.isEmpty()) return painter.drawImage(target, entry.bitmap);
+  if (entry.reduced.size() != pixels)
+    entry.reduced = entry.bitmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  painter.drawImage(target, entry.reduced);
+}
+
+void ImageCache::Paint(QPainter& painter, std::string_view file, const QRectF& target) {
+  if (target.isEmpty()) return;
+  const auto entry = Find(file);
+  if (!entry) return;
+  if (entry->drawing)
+    entry->drawing->render(&painter, target);
+  else if (!entry->bitmap.isNull())
+    PaintBitmap(painter, *entry, target);
+}
+
+QSize ImageCache::SizeOf(std::string_view file) {
+  const auto entry = Find(file);
+  if (!entry) return {};
+  return entry->drawing ? entry->drawing->defaultSize() : entry->bitmap.size();
+}
+
+}  // namespace kev

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// The pictures of a page: bitmaps and SVG drawings, read once and read again when their file changes.
+#pragma once
+
+#include <QCache>
+#include <QImage>
+#include <QRectF>
+#include <QSize>
+#include <QString>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "base/code_page.h"
+
+class QPainter;
+class QSvgRenderer;
+
+namespace kev {
+
+// The native path of the file that a name on the page means, empty when there is none. Names beginning with
+// "\" are the designer's own; all others are as a template wrote them.
+using ImageResolver = std::function<std::string(std::string_view file)>;
+
+// Where the names on a page lead. Native paths.
+struct ImageFolders {
+  std::string Program;   // "\Pbms\..." and "\dashes.bmp"
+  std::string Temp;      // "\Cache\..."
+  std::string Template;  // relative paths; empty for a document without a file
+  const CodePage* Page = &CodePage::Default();
+};
+ImageResolver ResolverFor(const ImageFolders& folders);
+
+class ImageCache {
+ public:
+  explicit ImageCache(ImageResolver resolver);
+  ~ImageCache();
+
+  // The names lead elsewhere from now on; what was read is kept by its path.
+  void SetResolver(ImageResolver resolver);
+  // Looks the names up again, since files come and go between two redraws.
+  void Forget();
+  // Stretched into the rectangle of the painter's own units; a file that cannot be had paints nothing.
+  void Paint(QPainter& painter, std::string_view file, const QRectF& target);
+  // Pixels of a bitmap or of an SVG drawing; empty when there is none.
+  QSize SizeOf(std::string_view file);
+
+ private:
+  struct Entry;
+  std::shared_ptr<const Entry> Find(std::string_view file);
+  const QString& PathOf(std::string_view file);
+  static void PaintBitmap(QPainter& painter, const Entry& entry, const QRectF& target);
+
+  ImageResolver resolver_;
+  std::unordered_map<std::string, QString> paths_;
+  QCache<QString, std::shared_ptr<const Entry>> entries_;
+};
+
+}  // namespace kev

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "platform/page_canvas.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
+
+namespace kev {
+namespace {
+
+constexpr int kDesk = 16;  // pixels of the desk around the page
+constexpr int kShadow = 5;
+constexpr int kWheelStep = 120;
+const QColor kDeskColour(222, 224, 228);
+const QColor kEdgeColour(188, 191, 197);
+
+int WholePixels(double units) {
+  return static_cast<int>(std::min(std::ceil(units / kUnitsPerPixel), 1e8));
+}
+
+int RoundedPixel(double pixels) {
+  return static_cast<int>(std::lround(std::clamp(pixels, -1e8, 1e8)));
+}
+
+// Half of the view for a large step, a tenth of that for a small one.
+void SetRange(QScrollBar* bar, int content, int view) {
+  bar->setRange(0, std::max(0, content - view));
+  bar->setPageStep(std::max(1, view * 4 / 10));
+  bar->setSingleStep(std::max(1, view * 4 / 100));
+}
+
+}  // namespace
+
+PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent) : QAbstractScrollArea(parent), list_(list) {
+  setObjectName(QStringLiteral("p1"));
+  setAccessibleName(tr("Page"));
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::StrongFocus);
+  viewport()->setMouseTracking(true);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  FitWindow();
+}
+
+void PageCanvas::ShowList() {
+  FitWindow();
+  viewport()->update();
+}
+
+void PageCanvas::FitWindow() {
+  const QRectF canvas = list_.Canvas();
+  SetRange(horizontalScrollBar(), WholePixels(canvas.width()) + 2 * kDesk, viewport()->width());
+  SetRange(verticalScrollBar(), WholePixels(canvas.height()) + 2 * kDesk, viewport()->height());
+  MoveOverlays();
+  Q_EMIT ViewMoved();
+}
+
+QPointF PageCanvas::Origin() const {
+  return QPointF(kDesk - horizontalScrollBar()->value(), kDesk - verticalScrollBar()->value()) -
+         list_.Canvas().topLeft() / kUnitsPerPixel;
+}
+
+QPointF PageCanvas::ToCanvas(const QPointF& viewportPoint) const {
+  return (viewportPoint - Origin()) * kUnitsPerPixel;
+}
+
+QPointF PageCanvas::ToViewport(const QPointF& canvasPoint) const {
+  return canvasPoint / kUnitsPerPixel + Origin();
+}
+
+QRectF PageCanvas::VisibleCanvas() const {
+  return QRectF(ToCanvas(QPointF(0, 0)), QSizeF(viewport()->size()) * kUnitsPerPixel);
+}
+
+void PageCanvas::ScrollTo(const QPointF& canvasPoint, const QPointF& viewportPoint) {
+  const QPointF off = ToViewport(canvasPoint) - viewportPoint;
+  horizontalScrollBar()->setValue(horizontalScrollBar()->value() + RoundedPixel(off.x()));
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + RoundedPixel(off.y()));
+}
+
+void PageCanvas::EnsureVisible(const QRectF& canvasArea) {
+  const auto reach = [](QScrollBar* bar, double low, double high, double view) {
+    double by = 0;
+    if (high > view) by = high - view;
+    if (low - by < 0) by = low;
+    bar->setValue(bar->value() + RoundedPixel(by));
+  };
+  const QRectF area(ToViewport(canvasArea.topLeft()), ToViewport(canvasArea.bottomRight()));
+  reach(horizontalScrollBar(), area.left(), area.right(), viewport()->width());
+  reach(verticalScrollBar(), area.top(), area.bottom(), viewport()->height());
+}
+
+void PageCanvas::PlaceOverlay(QWidget* overlay, const QRectF& canvasArea) {
+  if (overlays_.find(overlay) == overlays_.end())
+    connect(overlay, &QObject::destroyed, this, [this, overlay] { overlays_.erase(overlay); });
+  overlays_[overlay] = canvasArea;
+  MoveOverlay(overlay, canvasArea);
+}
+
+QRectF PageCanvas::OverlayArea(const QWidget* overlay) const {
+  const auto known = overlays_.find(const_cast<QWidget*>(overlay));
+  return known == overlays_.end() ? QRectF() : known->second;
+}
+
+void PageCanvas::MoveOverlay(QWidget* overlay, const QRectF& canvasArea) const {
+  const QPointF corner = ToViewport(canvasArea.topLeft());
+  overlay->setGeometry(RoundedPixel(corner.x()), RoundedPixel(corner.y()),
+                       std::max(1, RoundedPixel(canvasArea.width() / kUnitsPerPixel)),
+                       std::max(1, RoundedPixel(canvasArea.height() / kUnitsPerPixel)));
+}
+
+void PageCanvas::MoveOverlays() {
+  for (const auto& [overlay, area] : overlays_)
+    MoveOverlay(overlay, area);
+}
+
+void PageCanvas::PaintDesk(QPainter& painter, const QRectF& exposed, const QRectF& page) const {
+  painter.fillRect(exposed, kDeskColour);
+  for (int i = kShadow; i > 0; --i) {
+    const QRectF shadow = page.adjusted(2 - i, 2 - i, i, i);
+    if (!page.contains(exposed)) painter.fillRect(shadow & exposed, QColor(0, 0, 0, 7));
+  }
+  painter.fillRect(page.adjusted(-1, -1, 1, 1) & exposed, kEdgeColour);
+  painter.fillRect(page & exposed, Qt::white);
+}
+
+void PageCanvas::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  const QRectF canvas = list_.Canvas();
+  const QRectF page(ToViewport(canvas.topLeft()),
+                    QSizeF(WholePixels(canvas.width()), WholePixels(canvas.height())));
+  for (const QRect& rect : event->region()) {
+    const QRectF exposed(rect);
+    painter.save();
+    painter.setClipRect(rect);
+    PaintDesk(painter, exposed, page);
+    painter.translate(exposed.topLeft());
+    list_.Paint(painter, QRectF(ToCanvas(exposed.topLeft()), exposed.size() * kUnitsPerPixel));
+    painter.restore();
+  }
+}
+
+void PageCanvas::resizeEvent(QResizeEvent* event) {
+  QAbstractScrollArea::resizeEvent(event);
+  FitWindow();
+}
+
+void PageCanvas::scrollContentsBy(int dx, int dy) {
+  viewport()->scroll(dx, dy);
+  // What stands above the page was moved by the same pixels; the places keep it exact.
+  MoveOverlays();
+  Q_EMIT ViewMoved();
+}
+
+void PageCanvas::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QAbstractScrollArea::wheelEvent(event);
+  zoomWheel_ += event->angleDelta().y();
+  const int steps = zoomWheel_ / kWheelStep;
+  zoomWheel_ -= steps * kWheelStep;
+  if (steps != 0) Q_EMIT ZoomRequested(steps, event->position());
+  event->accept();
+}
+
+// Arrow keys belong to what stands on the page, not to the view.
+void PageCanvas::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      return event->ignore();
+    default:
+      return QAbstractScrollArea::keyPressEvent(event);
+  }
+}
+
+void PageCanvas::Tell(PagePointer::Action action, const QMouseEvent& event) {
+  PagePointer pointer;
+  pointer.action = action;
+  pointer.button = event.button();
+  pointer.buttons = event.buttons();
+  pointer.modifiers = event.modifiers();
+  pointer.canvas = ToCanvas(event.position());
+  Q_EMIT Pointer(pointer);
+}
+
+void PageCanvas::mousePressEvent(QMouseEvent* event) {
+  Tell(PagePointer::Action::Press, *event);
+}
+
+void PageCanvas::mouseMoveEvent(QMouseEvent* event) {
+  Tell(PagePointer::Action::Move, *event);
+}
+
+void PageCanvas::mouseReleaseEvent(QMouseEvent* event) {
+  Tell(PagePointer::Action::Release, *event);
+}
+
+void PageCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  Tell(PagePointer::Action::DoubleClick, *event);
+}
+
+}  // namespace kev

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// Painting the table: every shown row in the sorted order, top to bottom, left to right, by row. Painting the
+// same rows always gives the same operations. Nothing here reports an error to the user: what cannot be
+// painted is left out.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "document/document.h"
+#include "document/sort_keys.h"
+#include "document/text_measurer.h"
+#include "surface/object_area.h"
+#include "surface/surface_ops.h"
+
+namespace kev {
+
+// `seeall`, `see_ebeu`, `see_printnoprint`: everything, what the end user may modify, what is printed.
+enum class DisplayFilter : std::uint8_t { All, Ebeu, Print };
+
+// Bands pass every filter. A row that does not pass is neither painted nor selectable.
+bool PassesFilter(const ObjectRecord& record, DisplayFilter filter);
+
+// What the names of the images of this run are made of.
+struct WorkImages {
+  std::string TempFolder;
+  int SessionNumber = 0;
+};
+std::string QrImageName(const WorkImages& images, int row, std::int32_t y);
+std::string ChartImageName(const WorkImages& images, int row);
+
+struct PaintContext {
+  Document& document;
+  SurfaceOps& surface;
+  const TextMeasurer& measurer;
+  double ZoomFactor = 1;
+  DisplayFilter filter = DisplayFilter::All;
+  double canvasWidth = 0;  // canvas units, as DrawPageBackground gives it
+  WorkImages images;
+};
+
+struct PaintResult {
+  int SelectionCount = 0;
+  // Around all selected objects, and at least 75 units each way; only with a selection.
+  CanvasArea SelectionBounds;
+
+  bool MultiSelected() const { return SelectionCount > 0; }
+};
+
+// Paints the shown rows and the corner marks of those that are selected. Rows learn by it what only painting
+// finds out: a line width of 0 becomes 1, a LINE's Width is its X2 less its X, a COMMAND is measured, and QR
+// and CHART get the name of their image.
+PaintResult RedrawDocument(PaintContext& context, const SortedRows& sorted);
+
+// One row, whether or not the filter shows it.
+void PaintObject(PaintContext& context, int row);
+
+// The same changes to the rows as a redraw makes, without a surface.
+void ApplyRedrawWriteBack(Document& document, const TextMeasurer& measurer, DisplayFilter filter,
+                          const WorkImages& images = {});
+
+// The first panel of the status bar behind a redraw: empty unless several objects are selected.
+// `selectedWord` is the text "selected" of the language.
+std::string SelectionStatus(int selectionCount, std::string_view selectedWord);
+
+}  // namespace kev
