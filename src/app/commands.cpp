@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "app/commands.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+#include "app/text_numbers.h"
+#include "base/code_page.h"
+
+namespace kev {
+
+namespace {
+
+constexpr std::array kMenus = {
+    MenuRow{MenuId::File, "menfile", kTextMenuFile},
+    MenuRow{MenuId::View, "menview", kTextMenuView},
+    MenuRow{MenuId::Help, "menhelp", kTextMenuHelp},
+};
+
+constexpr bool kDialog = true;
+constexpr bool kNoDialog = false;
+constexpr bool kGroup = true;
+
+constexpr std::array kCommands = {
+    CommandRow{Command::New, MenuId::File, "newmen", kTextMenuNew, "Ctrl+N"},
+    CommandRow{Command::Open, MenuId::File, "openmen", kTextMenuOpen, "Ctrl+O", CommandKind::Plain, kDialog},
+    CommandRow{Command::Save, MenuId::File, "savemen", kTextMenuSave, "Ctrl+S", CommandKind::Plain, kNoDialog,
+               kGroup},
+    CommandRow{Command::SaveAs, MenuId::File, "saveas", kTextMenuSaveAs, "Ctrl+Shift+S", CommandKind::Plain,
+               kDialog},
+    CommandRow{Command::Exit, MenuId::File, "exitmen", kTextMenuExit, "Ctrl+Q", CommandKind::Plain, kNoDialog,
+               kGroup},
+    CommandRow{Command::SeeAll, MenuId::View, "seeall", kTextFilterAll, "", CommandKind::Exclusive, kNoDialog,
+               kGroup},
+    CommandRow{Command::SeeModifiable, MenuId::View, "see_ebeu", kTextFilterEndUser, "",
+               CommandKind::Exclusive},
+    CommandRow{Command::SeePrinted, MenuId::View, "see_printnoprint", kTextFilterPrint, "",
+               CommandKind::Exclusive},
+    CommandRow{Command::DrawGrid, MenuId::View, "viewdrawgrid", kTextMenuDrawGrid, "Ctrl+G",
+               CommandKind::Check, kNoDialog, kGroup},
+    CommandRow{Command::ShowFindings, MenuId::View, "viewfindings", kTextMenuFindings, "Ctrl+Shift+F",
+               CommandKind::Check},
+    CommandRow{Command::Documentation, MenuId::Help, "helpmen", kTextMenuDocumentation, "F1"},
+};
+
+char MarkedLetter(std::string_view caption) {
+  for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
+    if (caption[i] != '&') continue;
+    if (caption[i + 1] != '&') return CodePage::Default().Upper(caption[i + 1]);
+    ++i;
+  }
+  return '\0';
+}
+
+bool IsPlainLetter(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+void MarkFirstFree(std::string& caption, std::set<char>& taken) {
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    const char letter = CodePage::Default().Upper(caption[i]);
+    if (!IsPlainLetter(caption[i]) || !taken.insert(letter).second) continue;
+    caption.insert(i, "&");
+    return;
+  }
+}
+
+}  // namespace
+
+std::span<const MenuRow> MenuRows() {
+  return kMenus;
+}
+
+std::span<const CommandRow> CommandRows() {
+  return kCommands;
+}
+
+const CommandRow& RowOf(Command id) {
+  return *std::find_if(kCommands.begin(), kCommands.end(),
+                       [id](const CommandRow& row) { return row.id == id; });
+}
+
+std::string CommandCaption(const CommandRow& row, std::string_view text) {
+  std::string caption(text);
+  if (row.opensDialog) caption += " ...";
+  return caption;
+}
+
+std::vector<std::string> WithMnemonics(std::vector<std::string> captions) {
+  std::set<char> taken;
+  for (const std::string& caption : captions)
+    taken.insert(MarkedLetter(caption));
+  for (std::string& caption : captions) {
+    if (MarkedLetter(caption) == '\0') MarkFirstFree(caption, taken);
+  }
+  return captions;
+}
+
+}  // namespace kev

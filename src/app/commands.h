@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// The commands of the main window as one table. Menus and shortcuts are made from it; the window only says
+// what each command does.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kev {
+
+enum class Command : std::uint8_t {
+  New,
+  Open,
+  Save,
+  SaveAs,
+  Exit,
+  SeeAll,
+  SeeModifiable,
+  SeePrinted,
+  DrawGrid,
+  ShowFindings,
+  Documentation
+};
+
+enum class MenuId : std::uint8_t { File, View, Help };
+
+struct MenuRow {
+  MenuId id;
+  std::string_view name;  // the window system's name of the menu
+  int text;
+};
+
+// Exclusive commands of one menu that stand side by side exclude each other.
+enum class CommandKind : std::uint8_t { Plain, Check, Exclusive };
+
+struct CommandRow {
+  Command id;
+  MenuId menu;
+  std::string_view name;  // the window system's name of the entry
+  int text;
+  std::string_view shortcut;  // "Ctrl+Shift+S"; may be empty
+  CommandKind kind = CommandKind::Plain;
+  bool opensDialog = false;      // its caption ends with " ..."
+  bool separatorBefore = false;  // a new group of the menu begins
+};
+
+// In the order of the menu bar and of the menus.
+std::span<const MenuRow> MenuRows();
+std::span<const CommandRow> CommandRows();
+const CommandRow& RowOf(Command id);
+
+// The entry's caption from its text.
+std::string CommandCaption(const CommandRow& row, std::string_view text);
+
+// Gives each caption that marks no letter a "&" before the first letter that no other caption of the same
+// menu marks, so that every entry can be had by keyboard. A caption without a free letter stays as it is.
+std::vector<std::string> WithMnemonics(std::vector<std::string> captions);
+
+}  // namespace kev
