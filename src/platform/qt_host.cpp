@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt_host.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
+#include <array>
+
+#include "base/files.h"
+#include "platform/text_bridge.h"
+
+namespace kev {
+
+namespace {
+
+struct AnswerRow {
+  BoxAnswer answer;
+  QMessageBox::StandardButton button;
+};
+
+constexpr std::array kAnswers = {
+    AnswerRow{BoxAnswer::Ok, QMessageBox::Ok}, AnswerRow{BoxAnswer::Yes, QMessageBox::Yes},
+    AnswerRow{BoxAnswer::No, QMessageBox::No}, AnswerRow{BoxAnswer::Cancel, QMessageBox::Cancel}};
+
+QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::Ok:
+      return QMessageBox::Ok;
+    case BoxButtons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Critical:
+      return QMessageBox::Critical;
+    case BoxIcon::Warning:
+      return QMessageBox::Warning;
+    case BoxIcon::Information:
+      return QMessageBox::Information;
+    case BoxIcon::Question:
+      return QMessageBox::Question;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// A box without an answer (closed by its frame or Esc) changes nothing: Cancel, else No.
+BoxAnswer AnswerOf(int button, BoxButtons buttons) {
+  for (const AnswerRow& row : kAnswers) {
+    if (row.button == button) return row.answer;
+  }
+  if (buttons == BoxButtons::Ok) return BoxAnswer::Ok;
+  return buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
+}
+
+QString FilterLine(const std::pair<std::string, std::string>& filter) {
+  return ToQString(filter.first) + QStringLiteral(" (") + ToQString(filter.second) + QStringLiteral(")");
+}
+
+// "kev" of "*.kev *.KEV": what a typed name without an ending gets.
+QString SuffixOf(const std::string& patterns) {
+  const QString first = ToQString(patterns).section(QLatin1Char(' '), 0, 0);
+  const QString suffix = first.section(QLatin1Char('.'), -1);
+  return first.startsWith(QLatin1String("*.")) && suffix != QLatin1String("*") ? suffix : QString();
+}
+
+}  // namespace
+
+QtHost::QtHost(QObject* parent) : QObject(parent) {}
+
+BoxAnswer QtHost::ShowMessage(const MessageBox& asked) {
+  QMessageBox box(window_);
+  box.setObjectName(QStringLiteral("messagebox"));
+  box.setWindowTitle(ToQString(asked.Title));
+  box.setIcon(IconOf(asked.Icon));
+  // A file name that looks like markup is shown as it is.
+  box.setTextFormat(Qt::PlainText);
+  box.setText(WithDetail(asked.Text, asked.Detail));
+  AddButtons(box, asked);
+  return AnswerOf(box.exec(), asked.Buttons);
+}
+
+void QtHost::AddButtons(QMessageBox& box, const MessageBox& asked) const {
+  box.setStandardButtons(ButtonsOf(asked.Buttons));
+  for (const AnswerRow& row : kAnswers) {
+    QAbstractButton* button = box.button(row.button);
+    if (button != nullptr && !captions_.value(row.answer).isEmpty()) {
+      button->setText(captions_.value(row.answer));
+    }
+  }
+  if (asked.NoIsDefault) box.setDefaultButton(QMessageBox::No);
+  if (asked.Buttons == BoxButtons::YesNo) box.setEscapeButton(QMessageBox::No);
+}
+
+void QtHost::ShowStatus(std::string_view text, std::string_view detail) {
+  Q_EMIT StatusChanged(WithDetail(text, detail));
+}
+
+void QtHost::ShowSelectionStatus(std::string_view text) {
+  Q_EMIT SelectionStatusChanged(ToQString(text));
+}
+
+void QtHost::BeginProgress(std::string_view text, int maximum) {
+  Q_EMIT ProgressBegun(ToQString(text), maximum);
+}
+
+void QtHost::StepProgress(int value, std::string_view text) {
+  Q_EMIT ProgressStepped(value, ToQString(text));
+}
+
+void QtHost::EndProgress() {
+  Q_EMIT ProgressEnded();
+}
+
+std::optional<std::string> QtHost::ChooseFileToOpen(const FileChoice& choice) {
+  return Choose(choice, false);
+}
+
+std::optional<std::string> QtHost::ChooseFileToSave(const FileChoice& choice) {
+  return Choose(choice, true);
+}
+
+std::optional<std::string> QtHost::Choose(const FileChoice& choice, bool save) {
+  QFileDialog dialog(window_, ToQString(choice.Title), FromNative(choice.Folder));
+  dialog.setObjectName(save ? QStringLiteral("savedialog") : QStringLiteral("opendialog"));
+  dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setOption(QFileDialog::DontUseNativeDialog, !nativeDialogs_);
+  QStringList filters;
+  for (const auto& filter : choice.Filters)
+    filters << FilterLine(filter);
+  if (!filters.isEmpty()) dialog.setNameFilters(filters);
+  if (save && !choice.Filters.empty()) dialog.setDefaultSuffix(SuffixOf(choice.Filters.front().second));
+  if (!choice.SuggestedName.empty()) dialog.selectFile(FromNative(choice.SuggestedName));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return ToNative(dialog.selectedFiles().constFirst());
+}
+
+void QtHost::ShowCaption(std::string_view documentTitle, bool modified) {
+  Q_EMIT CaptionChanged(FromNative(documentTitle), modified);
+}
+
+void QtHost::FetchPicture(std::string_view address, std::string_view file, std::function<void(bool)> done) {
+  fetcher_.Fetch(QUrl(ToQString(address)), std::string(file), std::move(done));
+}
+
+}  // namespace kev

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace kev {
+
+// "NAME [Modified] - Program", in the form that QWidget::setWindowTitle takes.
+QString WindowCaption(const QString& documentTitle, bool modified, const QString& modifiedWord,
+                      const QString& programTitle);
+
+}  // namespace kev
