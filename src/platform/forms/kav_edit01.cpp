@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: MIT
+#include "platform/forms/kav_edit01.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+
+#include "app/documentation.h"
+#include "app/text_numbers.h"
+#include "app/zoom_steps.h"
+#include "platform/app_style.h"
+#include "platform/forms/command_menus.h"
+#include "platform/forms/findings_dock.h"
+#include "platform/forms/kavsplash.h"
+#include "platform/forms/progress_window.h"
+#include "platform/forms/status_panels.h"
+#include "platform/forms/zoom_box.h"
+#include "platform/forms/zoom_menu.h"
+#include "platform/text_bridge.h"
+#include "platform/window_caption.h"
+
+#ifndef KEV_HELP_HOST
+#define KEV_HELP_HOST ""
+#endif
+
+namespace kev {
+
+namespace {
+
+constexpr QSize kFirstSize(1180, 780);
+
+// The template that a drop brings, native; empty for anything but one local template.
+std::string DroppedTemplate(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  if (urls.size() != 1 || !urls.constFirst().isLocalFile()) return {};
+  const QString path = urls.constFirst().toLocalFile();
+  return path.endsWith(QLatin1String(".kev"), Qt::CaseInsensitive) ? ToNative(path) : std::string();
+}
+
+}  // namespace
+
+KavEdit01::KavEdit01(Designer& designer, QtHost& host, FontCache& fonts, ImageCache& images)
+    : designer_(designer), host_(host), page_(designer, fonts, images, this) {
+  setObjectName(QStringLiteral("KavEdit01"));
+  setAcceptDrops(true);
+  BuildMenus();
+  BuildToolRow();
+  BuildPage();
+  BuildPanels();
+  ConnectHost();
+  PlaceOnScreen();
+  designer_.AttachView(this);
+}
+
+KavEdit01::~KavEdit01() {
+  designer_.AttachView(nullptr);
+}
+
+// --- Building ---------------------------------------------------------------------------------------------
+
+void KavEdit01::BuildMenus() {
+  menus_ = new CommandMenus(*menuBar(), designer_.Texts(), [this](Command command) { Run(command); });
+  menuBar()->setObjectName(QStringLiteral("menubar"));
+  menus_->ActionOf(Command::SeeAll).setChecked(true);
+  QMenu& view = menus_->MenuOf(MenuId::View);
+  zoomMenu_ = new ZoomMenu(ToQString(WithMnemonics({designer_.Text(kTextMenuZoom)}).front()), &view);
+  view.insertMenu(view.actions().constFirst(), zoomMenu_);
+  view.insertSeparator(view.actions().at(1));
+  connect(zoomMenu_, &ZoomMenu::ZoomChosen, this, [this](const QString& text) { page_.SetZoom(text); });
+}
+
+void KavEdit01::BuildToolRow() {
+  auto* bar = new QToolBar(this);
+  bar->setObjectName(QStringLiteral("toolbar1"));
+  bar->setMovable(false);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  auto* label = new QLabel(ToQString(designer_.Text(kTextMenuZoom)), bar);
+  label->setContentsMargins(8, 0, 6, 0);
+  zoomBox_ = new ZoomBox(bar);
+  zoomBox_->setAccessibleName(label->text());
+  label->setBuddy(zoomBox_);
+  bar->addWidget(label);
+  bar->addWidget(zoomBox_);
+  ColourBar(*bar, designer_.CurrentTheme().ToolbarColour());
+  addToolBar(bar);
+  connect(zoomBox_, &ZoomBox::ZoomChosen, this, [this](const QString& text) { page_.SetZoom(text); });
+}
+
+void KavEdit01::BuildPage() {
+  setCentralWidget(&page_.Canvas());
+  page_.Canvas().setAccessibleName(ToQString(designer_.Text(kTextProgramTitle)));
+  connect(&page_.Canvas(), &PageCanvas::ZoomRequested, this, &KavEdit01::OnZoomWheel);
+}
+
+void KavEdit01::BuildPanels() {
+  const QString findingsWord = ToQString(designer_.Text(kTextMenuFindings));
+  status_ = new StatusPanels(findingsWord, this);
+  setStatusBar(status_);
+  findings_ = new FindingsDock(designer_.Texts(), this);
+  addDockWidget(Qt::BottomDockWidgetArea, findings_);
+  findings_->hide();
+  progress_ = new ProgressWindow(this);
+  QAction& toggle = menus_->ActionOf(Command::ShowFindings);
+  connect(findings_, &QDockWidget::visibilityChanged, &toggle,
+          [this, &toggle] { toggle.setChecked(!findings_->isHidden()); });
+  connect(findings_, &FindingsDock::ObjectWanted, this, &KavEdit01::ObjectWanted);
+  connect(status_, &StatusPanels::FindingsWanted, this, [this] { findings_->show(); });
+}
+
+void KavEdit01::ConnectHost() {
+  host_.SetWindow(this);
+  connect(&host_, &QtHost::StatusChanged, status_, &StatusPanels::ShowText);
+  connect(&host_, &QtHost::SelectionStatusChanged, status_, &StatusPanels::ShowSelection);
+  connect(&host_, &QtHost::ProgressBegun, progress_, &ProgressWindow::Begin);
+  connect(&host_, &QtHost::ProgressStepped, progress_, &ProgressWindow::Step);
+  connect(&host_, &QtHost::ProgressEnded, progress_, &ProgressWindow::End);
+  connect(&host_, &QtHost::CaptionChanged, this, [this](const QString& title, bool modified) {
+    setWindowTitle(WindowCaption(title, modified, ToQString(designer_.Text(kTextModified)),
+                                 ToQString(designer_.Text(kTextProgramTitle))));
+  });
+}
+
+void KavEdit01::PlaceOnScreen() {
+  const QRect available = screen()->availableGeometry();
+  resize(kFirstSize.boundedTo(available.size()));
+  move(available.center() - rect().center());
+}
+
+// --- Start and end ----------------------------------------------------------------------------------------
+
+bool KavEdit01::event(QEvent* event) {
+  const bool handled = QMainWindow::event(event);
+  // Where there is no window manager a window is shown and never activated.
+  if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show) {
+    QTimer::singleShot(0, this, &KavEdit01::Activate);
+  }
+  return handled;
+}
+
+void KavEdit01::Activate() {
+  if (!designer_.BeginActivation()) return;
+  ShowSplash();
+  if (!ended_) designer_.AfterSplash();
+}
+
+void KavEdit01::ShowSplash() {
+  kavsplash splash(ToQString(designer_.Text(kTextProgramTitle)), this);
+  designer_.SplashLoad();
+  splash.exec();
+}
+
+void KavEdit01::closeEvent(QCloseEvent* event) {
+  if (!ended_ && !designer_.MayClose()) {
+    event->ignore();
+    return;
+  }
+  EndRun();
+  event->accept();
+}
+
+void KavEdit01::EndWithoutAsking() {
+  EndRun();
+  QCoreApplication::quit();
+}
+
+void KavEdit01::EndRun() {
+  if (std::exchange(ended_, true)) return;
+  designer_.ShutDown();
+}
+
+// --- Commands ---------------------------------------------------------------------------------------------
+
+void KavEdit01::Run(Command command) {
+  switch (command) {
+    case Command::New:
+      designer_.AskAndNew();
+      break;
+    case Command::Open:
+      designer_.ChooseAndOpen();
+      break;
+    case Command::Save:
+      designer_.Save();
+      break;
+    case Command::SaveAs:
+      designer_.SaveAs();
+      break;
+    case Command::Exit:
+      close();
+      break;
+    case Command::SeeAll:
+      ShowFilter(PageFilter::All);
+      break;
+    case Command::SeeModifiable:
+      ShowFilter(PageFilter::ModifiableByEndUser);
+      break;
+    case Command::SeePrinted:
+      ShowFilter(PageFilter::PrintedOnly);
+      break;
+    case Command::DrawGrid:
+      page_.SetDrawGrid(!page_.DrawGrid());
+      RedrawDocument();
+      break;
+    case Command::ShowFindings:
+      findings_->setVisible(findings_->isHidden());
+      break;
+    case Command::Documentation:
+      OpenDocumentation();
+      break;
+  }
+}
+
+void KavEdit01::ShowFilter(PageFilter filter) {
+  designer_.Filter = filter;
+  RedrawDocument();
+}
+
+void KavEdit01::OnZoomWheel(int steps, const QPointF& viewportPoint) {
+  double percent = designer_.ZoomFactor() * 100;
+  for (int step = 0; step < steps; ++step)
+    percent = ZoomStepUp(percent);
+  for (int step = 0; step > steps; --step)
+    percent = ZoomStepDown(percent);
+  page_.SetZoom(QString::number(percent), viewportPoint);
+}
+
+void KavEdit01::OpenDocumentation() {
+  constexpr std::string_view kHost = KEV_HELP_HOST;
+  const std::string address = DocumentationAddress(kHost, designer_.Language());
+  const std::optional<std::string> installed = InstalledDocumentation(designer_.Folders().ProgramFolder);
+  if (kHost.empty() && !installed) {
+    designer_.ShowText(kTextFileMissing, BoxIcon::Critical, designer_.Folders().ProgramFolder + "/docs");
+    return;
+  }
+  const QUrl url = kHost.empty() ? QUrl::fromLocalFile(FromNative(*installed)) : QUrl(FromNative(address));
+  if (!QDesktopServices::openUrl(url)) {
+    designer_.ShowText(kTextProgramNotStarted, BoxIcon::Critical, ToNative(url.toDisplayString()));
+  }
+}
+
+void KavEdit01::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedTemplate(*event->mimeData()).empty()) event->acceptProposedAction();
+}
+
+void KavEdit01::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  // The program that the file was dragged from waits for this event to end; a question would hold it up.
+  QTimer::singleShot(0, this,
+                     [this, path = DroppedTemplate(*event->mimeData())] { designer_.AskAndOpen(path); });
+}
+
+// --- What the designer shows ------------------------------------------------------------------------------
+
+void KavEdit01::DocumentReplaced() {
+  page_.DocumentReplaced();
+}
+
+void KavEdit01::RedrawDocument() {
+  page_.Redraw();
+}
+
+void KavEdit01::ShowZoom(std::string_view text) {
+  zoomBox_->ShowZoom(ToQString(text));
+  zoomMenu_->ShowZoom(ToQString(text));
+}
+
+void KavEdit01::FindingsChanged() {
+  findings_->Show(designer_.Findings(), *designer_.OpenDocument().Page);
+  status_->ShowFindingCount(static_cast<int>(designer_.Findings().size()));
+}
+
+}  // namespace kev

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// The main window. It holds the controls and their connections; what a command does, the designer decides.
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "app/commands.h"
+#include "app/designer.h"
+#include "platform/page_view.h"
+#include "platform/qt_host.h"
+
+class QToolBar;
+
+namespace kev {
+
+class CommandMenus;
+class FindingsDock;
+class ProgressWindow;
+class StatusPanels;
+class ZoomBox;
+class ZoomMenu;
+
+class KavEdit01 final : public QMainWindow, public DesignerView {
+  Q_OBJECT
+
+ public:
+  // After the designer's Load. All outlive the window.
+  KavEdit01(Designer& designer, QtHost& host, FontCache& fonts, ImageCache& images);
+  ~KavEdit01() override;
+
+  void Run(Command command);
+  // Ends the program without a question: the session is being ended and nobody answers. Unsaved work stays
+  // where recovery finds it.
+  void EndWithoutAsking();
+
+  void DocumentReplaced() override;
+  void RedrawDocument() override;
+  void ShowZoom(std::string_view text) override;
+  void FindingsChanged() override;
+
+ Q_SIGNALS:
+  // A finding's object was chosen in the list.
+  void ObjectWanted(int row);
+
+ protected:
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void BuildToolRow();
+  void BuildPage();
+  void BuildPanels();
+  void ConnectHost();
+  void PlaceOnScreen();
+  void Activate();
+  void ShowSplash();
+  void ShowFilter(PageFilter filter);
+  void OnZoomWheel(int steps, const QPointF& viewportPoint);
+  void OpenDocumentation();
+  void EndRun();
+
+  Designer& designer_;
+  QtHost& host_;
+  PageView page_;
+  CommandMenus* menus_ = nullptr;
+  ZoomMenu* zoomMenu_ = nullptr;
+  ZoomBox* zoomBox_ = nullptr;
+  StatusPanels* status_ = nullptr;
+  FindingsDock* findings_ = nullptr;
+  ProgressWindow* progress_ = nullptr;
+  bool ended_ = false;
+};
+
+}  // namespace kev

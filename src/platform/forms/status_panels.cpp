@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "platform/forms/status_panels.h"
+
+#include <QLabel>
+#include <QToolButton>
+
+namespace kev {
+
+namespace {
+
+constexpr int kSelectionWidth = 200;
+constexpr int kSideMargin = 10;
+
+QLabel* AddPanel(QStatusBar& bar, const QString& name, int stretch) {
+  auto* label = new QLabel(&bar);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  label->setContentsMargins(kSideMargin, 3, kSideMargin, 3);
+  bar.addWidget(label, stretch);
+  return label;
+}
+
+}  // namespace
+
+StatusPanels::StatusPanels(const QString& findingsWord, QWidget* parent)
+    : QStatusBar(parent),
+      findingsWord_(findingsWord),
+      selection_(AddPanel(*this, QStringLiteral("statusselection"), 0)),
+      text_(AddPanel(*this, QStringLiteral("statustext"), 1)),
+      findings_(new QToolButton(this)) {
+  setObjectName(QStringLiteral("statusbar"));
+  setSizeGripEnabled(false);
+  selection_->setMinimumWidth(kSelectionWidth);
+  // A long message is cut at the window's edge instead of widening the window.
+  text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  findings_->setObjectName(QStringLiteral("findingsbutton"));
+  findings_->setAutoRaise(true);
+  findings_->setAccessibleName(findingsWord);
+  findings_->hide();
+  addPermanentWidget(findings_);
+  connect(findings_, &QToolButton::clicked, this, &StatusPanels::FindingsWanted);
+}
+
+void StatusPanels::ShowSelection(const QString& text) {
+  selection_->setText(text);
+}
+
+void StatusPanels::ShowText(const QString& text) {
+  text_->setText(text);
+  text_->setToolTip(text);
+}
+
+void StatusPanels::ShowFindingCount(int count) {
+  findings_->setText(findingsWord_ + QStringLiteral(": ") + QString::number(count));
+  findings_->setVisible(count > 0);
+}
+
+}  // namespace kev

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// The status bar: what is selected, the last message, and how many findings there are.
+#pragma once
+
+#include <QStatusBar>
+
+class QLabel;
+class QToolButton;
+
+namespace kev {
+
+class StatusPanels final : public QStatusBar {
+  Q_OBJECT
+
+ public:
+  explicit StatusPanels(const QString& findingsWord, QWidget* parent = nullptr);
+
+  void ShowSelection(const QString& text);
+  void ShowText(const QString& text);
+  void ShowFindingCount(int count);
+
+ Q_SIGNALS:
+  void FindingsWanted();
+
+ private:
+  QString findingsWord_;
+  QLabel* selection_;
+  QLabel* text_;
+  QToolButton* findings_;
+};
+
+}  // namespace kev

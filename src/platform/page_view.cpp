@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "platform/page_view.h"
+
+#include <QScrollBar>
+
+#include "app/text_numbers.h"
+#include "document/sort_keys.h"
+#include "platform/text_bridge.h"
+#include "surface/page_background.h"
+
+namespace kev {
+
+namespace {
+
+DisplayFilter ShownBy(PageFilter filter) {
+  switch (filter) {
+    case PageFilter::All:
+      return DisplayFilter::All;
+    case PageFilter::ModifiableByEndUser:
+      return DisplayFilter::Ebeu;
+    case PageFilter::PrintedOnly:
+      return DisplayFilter::Print;
+  }
+  return DisplayFilter::All;
+}
+
+}  // namespace
+
+PageView::PageView(Designer& designer, FontCache& fonts, ImageCache& images, QWidget* parent)
+    : designer_(designer),
+      fonts_(fonts),
+      images_(images),
+      list_(fonts, images),
+      canvas_(std::make_unique<PageCanvas>(list_, parent)) {
+  canvas_->setObjectName(QStringLiteral("p1"));
+  canvas_->verticalScrollBar()->setObjectName(QStringLiteral("vscrollbar"));
+  canvas_->horizontalScrollBar()->setObjectName(QStringLiteral("hscrollbar"));
+  images_.SetResolver([&designer](std::string_view file) {
+    return designer.PictureFileOnDisk(file).value_or(std::string());
+  });
+}
+
+void PageView::Redraw() {
+  Document& document = designer_.OpenDocument();
+  PaintContext context{document,
+                       list_,
+                       designer_.Measurer(),
+                       designer_.ZoomFactor(),
+                       ShownBy(designer_.Filter),
+                       0,
+                       WorkImages{designer_.Folders().TempFolder, designer_.SessionNumber()}};
+  const PaintResult painted = PaintPage(context, drawGrid_, SetSortKeys(document));
+  designer_.TheHost().ShowSelectionStatus(
+      SelectionStatus(painted.SelectionCount, designer_.Text(kTextObjectsSelected)));
+  canvas_->ShowList();
+}
+
+void PageView::DocumentReplaced() {
+  fonts_.SetPage(*designer_.OpenDocument().Page);
+  canvas_->verticalScrollBar()->setValue(canvas_->verticalScrollBar()->minimum());
+  canvas_->horizontalScrollBar()->setValue(canvas_->horizontalScrollBar()->minimum());
+}
+
+void PageView::SetZoom(const QString& text, const QPointF& anchor) {
+  const QPointF place = canvas_->ToCanvas(anchor) / designer_.ZoomFactor();
+  // A character that no code page holds is no part of a number: the designer then puts the old zoom back.
+  if (!designer_.SetZoom(FromQString(text, CodePage::Default()).value_or(std::string()))) return;
+  canvas_->ScrollTo(place * designer_.ZoomFactor(), anchor);
+}
+
+void PageView::SetZoom(const QString& text) {
+  SetZoom(text, QRectF(canvas_->viewport()->rect()).center());
+}
+
+}  // namespace kev

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// The open document's page in the window: fills the display list and keeps the view's place.
+#pragma once
+
+#include <memory>
+
+#include "app/designer.h"
+#include "platform/display_list.h"
+#include "platform/page_canvas.h"
+#include "surface/visuals.h"
+
+namespace kev {
+
+class PageView {
+ public:
+  // All outlive it. The canvas is a child of `parent`.
+  PageView(Designer& designer, FontCache& fonts, ImageCache& images, QWidget* parent);
+
+  PageCanvas& Canvas() { return *canvas_; }
+
+  // Paints the page anew at the designer's zoom and filter.
+  void Redraw();
+  // The names on the page and its bytes are those of another document.
+  void DocumentReplaced();
+
+  bool DrawGrid() const { return drawGrid_; }
+  void SetDrawGrid(bool draw) { drawGrid_ = draw; }
+
+  // Changes the zoom; the point of the page below `anchor` (pixels of the viewport) stays where it is.
+  void SetZoom(const QString& text, const QPointF& anchor);
+  void SetZoom(const QString& text);
+
+ private:
+  Designer& designer_;
+  FontCache& fonts_;
+  ImageCache& images_;
+  DisplayList list_;
+  // Before the list that it shows, wherever it stands in the window.
+  std::unique_ptr<PageCanvas> canvas_;
+  bool drawGrid_ = false;
+};
+
+}  // namespace kev
