@@ -61,7 +61,7 @@ void MarkFirstFree(std::string& caption, std::set<char>& taken) {
   for (std::size_t i = 0; i < caption.size(); ++i) {
     const char letter = CodePage::Default().Upper(caption[i]);
     if (!IsPlainLetter(caption[i]) || !taken.insert(letter).second) continue;
-    caption.insert(i, "&");
+    caption.insert(i, 1, '&');
     return;
   }
 }

@@ -80,7 +80,7 @@ BoxAnswer QtHost::ShowMessage(const MessageBox& asked) {
   box.setIcon(IconOf(asked.Icon));
   // A file name that looks like markup is shown as it is.
   box.setTextFormat(Qt::PlainText);
-  box.setText(WithDetail(asked.Text, asked.Detail));
+  box.setText(WithDetail(asked.Text, asked.Detail).remove(QLatin1Char('\r')));
   AddButtons(box, asked);
   return AnswerOf(box.exec(), asked.Buttons);
 }

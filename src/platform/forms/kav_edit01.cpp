@@ -21,6 +21,7 @@
 #include "platform/forms/command_menus.h"
 #include "platform/forms/findings_dock.h"
 #include "platform/forms/kavsplash.h"
+#include "platform/forms/language_menu.h"
 #include "platform/forms/progress_window.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/zoom_box.h"
@@ -71,11 +72,28 @@ void KavEdit01::BuildMenus() {
   menus_ = new CommandMenus(*menuBar(), designer_.Texts(), [this](Command command) { Run(command); });
   menuBar()->setObjectName(QStringLiteral("menubar"));
   menus_->ActionOf(Command::SeeAll).setChecked(true);
+  BuildZoomMenu();
+  BuildLanguageMenu();
+}
+
+void KavEdit01::BuildZoomMenu() {
   QMenu& view = menus_->MenuOf(MenuId::View);
-  zoomMenu_ = new ZoomMenu(ToQString(WithMnemonics({designer_.Text(kTextMenuZoom)}).front()), &view);
+  zoomMenu_ = new ZoomMenu(MenuCaption(kTextMenuZoom), &view);
   view.insertMenu(view.actions().constFirst(), zoomMenu_);
   view.insertSeparator(view.actions().at(1));
   connect(zoomMenu_, &ZoomMenu::ZoomChosen, this, [this](const QString& text) { page_.SetZoom(text); });
+}
+
+void KavEdit01::BuildLanguageMenu() {
+  QMenu& help = menus_->MenuOf(MenuId::Help);
+  auto* languages = new LanguageMenu(MenuCaption(kTextMenuLanguage), designer_.Language(), &help);
+  help.addMenu(languages);
+  connect(languages, &LanguageMenu::LanguageChosen, this,
+          [this](char letter) { designer_.ChooseLanguage(letter); });
+}
+
+QString KavEdit01::MenuCaption(int text) const {
+  return ToQString(WithMnemonics({designer_.Text(text)}).front());
 }
 
 void KavEdit01::BuildToolRow() {

@@ -51,6 +51,9 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
 
  private:
   void BuildMenus();
+  void BuildZoomMenu();
+  void BuildLanguageMenu();
+  QString MenuCaption(int text) const;
   void BuildToolRow();
   void BuildPage();
   void BuildPanels();

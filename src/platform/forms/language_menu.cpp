@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "platform/forms/language_menu.h"
+
+#include <QActionGroup>
+#include <array>
+
+namespace kev {
+
+namespace {
+
+struct LanguageRow {
+  char letter;
+  const char* name;  // UTF-8
+};
+
+constexpr std::array kLanguages = {LanguageRow{'E', "English"}, LanguageRow{'S', "Espa\xC3\xB1ol"},
+                                   LanguageRow{'I', "Italiano"}, LanguageRow{'P', "Portugu\xC3\xAAs"}};
+
+}  // namespace
+
+LanguageMenu::LanguageMenu(const QString& caption, char active, QWidget* parent) : QMenu(caption, parent) {
+  setObjectName(QStringLiteral("menlanguage"));
+  auto* group = new QActionGroup(this);
+  for (const LanguageRow& row : kLanguages) {
+    QAction* action = addAction(QString::fromUtf8(row.name));
+    action->setObjectName(QStringLiteral("language") + QLatin1Char(row.letter));
+    action->setCheckable(true);
+    action->setChecked(row.letter == active);
+    group->addAction(action);
+    connect(action, &QAction::triggered, this, [this, &row] { Q_EMIT LanguageChosen(row.letter); });
+  }
+}
+
+}  // namespace kev

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt_host.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <fstream>
+
+#include "platform/print_qt.h"
+
+namespace kev {
+namespace {
+
+// Runs once the box or dialog that the next call opens is on screen.
+void WhenModal(std::function<void(QWidget&)> act) {
+  QTimer::singleShot(0, qApp, [act] {
+    QWidget* modal = QApplication::activeModalWidget();
+    ASSERT_NE(modal, nullptr);
+    act(*modal);
+  });
+}
+
+TEST(QtHostMessages, ShowTitleTextDetailAndTheirButtons) {
+  QtHost host;
+  host.SetButtonCaption(BoxAnswer::Yes, QString::fromUtf8("Sí"));
+  QString text, title, yes;
+  WhenModal([&](QWidget& modal) {
+    auto& box = dynamic_cast<QMessageBox&>(modal);
+    text = box.text();
+    title = box.windowTitle();
+    yes = box.button(QMessageBox::Yes)->text();
+    EXPECT_EQ(box.icon(), QMessageBox::Question);
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    box.button(QMessageBox::Yes)->click();
+  });
+  const BoxAnswer answer = host.ShowMessage(
+      {"Kev", "Save\r\nFile: ", "/t/<b>ñ</b>.kev", BoxIcon::Question, BoxButtons::YesNoCancel});
+  EXPECT_EQ(answer, BoxAnswer::Yes);
+  EXPECT_EQ(text, QString::fromUtf8("Save\nFile: /t/<b>ñ</b>.kev"));
+  EXPECT_EQ(title, QStringLiteral("Kev"));
+  EXPECT_EQ(yes, QString::fromUtf8("Sí"));
+}
+
+BoxAnswer AnswerToEscape(BoxButtons buttons) {
+  QtHost host;
+  WhenModal([](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Escape); });
+  return host.ShowMessage({"", "Text", "", BoxIcon::Question, buttons});
+}
+
+TEST(QtHostMessages, EscapeNeverAgrees) {
+  EXPECT_EQ(AnswerToEscape(BoxButtons::Ok), BoxAnswer::Ok);
+  EXPECT_EQ(AnswerToEscape(BoxButtons::YesNo), BoxAnswer::No);
+  EXPECT_EQ(AnswerToEscape(BoxButtons::YesNoCancel), BoxAnswer::Cancel);
+}
+
+TEST(QtHostMessages, EnterTakesNoWhereNoIsTheDefault) {
+  QtHost host;
+  WhenModal([](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Return); });
+  EXPECT_EQ(host.ShowMessage({"", "Text", "", BoxIcon::Warning, BoxButtons::YesNo, true}), BoxAnswer::No);
+}
+
+TEST(QtHostSignals, CarryUnicode) {
+  QtHost host;
+  const QSignalSpy status(&host, &QtHost::StatusChanged);
+  const QSignalSpy selection(&host, &QtHost::SelectionStatusChanged);
+  const QSignalSpy caption(&host, &QtHost::CaptionChanged);
+  host.ShowStatus(
+      "Pr\xE9"
+      "cis ",
+      "/t/ж.kev");
+  host.ShowSelectionStatus("2 \xF1");
+  host.ShowCaption("ж.kev", true);
+  EXPECT_EQ(status[0][0].toString(), QString::fromUtf8("Précis /t/ж.kev"));
+  EXPECT_EQ(selection[0][0].toString(), QString::fromUtf8("2 ñ"));
+  EXPECT_EQ(caption[0][0].toString(), QString::fromUtf8("ж.kev"));
+  EXPECT_TRUE(caption[0][1].toBool());
+}
+
+class ChooserTest : public testing::Test {
+ protected:
+  ChooserTest() {
+    host.UseNativeDialogs(false);
+    std::ofstream(folder.filePath(QStringLiteral("one.kev")).toStdString()) << "x";
+  }
+
+  FileChoice Choice() const {
+    return {"Save as", folder.path().toStdString(), "one.kev", {{"Templates", "*.kev *.KEV"}}};
+  }
+  static void TypeName(QWidget& modal, const QString& name) {
+    auto* edit = modal.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    ASSERT_NE(edit, nullptr);
+    edit->setText(name);
+    QTest::keyClick(edit, Qt::Key_Return);
+  }
+
+  QTemporaryDir folder;
+  QtHost host;
+};
+
+TEST_F(ChooserTest, ANameWithoutAnEndingGetsTheOneOfTheFilter) {
+  WhenModal([](QWidget& modal) { TypeName(modal, QString::fromUtf8("dos ñ")); });
+  EXPECT_EQ(host.ChooseFileToSave(Choice()), folder.path().toStdString() + "/dos ñ.kev");
+}
+
+TEST_F(ChooserTest, TheSuggestedNameStandsInTheDialog) {
+  WhenModal([](QWidget& modal) {
+    EXPECT_EQ(modal.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), QStringLiteral("one.kev"));
+    QTest::keyClick(&modal, Qt::Key_Escape);
+  });
+  EXPECT_EQ(host.ChooseFileToSave(Choice()), std::nullopt);
+}
+
+TEST_F(ChooserTest, AnExistingFileIsChosenToOpen) {
+  WhenModal([](QWidget& modal) { TypeName(modal, QStringLiteral("one.kev")); });
+  EXPECT_EQ(host.ChooseFileToOpen(Choice()), folder.path().toStdString() + "/one.kev");
+}
+
+}  // namespace
+}  // namespace kev
