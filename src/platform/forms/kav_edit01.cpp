@@ -17,6 +17,7 @@
 #include "app/documentation.h"
 #include "app/text_numbers.h"
 #include "app/zoom_steps.h"
+#include "base/numbers.h"
 #include "platform/app_style.h"
 #include "platform/forms/command_menus.h"
 #include "platform/forms/findings_dock.h"
@@ -60,6 +61,7 @@ KavEdit01::KavEdit01(Designer& designer, QtHost& host, FontCache& fonts, ImageCa
   ConnectHost();
   PlaceOnScreen();
   designer_.AttachView(this);
+  ShowZoom(FormatNumber(designer_.ZoomFactor() * 100) + "%");
 }
 
 KavEdit01::~KavEdit01() {
@@ -121,7 +123,7 @@ void KavEdit01::BuildPage() {
 
 void KavEdit01::BuildPanels() {
   const QString findingsWord = ToQString(designer_.Text(kTextMenuFindings));
-  status_ = new StatusPanels(findingsWord, this);
+  status_ = new StatusPanels(ToQString(designer_.Text(kTextStatusReady)), findingsWord, this);
   setStatusBar(status_);
   findings_ = new FindingsDock(designer_.Texts(), this);
   addDockWidget(Qt::BottomDockWidgetArea, findings_);

@@ -22,8 +22,9 @@ QLabel* AddPanel(QStatusBar& bar, const QString& name, int stretch) {
 
 }  // namespace
 
-StatusPanels::StatusPanels(const QString& findingsWord, QWidget* parent)
+StatusPanels::StatusPanels(const QString& idleText, const QString& findingsWord, QWidget* parent)
     : QStatusBar(parent),
+      idleText_(idleText),
       findingsWord_(findingsWord),
       selection_(AddPanel(*this, QStringLiteral("statusselection"), 0)),
       text_(AddPanel(*this, QStringLiteral("statustext"), 1)),
@@ -37,6 +38,7 @@ StatusPanels::StatusPanels(const QString& findingsWord, QWidget* parent)
   findings_->setAutoRaise(true);
   findings_->setAccessibleName(findingsWord);
   findings_->hide();
+  ShowText(QString());
   addPermanentWidget(findings_);
   connect(findings_, &QToolButton::clicked, this, &StatusPanels::FindingsWanted);
 }
@@ -46,7 +48,7 @@ void StatusPanels::ShowSelection(const QString& text) {
 }
 
 void StatusPanels::ShowText(const QString& text) {
-  text_->setText(text);
+  text_->setText(text.isEmpty() ? idleText_ : text);
   text_->setToolTip(text);
 }
 

@@ -13,7 +13,8 @@ class StatusPanels final : public QStatusBar {
   Q_OBJECT
 
  public:
-  explicit StatusPanels(const QString& findingsWord, QWidget* parent = nullptr);
+  // `idleText` stands where there is no message.
+  StatusPanels(const QString& idleText, const QString& findingsWord, QWidget* parent = nullptr);
 
   void ShowSelection(const QString& text);
   void ShowText(const QString& text);
@@ -23,6 +24,7 @@ class StatusPanels final : public QStatusBar {
   void FindingsWanted();
 
  private:
+  QString idleText_;
   QString findingsWord_;
   QLabel* selection_;
   QLabel* text_;

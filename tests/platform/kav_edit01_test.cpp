@@ -1,0 +1,371 @@
+// SPDX-License-Identifier: MIT
+#include "platform/forms/kav_edit01.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QUrl>
+#include <QWheelEvent>
+#include <fstream>
+
+#include "base/files.h"
+#include "platform/forms/kavsplash.h"
+#include "platform/print_qt.h"
+#include "platform/qt_measurer.h"
+#include "platform/temp_home.h"
+
+namespace kev {
+namespace {
+
+// Answers boxes by the name of the button and keeps their texts.
+class BoxAnswers : public QObject {
+ public:
+  explicit BoxAnswers(QMessageBox::StandardButton answer) : answer_(answer) {
+    QObject::connect(&timer_, &QTimer::timeout, this, [this] { Look(); });
+    timer_.start(5);
+  }
+  QStringList texts;
+
+ private:
+  void Look() {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    texts << box->text();
+    QAbstractButton* button = box->button(answer_);
+    (button != nullptr ? button : box->buttons().constFirst())->click();
+  }
+
+  QMessageBox::StandardButton answer_;
+  QTimer timer_;
+};
+
+class KavEdit01Test : public testing::Test {
+ protected:
+  // The whole start up to the idle program.
+  void Start(std::vector<std::string> arguments = {}) {
+    designer = std::make_unique<Designer>(host, measurer, home.Input(std::move(arguments)));
+    host.UseNativeDialogs(false);
+    ASSERT_TRUE(designer->Load());
+    window = std::make_unique<KavEdit01>(*designer, host, fonts, images);
+    window->show();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->findChild<kavsplash*>() != nullptr; }));
+    QTest::mouseClick(window->findChild<kavsplash*>(), Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !window->windowTitle().isEmpty(); }));
+  }
+
+  template <typename Child>
+  Child& Find(const char* name) {
+    Child* child = window->findChild<Child*>(QString::fromLatin1(name));
+    if (child == nullptr) throw std::runtime_error(std::string("no control ") + name);
+    return *child;
+  }
+  void Trigger(const char* name) { Find<QAction>(name).trigger(); }
+  QComboBox& Zoom() { return Find<QComboBox>("combozoom"); }
+  PageCanvas& Page() { return Find<PageCanvas>("p1"); }
+  QString Status() { return Find<QLabel>("statustext").text(); }
+
+  void TypeZoom(const QString& text) {
+    Zoom().lineEdit()->selectAll();
+    QTest::keyClicks(Zoom().lineEdit(), text);
+    QTest::keyClick(Zoom().lineEdit(), Qt::Key_Return);
+  }
+  void CtrlWheel(QPoint at, int up) {
+    QWheelEvent event(at, Page().viewport()->mapToGlobal(at), {}, {0, up * 120}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(Page().viewport(), &event);
+  }
+  // Types a path into the file dialog that the next call opens.
+  static void WhenFileDialog(const std::string& path) {
+    QTimer::singleShot(0, qApp, [path] {
+      auto* edit = QApplication::activeModalWidget()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+      edit->setText(QString::fromStdString(path));
+      QTest::keyClick(edit, Qt::Key_Return);
+    });
+  }
+  static void Drop(KavEdit01& target, const std::string& path) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &enter);
+    if (!enter.isAccepted()) return;
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &drop);
+    QCoreApplication::processEvents();
+  }
+
+  TempHome home;
+  QtHost host;
+  FontCache fonts;
+  ImageCache images{{}};
+  QtMeasurer measurer{fonts};
+  std::unique_ptr<Designer> designer;
+  std::unique_ptr<KavEdit01> window;
+};
+
+TEST_F(KavEdit01Test, StartsWithAFreshDocument) {
+  Start();
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Noname.kev - Kev Visual Editor"));
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("100%"));
+  EXPECT_TRUE(Find<QAction>("seeall").isChecked());
+  EXPECT_TRUE(FileExists(home.Path("data/Kev/SN.DAT")));
+}
+
+TEST_F(KavEdit01Test, StartsOnTheTemplateOfTheCommandLine) {
+  Start({home.CopyOf("letter.kev")});
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev - Kev Visual Editor"));
+}
+
+TEST_F(KavEdit01Test, AMissingTemplateIsToldInTheStatusLine) {
+  Start({home.Path("work/none.kev")});
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Noname.kev - Kev Visual Editor"));
+  EXPECT_TRUE(Status().contains(QStringLiteral("none.kev"))) << Status().toStdString();
+}
+
+TEST_F(KavEdit01Test, EveryEntryOfTheMenusHasACaptionAndACommand) {
+  Start();
+  for (const CommandRow& row : CommandRows()) {
+    const auto& action = Find<QAction>(std::string(row.name).c_str());
+    EXPECT_FALSE(action.text().isEmpty()) << row.name;
+    EXPECT_EQ(action.text().endsWith(QStringLiteral(" ...")), row.opensDialog) << row.name;
+    EXPECT_EQ(action.shortcut().toString(),
+              QString::fromLatin1(row.shortcut.data(), qsizetype(row.shortcut.size())));
+  }
+}
+
+TEST_F(KavEdit01Test, EveryControlHasANameAndAnAccessibleName) {
+  Start();
+  for (const char* name : {"menubar", "toolbar1", "p1", "vscrollbar", "hscrollbar", "statusbar",
+                           "statusselection", "statustext", "findings", "combozoom", "progresswindow"}) {
+    EXPECT_NE(window->findChild<QWidget*>(QString::fromLatin1(name)), nullptr) << name;
+  }
+  for (const char* name : {"p1", "findings", "findingslist", "combozoom", "findingsbutton"}) {
+    EXPECT_FALSE(Find<QWidget>(name).accessibleName().isEmpty()) << name;
+  }
+}
+
+TEST_F(KavEdit01Test, ATypedZoomIsApplied) {
+  Start();
+  TypeZoom(QStringLiteral("133"));
+  EXPECT_DOUBLE_EQ(designer->ZoomFactor(), 1.33);
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("133%"));
+}
+
+TEST_F(KavEdit01Test, AZoomOutsideItsLimitsIsPutBack) {
+  Start();
+  for (const char* typed : {"9", "801", "abc", "", "-50", "1e9"}) {
+    TypeZoom(QString::fromLatin1(typed));
+    EXPECT_EQ(Zoom().currentText(), QStringLiteral("100%")) << typed;
+    EXPECT_DOUBLE_EQ(designer->ZoomFactor(), 1) << typed;
+  }
+  TypeZoom(QStringLiteral("10"));
+  EXPECT_DOUBLE_EQ(designer->ZoomFactor(), 0.1);
+  TypeZoom(QStringLiteral("800"));
+  EXPECT_DOUBLE_EQ(designer->ZoomFactor(), 8);
+}
+
+TEST_F(KavEdit01Test, TheMiddleOfTheViewStaysOverAZoom) {
+  Start({home.CopyOf("invoice.kev")});
+  TypeZoom(QStringLiteral("200"));
+  Find<QScrollBar>("vscrollbar").setValue(700);
+  const QPointF middle = QRectF(Page().viewport()->rect()).center();
+  const QPointF before = Page().ToCanvas(middle) / designer->ZoomFactor();
+  TypeZoom(QStringLiteral("400"));
+  const QPointF after = Page().ToCanvas(middle) / designer->ZoomFactor();
+  EXPECT_NEAR(before.x(), after.x(), 15);
+  EXPECT_NEAR(before.y(), after.y(), 15);
+}
+
+TEST_F(KavEdit01Test, TheWheelWithCtrlZoomsAroundThePointer) {
+  Start({home.CopyOf("invoice.kev")});
+  TypeZoom(QStringLiteral("180"));
+  Find<QScrollBar>("vscrollbar").setValue(600);
+  const QPoint pointer(200, 150);
+  const QPointF before = Page().ToCanvas(pointer) / designer->ZoomFactor();
+  CtrlWheel(pointer, 1);
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("200%"));
+  const QPointF after = Page().ToCanvas(pointer) / designer->ZoomFactor();
+  EXPECT_NEAR(before.y(), after.y(), 15);
+  CtrlWheel(pointer, -2);
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("150%"));
+}
+
+TEST_F(KavEdit01Test, TheZoomMenuAndTheBoxAgree) {
+  Start();
+  Trigger("zoom150%");
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("150%"));
+  EXPECT_DOUBLE_EQ(designer->ZoomFactor(), 1.5);
+  TypeZoom(QStringLiteral("80"));
+  EXPECT_TRUE(Find<QAction>("zoom80%").isChecked());
+  EXPECT_FALSE(Find<QAction>("zoom150%").isChecked());
+}
+
+TEST_F(KavEdit01Test, PageFiltersExcludeEachOther) {
+  Start();
+  Trigger("see_ebeu");
+  EXPECT_EQ(designer->Filter, PageFilter::ModifiableByEndUser);
+  EXPECT_FALSE(Find<QAction>("seeall").isChecked());
+  Trigger("see_printnoprint");
+  EXPECT_EQ(designer->Filter, PageFilter::PrintedOnly);
+  Trigger("seeall");
+  EXPECT_EQ(designer->Filter, PageFilter::All);
+  EXPECT_FALSE(Find<QAction>("see_printnoprint").isChecked());
+}
+
+TEST_F(KavEdit01Test, TheGridChangesThePageAndItsMark) {
+  Start();
+  const QImage without = Page().viewport()->grab().toImage();
+  Trigger("viewdrawgrid");
+  EXPECT_TRUE(Find<QAction>("viewdrawgrid").isChecked());
+  EXPECT_NE(Page().viewport()->grab().toImage(), without);
+  Trigger("viewdrawgrid");
+  EXPECT_EQ(Page().viewport()->grab().toImage(), without);
+}
+
+TEST_F(KavEdit01Test, ACommandOpensTheChosenTemplate) {
+  Start();
+  WhenFileDialog(home.CopyOf("letter.kev"));
+  Trigger("openmen");
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev - Kev Visual Editor"));
+}
+
+TEST_F(KavEdit01Test, SaveAsWritesUnderTheNewNameAndGoesOnWithIt) {
+  Start({home.CopyOf("letter.kev")});
+  WhenFileDialog(home.Path("work/copy.kev"));
+  Trigger("saveas");
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("copy.kev - Kev Visual Editor"));
+  EXPECT_TRUE(FileExists(home.Path("work/copy.kev")));
+  DeleteFileIfThere(home.Path("work/copy.kev"));
+  Trigger("savemen");
+  EXPECT_TRUE(FileExists(home.Path("work/copy.kev")));
+}
+
+TEST_F(KavEdit01Test, AChangeShowsInTheCaptionAndSavingTakesItAway) {
+  Start({home.CopyOf("letter.kev")});
+  designer->MarkModified();
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev [Modified] - Kev Visual Editor"));
+  Trigger("savemen");
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev - Kev Visual Editor"));
+}
+
+TEST_F(KavEdit01Test, ClosingWithoutChangesAsksNothingAndWritesTheOptions) {
+  Start();
+  const BoxAnswers answers(QMessageBox::Cancel);
+  EXPECT_TRUE(window->close());
+  EXPECT_TRUE(answers.texts.isEmpty());
+  EXPECT_TRUE(ReadWholeFile(home.Path("data/Kev/LASTRV.DAT"))->starts_with("# LAST RUN DESIGNER OPTIONS"));
+}
+
+TEST_F(KavEdit01Test, CancelKeepsTheWindowOpen) {
+  Start({home.CopyOf("letter.kev")});
+  designer->MarkModified();
+  const BoxAnswers answers(QMessageBox::Cancel);
+  EXPECT_FALSE(window->close());
+  EXPECT_TRUE(window->isVisible());
+  ASSERT_EQ(answers.texts.size(), 1);
+  EXPECT_TRUE(answers.texts[0].endsWith(QStringLiteral(" letter.kev"))) << answers.texts[0].toStdString();
+}
+
+TEST_F(KavEdit01Test, NoClosesWithoutSaving) {
+  const std::string copy = home.CopyOf("letter.kev");
+  const std::string before = *ReadWholeFile(copy);
+  Start({copy});
+  designer->MarkModified();
+  const BoxAnswers answers(QMessageBox::No);
+  EXPECT_TRUE(window->close());
+  EXPECT_EQ(*ReadWholeFile(copy), before);
+}
+
+TEST_F(KavEdit01Test, YesSavesAndCloses) {
+  const std::string copy = home.CopyOf("letter.kev");
+  Start({copy});
+  DeleteFileIfThere(copy);
+  designer->MarkModified();
+  const BoxAnswers answers(QMessageBox::Yes);
+  EXPECT_TRUE(window->close());
+  EXPECT_TRUE(FileExists(copy));
+}
+
+TEST_F(KavEdit01Test, ASaveThatFailsStopsTheClose) {
+  const std::string copy = home.CopyOf("letter.kev");
+  Start({copy});
+  std::filesystem::remove_all(home.Path("work"));
+  designer->MarkModified();
+  const BoxAnswers answers(QMessageBox::Yes);
+  EXPECT_FALSE(window->close());
+  EXPECT_EQ(answers.texts.size(), 2);
+}
+
+TEST_F(KavEdit01Test, EndingTheSessionAsksNothing) {
+  Start();
+  designer->MarkModified();
+  const BoxAnswers answers(QMessageBox::Cancel);
+  window->EndWithoutAsking();
+  EXPECT_TRUE(answers.texts.isEmpty());
+  EXPECT_TRUE(window->close());
+}
+
+TEST_F(KavEdit01Test, ADroppedTemplateOpens) {
+  Start();
+  Drop(*window, home.CopyOf("letter.kev"));
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev - Kev Visual Editor"));
+}
+
+TEST_F(KavEdit01Test, ADropAsksToSaveFirst) {
+  Start();
+  designer->MarkModified();
+  const BoxAnswers answers(QMessageBox::Cancel);
+  Drop(*window, home.CopyOf("letter.kev"));
+  EXPECT_EQ(answers.texts.size(), 1);
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Noname.kev [Modified] - Kev Visual Editor"));
+}
+
+TEST_F(KavEdit01Test, OtherFilesAreNoDrop) {
+  Start();
+  Drop(*window, std::string(KEV_EXAMPLES_DIR) + "/logo.png");
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Noname.kev - Kev Visual Editor"));
+}
+
+TEST_F(KavEdit01Test, FindingsAreListedWithTheirLines) {
+  const std::string path = home.Path("work/odd.kev");
+  std::ofstream(path)
+      << "SPACING=200\r\n[HEADER]\r\n{Nonsense=1;}Title{\\n}\r\n[DATA]\r\n[FOOTER]\r\nLost text\r\n";
+  Start({path});
+  ASSERT_FALSE(designer->Findings().empty());
+  EXPECT_TRUE(Find<QToolButton>("findingsbutton").isVisible());
+  Find<QToolButton>("findingsbutton").click();
+  EXPECT_TRUE(Find<QDockWidget>("findings").isVisible());
+  EXPECT_TRUE(Find<QAction>("viewfindings").isChecked());
+  EXPECT_EQ(Find<QTreeWidget>("findingslist").topLevelItemCount(), int(designer->Findings().size()));
+  Trigger("viewfindings");
+  EXPECT_FALSE(Find<QDockWidget>("findings").isVisible());
+  EXPECT_FALSE(Find<QAction>("viewfindings").isChecked());
+}
+
+TEST_F(KavEdit01Test, AFileThatIsNoTemplateIsRefusedAndTheOpenOneStays) {
+  Start({home.CopyOf("letter.kev")});
+  const std::string path = home.Path("work/no.kev");
+  std::ofstream(path) << "just text\n";
+  const BoxAnswers answers(QMessageBox::Ok);
+  Drop(*window, path);
+  EXPECT_EQ(answers.texts.size(), 1);
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev - Kev Visual Editor"));
+}
+
+}  // namespace
+}  // namespace kev

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// The folders that the designer expects, fresh for one test.
+#pragma once
+
+#include <QTemporaryDir>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/designer.h"
+
+namespace kev {
+
+class TempHome {
+ public:
+  TempHome() {
+    for (const char* folder : {"temp/Kev/Cache", "temp/Kev/Temp", "data/Kev/temp", "work"}) {
+      std::filesystem::create_directories(Path(folder));
+    }
+  }
+
+  std::string Path(std::string_view below) const {
+    return dir_.path().toStdString() + "/" + std::string(below);
+  }
+  // A copy of an example that a test may change.
+  std::string CopyOf(const std::string& example) const {
+    const std::string copy = Path("work/" + example);
+    std::filesystem::copy_file(std::string(KEV_EXAMPLES_DIR) + "/" + example, copy,
+                               std::filesystem::copy_options::overwrite_existing);
+    return copy;
+  }
+  StartInput Input(std::vector<std::string> arguments) const {
+    return {[this](std::string_view name) -> std::optional<std::string> {
+              if (name == "TEMP") return Path("temp");
+              if (name == "appdata") return Path("data");
+              return std::nullopt;
+            },
+            KEV_PROGRAM_DIR, std::move(arguments)};
+  }
+
+ private:
+  QTemporaryDir dir_;
+};
+
+}  // namespace kev
