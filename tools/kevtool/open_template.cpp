@@ -3,6 +3,7 @@
 
 #include "base/files.h"
 #include "commands.h"
+#include "local_pictures.h"
 #include "template/template_check.h"
 
 namespace kev::tool {
@@ -35,7 +36,7 @@ std::optional<ReadOutcome> Open(const std::string& file) {
     return std::nullopt;
   }
   const BuiltInMeasurer measurer;
-  NoPictures pictures;
+  LocalPictures pictures(FolderOf(AbsolutePath(file)));
   Result<ReadOutcome> outcome = ReadTemplateBytes(*bytes, {measurer, pictures});
   if (!outcome) {
     std::cerr << file << ": " << outcome.Error().reason << '\n';

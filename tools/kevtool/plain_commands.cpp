@@ -5,6 +5,7 @@
 #include "commands.h"
 #include "document/position.h"
 #include "document/sections.h"
+#include "surface/visuals.h"
 #include "template/template_check.h"
 #include "template/writer.h"
 
@@ -31,7 +32,9 @@ int Check(const std::vector<std::string>& files) {
 int Rewrite(const std::string& in, const std::string& out, bool comments) {
   std::optional<ReadOutcome> outcome = Open(in);
   if (!outcome) return kRefused;
+  // As on opening: the page is painted once between the two, and painting stores what it found out.
   DeriveGeometry(outcome->Read);
+  ApplyRedrawWriteBack(outcome->Read, BuiltInMeasurer(), DisplayFilter::All);
   DeriveGeometry(outcome->Read);
   const WriteReport report = WriteTemplate(out, outcome->Read, {comments});
   if (report.Failure) {

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "platform/render.h"
+
+#include <QGuiApplication>
+#include <iostream>
+
+#include "base/files.h"
+#include "commands.h"
+
+namespace kev::tool {
+namespace {
+
+DisplayFilter FilterOf(const std::string& name) {
+  if (name == "ebeu") return DisplayFilter::Ebeu;
+  return name == "print" ? DisplayFilter::Print : DisplayFilter::All;
+}
+
+}  // namespace
+
+int Render(const RenderChoice& choice) {
+  std::optional<ReadOutcome> outcome = Open(choice.in);
+  if (!outcome) return kRefused;
+  // No display is needed, whatever the environment says.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  int count = 1;
+  char name[] = "kevtool";
+  char* arguments[] = {name, nullptr};
+  const QGuiApplication application(count, arguments);
+  RenderOptions options;
+  options.ZoomFactor = choice.zoom / 100;
+  options.scale = choice.scale;
+  options.filter = FilterOf(choice.filter);
+  options.grid = choice.grid;
+  options.folders.Program = QGuiApplication::applicationDirPath().toStdString();
+  options.folders.Template = FolderOf(AbsolutePath(choice.in));
+  if (const auto reason = RenderToFile(outcome->Read, options, choice.out)) {
+    std::cerr << choice.out << ": " << *reason << '\n';
+    return kRefused;
+  }
+  return kGood;
+}
+
+}  // namespace kev::tool
