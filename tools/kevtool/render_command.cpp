@@ -15,12 +15,18 @@ DisplayFilter FilterOf(const std::string& name) {
   return name == "print" ? DisplayFilter::Print : DisplayFilter::All;
 }
 
+// Standard error is for reasons why a command failed; hints of the toolkit about the session are none.
+void OnlyErrors(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << "kevtool: " << message.toStdString() << '\n';
+}
+
 }  // namespace
 
 int Render(const RenderChoice& choice) {
   std::optional<ReadOutcome> outcome = Open(choice.in);
   if (!outcome) return kRefused;
   // No display is needed, whatever the environment says.
+  qInstallMessageHandler(OnlyErrors);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   int count = 1;
   char name[] = "kevtool";
