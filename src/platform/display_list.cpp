@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/numbers.h"
 #include "platform/qt_measurer.h"
 
 namespace kev {
@@ -231,6 +232,9 @@ void DisplayList::ClearCanvas() {
   primitives_.clear();
   stripes_.clear();
   tall_.clear();
+  specs_.assign(1, FontSpec{});
+  specIndex_.clear();
+  font_ = 0;
   images_.Forget();
 }
 
@@ -267,9 +271,12 @@ void DisplayList::PaintImage(std::string_view file, double x, double y, double w
 
 void DisplayList::SetFont(const FontSpec& font) {
   if (specs_[font_] == font) return;
-  const auto known = std::find(specs_.begin(), specs_.end(), font);
-  font_ = static_cast<std::uint32_t>(known - specs_.begin());
-  if (known == specs_.end()) specs_.push_back(font);
+  std::string key = font.Name + '\n' + font.CharSet + '\n' + FormatNumber(font.Size);
+  for (const bool style : {font.Bold, font.Italic, font.Strikethrough, font.Underline})
+    key += style ? '1' : '0';
+  const auto [known, isNew] = specIndex_.try_emplace(key, static_cast<std::uint32_t>(specs_.size()));
+  if (isNew) specs_.push_back(font);
+  font_ = known->second;
 }
 
 void DisplayList::PrintText(double x, double y, std::string_view text) {

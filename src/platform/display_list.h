@@ -116,6 +116,7 @@ class DisplayList final : public SurfaceOps {
   Rgb foreground_ = 0;
   std::uint32_t font_ = 0;
   std::vector<FontSpec> specs_ = {FontSpec{}};
+  std::unordered_map<std::string, std::uint32_t> specIndex_;
   std::vector<Primitive> primitives_;
   // Primitives by the stripes of the page that they touch; those that touch many are in `tall_`.
   std::unordered_map<std::int64_t, std::vector<std::uint32_t>> stripes_;

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <algorithm>
@@ -129,7 +130,9 @@ std::shared_ptr<const ImageCache::Entry> ImageCache::Find(std::string_view file)
 void ImageCache::PaintBitmap(QPainter& painter, const Entry& entry, const QRectF& target) {
   const QSize pixels = painter.deviceTransform().mapRect(target).size().toSize();
   const QSize whole = entry.bitmap.size();
-  const bool smaller = pixels.width() * 2 < whole.width() && pixels.height() * 2 < whole.height();
+  // A file keeps all pixels of its pictures.
+  const bool onScreen = painter.paintEngine()->type() == QPaintEngine::Raster;
+  const bool smaller = onScreen && pixels.width() * 2 < whole.width() && pixels.height() * 2 < whole.height();
   if (!smaller || pixels.isEmpty()) return painter.drawImage(target, entry.bitmap);
   if (entry.reduced.size() != pixels)
     entry.reduced = entry.bitmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

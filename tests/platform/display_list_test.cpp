@@ -146,6 +146,18 @@ TEST_F(DisplayListTest, TextStandsBelowItsTopAndKeepsItsMeasuredBox) {
   EXPECT_DOUBLE_EQ(list_.TextWidth("Hg"), extent.Width);
 }
 
+TEST_F(DisplayListTest, EachTextKeepsItsOwnFont) {
+  list_.SetCanvasSize(6000, 3000);
+  list_.SetForeground(0xFF0000);
+  for (const double size : {40.0, 8.0, 40.0}) {
+    list_.SetFont({.Name = "Arial", .Size = size});
+    list_.PrintText(size == 8 ? 3000 : 0, 0, "H");
+  }
+  const QImage image = Painted();
+  EXPECT_GT(Inked(image.copy(0, 0, 100, 200)).height(), 30);
+  EXPECT_LT(Inked(image.copy(200, 0, 100, 200)).height(), 12);
+}
+
 TEST_F(DisplayListTest, DotsStandAtEachStep) {
   list_.SetPen(0xFF0000, 1, PenStyle::Solid);
   list_.DrawDots(0, 150, 1500, 450, 150);
