@@ -114,7 +114,7 @@ std::string_view HelpText() {
 }
 
 std::string_view VersionText() {
-  return "Kev Visual Editor 0.1.0\n";
+  return "Kev Visual Editor " KEV_VERSION "\n";
 }
 
 }  // namespace kev

@@ -175,6 +175,7 @@ class Designer {
 
   void DecideTemplate();
   void TellMissingFolders();
+  void WriteLastRunOptions();
   void RefuseMissing(const std::string& path, OpenedFrom from);
   void TellReadFailure(const std::string& path, const std::string& reason);
   bool Refuse(const std::string& path, std::string_view bytes);
@@ -216,6 +217,7 @@ class Designer {
   bool modified_ = false;
   bool firstActivation_ = false;
   bool documentShown_ = false;
+  bool optionsRead_ = false;
 };
 
 }  // namespace kev

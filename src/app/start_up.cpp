@@ -72,6 +72,7 @@ void Designer::SplashLoad() {
   language_ = FindActiveLanguage(folders_);
   session_ = NextSession(InDataFolder(folders_, kSessionFile));
   options_ = LoadOptions(InDataFolder(folders_, kLastRunFile));
+  optionsRead_ = true;
   settings_ = LoadUserSettings(InDataFolder(folders_, kSettingsFile));
   if (const CodePage* page = CodePage::Find(settings_.CodePageName)) document_.Page = page;
   pictures_.SetPage(*document_.Page);
@@ -93,12 +94,17 @@ void Designer::DecideTemplate() {
 }
 
 void Designer::ShutDown() {
+  // A run that ends while it starts must not replace the user's options by the defaults.
+  if (optionsRead_) WriteLastRunOptions();
+  DeleteSampleCopies(folders_.DataFolder);
+  samples_.Delete();
+}
+
+void Designer::WriteLastRunOptions() {
   const auto failure = SaveOptions(InDataFolder(folders_, kLastRunFile), options_);
   // A folder that is missing altogether was told at the start.
   if (failure && FolderExists(folders_.DataFolder))
     ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
-  DeleteSampleCopies(folders_.DataFolder);
-  samples_.Delete();
 }
 
 void Designer::ChooseLanguage(char letter) {

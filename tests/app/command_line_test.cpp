@@ -128,6 +128,8 @@ TEST(CommandLine, ALoneHelpOrVersionIsAskedFor) {
   EXPECT_FALSE(Parse({"--help", "a.kev"}).Help);
   EXPECT_FALSE(Parse({"a.kev"}).Version);
   EXPECT_NE(HelpText().find("--version"), std::string_view::npos);
+  EXPECT_TRUE(VersionText().starts_with("Kev Visual Editor "));
+  EXPECT_NE(VersionText().find('.'), std::string_view::npos);
   EXPECT_TRUE(VersionText().ends_with('\n'));
 }
 

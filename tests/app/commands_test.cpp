@@ -24,7 +24,9 @@ TEST(Commands, NoNameNumberOrShortcutStandsTwice) {
   for (const CommandRow& row : CommandRows()) {
     EXPECT_TRUE(names.insert(row.name).second) << row.name;
     EXPECT_TRUE(ids.insert(row.id).second) << row.name;
-    if (!row.shortcut.empty()) EXPECT_TRUE(shortcuts.insert(row.shortcut).second) << row.shortcut;
+    if (!row.shortcut.empty()) {
+      EXPECT_TRUE(shortcuts.insert(row.shortcut).second) << row.shortcut;
+    }
   }
   for (const MenuRow& row : MenuRows())
     EXPECT_TRUE(names.insert(row.name).second) << row.name;

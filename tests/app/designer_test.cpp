@@ -34,6 +34,16 @@ TEST_F(Guard, AFailedCommandIsTakenBackAndTold) {
   EXPECT_EQ(document.Settings, before.Settings);
 }
 
+TEST_F(Guard, ARefusedEditLeavesTheMark) {
+  const auto designer = Start();
+  EXPECT_FALSE(designer->Guarded([&] {
+    designer->MarkModified();
+    throw std::out_of_range("no");
+  }));
+  EXPECT_TRUE(designer->Modified());
+  EXPECT_TRUE(host_.CaptionModified);
+}
+
 TEST_F(Guard, FreeRowsAreFoundAgainAfterwards) {
   const auto designer = Start();
   ObjectTable& objects = designer->OpenDocument().Objects;

@@ -186,6 +186,14 @@ TEST_F(ShutDown, WritesTheOptionsWithTheirHeading) {
   EXPECT_EQ(Start()->Options().PropFix, kPanelClosed);
 }
 
+TEST_F(ShutDown, ARunThatEndsWhileItStartsKeepsTheOptions) {
+  test::WriteBytes(Data("LASTRV.DAT"), "PROPLEFT=7\r\n");
+  const auto designer = Make();
+  ASSERT_TRUE(designer->Load());
+  designer->ShutDown();
+  EXPECT_EQ(test::ReadBytes(Data("LASTRV.DAT")), "PROPLEFT=7\r\n");
+}
+
 TEST_F(ShutDown, DeletesAllSampleCopiesInTheDataFolderAndNothingElse) {
   const auto designer = Start();
   for (const char* name : {"Sampledata101112.kex", "sampledata9.KED", "Sampledata of someone else.ked"})
