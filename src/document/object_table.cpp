@@ -6,7 +6,10 @@
 
 namespace kev {
 
+static constexpr const char* kTableIsFull = "a template holds at most 2001 objects";
+
 void ObjectTable::GrowIfFull() {
+  if (ObjectCount > kLastRow) throw std::out_of_range(kTableIsFull);
   if ((*this)[ObjectCount].Kind != ObjectKind::None) ObjectCount += 10;
 }
 
@@ -19,7 +22,7 @@ int ObjectTable::TakeFreeRow() {
       return row;
     }
   }
-  throw std::out_of_range("a template holds at most 2001 objects");
+  throw std::out_of_range(kTableIsFull);
 }
 
 void ObjectTable::ClearRow(int row) {

@@ -44,7 +44,7 @@ SortedRows SetSortKeys(Document& document) {
     const std::int32_t x = record.Kind == ObjectKind::EndOfSubsection
                                ? kEndBarX
                                : ToInt32(PositionOrZero(record.XValue, document.Columns, *document.Page));
-    const Entry& entry = entries.emplace_back(record.AbsoluteY, x, row);
+    const Entry& entry = entries.emplace_back(Entry{record.AbsoluteY, x, row});
     record.SortKey = KeyText(entry);
     smallest = std::min(smallest, record.AbsoluteY);
     sorted.BottomMost = std::max(sorted.BottomMost, Fit32(std::int64_t{record.AbsoluteY} + record.Height));

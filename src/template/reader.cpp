@@ -44,9 +44,19 @@ int ReaderState::Add(const NewObject& object) {
   // The end of a subsection asks whether a page break stands directly before it, and forgets it by itself.
   if (!IsBand(object.kind)) cursor.LastCommand.clear();
   const int row = AddObject(context, object);
+  NoteDanglingColumns(document.Objects[row]);
   textBytes += TextBytes(document.Objects[row]);
   if (textBytes > kMostTextBytes) throw std::out_of_range("the texts of the template are too large");
   return row;
+}
+
+void ReaderState::NoteDanglingColumns(const ObjectRecord& record) {
+  for (const std::string_view position :
+       {std::string_view(record.XValue), std::string_view(record.X2Value)}) {
+    const std::string_view name = NthToken(position, 1, kBlank);
+    if (name.starts_with('$') && document.Columns.Find(name, *document.Page) == 0)
+      Note(FindingKind::DanglingColumn, name);
+  }
 }
 
 namespace {
@@ -83,6 +93,7 @@ class TemplateReader {
   void ApplyBlock();
   void Flush();
   void NoteLostText(std::string_view text);
+  void NoteDisarmedBlocks(std::string_view line, std::string_view prepared);
   std::string_view NextLine();
 
   std::string_view bytes_;
@@ -205,6 +216,7 @@ void TemplateReader::ReadLayoutLine(std::string_view line) {
   const DocumentSettings& settings = document_.Settings;
   const std::string prepared =
       PreprocessLine(line, settings.OpenCharacter(), settings.CloseCharacter(), page_);
+  if (settings.HasOwnDelimiters()) NoteDisarmedBlocks(line, prepared);
   const std::string_view content = WithoutLeadingTabs(prepared);
   const std::string_view trimmed = Trim(content);
   if (!trimmed.starts_with('['))
@@ -256,6 +268,23 @@ void TemplateReader::ApplyBlock() {
 
 void TemplateReader::NoteLostText(std::string_view text) {
   if (!Trim(text).empty() && !textIsFlushed_) state_.Note(FindingKind::LostText, Trim(text));
+}
+
+// Preparing a line puts braces around a block without a position; where the document has its own delimiters,
+// those are no delimiters.
+void TemplateReader::NoteDisarmedBlocks(std::string_view line, std::string_view prepared) {
+  std::size_t begin = line.size();
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    if (line[at] == document_.Settings.CloseCharacter() && begin < at) {
+      if (prepared[begin] == '{' && prepared[at] == '}') {
+        state_.column = begin + 1;
+        state_.Note(FindingKind::DisarmedBlock, line.substr(begin + 1, at - begin - 1));
+      }
+      begin = line.size();
+    } else if (line[at] == document_.Settings.OpenCharacter()) {
+      begin = at;
+    }
+  }
 }
 
 // The buffer is not emptied here: only a close character does that.

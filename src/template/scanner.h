@@ -26,6 +26,7 @@ struct ReaderState {
   void Note(FindingKind kind, std::string_view text);
   // Creates a row; a row of any kind but a page break ends the memory of one.
   int Add(const NewObject& object);
+  void NoteDanglingColumns(const ObjectRecord& record);
 };
 
 // Applies the text of one command block.

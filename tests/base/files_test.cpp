@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "base/files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+
+#include "support/run_tool.h"
+
+namespace kev {
+namespace {
+
+namespace fs = std::filesystem;
+using test::ReadBytes;
+using test::TemporaryFolder;
+using test::WriteBytes;
+using testing::IsEmpty;
+
+std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folder))
+    names.push_back(entry.path().filename().string());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+TEST(ReadWholeFile, GivesTheBytesAsTheyStand) {
+  const TemporaryFolder folder;
+  const std::string bytes("a\r\n\0\x1A\xFF", 6);
+  WriteBytes(folder / "a", bytes);
+  const auto read = ReadWholeFile(folder / "a");
+  ASSERT_TRUE(read);
+  EXPECT_EQ(*read, bytes);
+}
+
+TEST(ReadWholeFile, TellsThePathAndTheReasonOfAFailure) {
+  const TemporaryFolder folder;
+  const auto missing = ReadWholeFile(folder / "no");
+  ASSERT_FALSE(missing);
+  EXPECT_EQ(missing.Error().path, folder / "no");
+  EXPECT_EQ(missing.Error().reason, "No such file or directory");
+  const auto directory = ReadWholeFile(folder / "");
+  ASSERT_FALSE(directory);
+  EXPECT_EQ(directory.Error().reason, "Is a directory");
+}
+
+TEST(ReadWholeFile, RefusesWhatIsNoRegularFileAtOnce) {
+  const TemporaryFolder folder;
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  EXPECT_FALSE(ReadWholeFile(folder / "pipe"));
+  EXPECT_FALSE(ReadWholeFile("/dev/zero"));
+}
+
+TEST(ReadWholeFile, RefusesAFileThatIsFarTooLarge) {
+  const TemporaryFolder folder;
+  WriteBytes(folder / "big", "x");
+  fs::resize_file(folder / "big", kLargestFile + 1);
+  const auto read = ReadWholeFile(folder / "big");
+  ASSERT_FALSE(read);
+  EXPECT_EQ(read.Error().reason, "File too large");
+}
+
+TEST(WriteWholeFile, LeavesNothingBesideItsTarget) {
+  const TemporaryFolder folder;
+  EXPECT_FALSE(WriteWholeFile(folder / "a.kev", "one"));
+  EXPECT_FALSE(WriteWholeFile(folder / "a.kev", "two"));
+  EXPECT_EQ(ReadBytes(folder / "a.kev"), "two");
+  EXPECT_THAT(NamesIn(folder / ""), testing::ElementsAre("a.kev"));
+}
+
+TEST(WriteWholeFile, KeepsThePermissionsOfTheFileThatItReplaces) {
+  const TemporaryFolder folder;
+  WriteBytes(folder / "a", "x");
+  fs::permissions(folder / "a", fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+  ASSERT_FALSE(WriteWholeFile(folder / "a", "y"));
+  EXPECT_EQ(fs::status(folder / "a").permissions(),
+            fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+}
+
+TEST(WriteWholeFile, WritesThroughALinkAndLeavesItALink) {
+  const TemporaryFolder folder;
+  WriteBytes(folder / "real", "x");
+  fs::create_symlink("real", folder / "link");
+  ASSERT_FALSE(WriteWholeFile(folder / "link", "y"));
+  EXPECT_TRUE(fs::is_symlink(folder / "link"));
+  EXPECT_EQ(ReadBytes(folder / "real"), "y");
+}
+
+TEST(WriteWholeFile, SaysWhyWhereItCannotWrite) {
+  const TemporaryFolder folder;
+  const auto noFolder = WriteWholeFile(folder / "no/a", "x");
+  ASSERT_TRUE(noFolder);
+  EXPECT_EQ(noFolder->path, folder / "no/a");
+  EXPECT_EQ(noFolder->reason, "No such file or directory");
+  const auto isFolder = WriteWholeFile(folder / "", "x");
+  ASSERT_TRUE(isFolder);
+  EXPECT_EQ(isFolder->reason, "Is a directory");
+}
+
+// The size limit of the process stands for a disk that is full.
+TEST(WriteWholeFile, LeavesTheOldFileWhereTheNewOneDoesNotFit) {
+  const TemporaryFolder folder;
+  WriteBytes(folder / "a", "the old file");
+  rlimit before{};
+  ::getrlimit(RLIMIT_FSIZE, &before);
+  const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit tight = before;
+  tight.rlim_cur = 4096;
+  ::setrlimit(RLIMIT_FSIZE, &tight);
+  const auto failure = WriteWholeFile(folder / "a", std::string(10000, 'x'));
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, oldHandler);
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->reason, "File too large");
+  EXPECT_EQ(ReadBytes(folder / "a"), "the old file");
+  EXPECT_THAT(NamesIn(folder / ""), testing::ElementsAre("a"));
+}
+
+TEST(JoinPath, PutsANameBelowAFolder) {
+  EXPECT_EQ(JoinPath("/tmp/Kev", "\\KEV.INI"), "/tmp/Kev/KEV.INI");
+  EXPECT_EQ(JoinPath("/tmp/Kev/", "/KEV.INI"), "/tmp/Kev/KEV.INI");
+  EXPECT_EQ(JoinPath("/tmp", "\\Cache\\a.kev"), "/tmp/Cache/a.kev");
+}
+
+TEST(Paths, AreTakenApart) {
+  EXPECT_EQ(FolderOf("/a/b/c.kev"), "/a/b");
+  EXPECT_EQ(FileNameOf("/a/b/c.kev"), "c.kev");
+  EXPECT_EQ(AbsolutePath("/a/./b/../c"), "/a/c");
+}
+
+TEST(FindFile, TakesBothSeparatorsAndEitherCase) {
+  const TemporaryFolder folder;
+  fs::create_directories(folder / "Pictures/Big");
+  WriteBytes(folder / "Pictures/Big/Logo.PNG", "x");
+  const std::string found = folder / "Pictures/Big/Logo.PNG";
+  for (const std::string_view path : {"Pictures/Big/Logo.PNG", "Pictures\\Big\\Logo.PNG",
+                                      "PICTURES\\big/logo.png", ".\\pictures\\BIG\\logo.Png"}) {
+    const auto file = FindFile(path, folder / "");
+    ASSERT_TRUE(file) << path;
+    EXPECT_TRUE(fs::equivalent(*file, found)) << path;
+  }
+  EXPECT_TRUE(FindFile(found, "/nowhere"));
+}
+
+TEST(FindFile, FindsNothingForFoldersMissingFilesAndBlankPaths) {
+  const TemporaryFolder folder;
+  fs::create_directories(folder / "sub");
+  for (const std::string& path : {std::string("sub"), std::string("none.png"), std::string(),
+                                  std::string("  "), std::string("a\0b", 3)})
+    EXPECT_FALSE(FindFile(path, folder / "")) << path;
+}
+
+TEST(FindFile, ChoosesTheFirstNameWhereOnlyTheCaseDiffers) {
+  const TemporaryFolder folder;
+  WriteBytes(folder / "b.png", "x");
+  WriteBytes(folder / "B.png", "x");
+  EXPECT_EQ(FileNameOf(*FindFile("B.PNG", folder / "")), "B.png");
+  EXPECT_EQ(FileNameOf(*FindFile("b.png", folder / "")), "b.png");
+}
+
+}  // namespace
+}  // namespace kev

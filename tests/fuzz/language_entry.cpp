@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// Any bytes as a compiled language file.
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "app/language.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  for (const char language : {'E', 'S', '\0'}) {
+    const kev::LanguageTexts texts = kev::LoadLanguageBytes(bytes, language);
+    for (int number = 0; number <= kev::kHighestTextNumber; ++number) {
+      if (texts.Text(number).size() > size) std::abort();
+    }
+  }
+  return 0;
+}

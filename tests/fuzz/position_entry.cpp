@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Any bytes as a position; the first line names a column.
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "document/position.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace kev;
+  std::string_view rest(reinterpret_cast<const char*>(data), size);
+  ColumnTable columns;
+  if (!rest.empty()) columns[1] = {std::string(TakeLine(rest)), 2400, ""};
+  ValidatePosition(rest, columns);
+  const double value = PositionOrZero(rest, columns);
+  if (!std::isfinite(value) || NumericPrefix(FormatNumber(value)) != value) std::abort();
+  for (const double step : {0.0, 0.5, 100.0, value}) {
+    if (std::isnan(SnapToStep(value, step))) std::abort();
+  }
+  return 0;
+}

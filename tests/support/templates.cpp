@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "support/templates.h"
+
+#include <gtest/gtest.h>
+
+#include "base/text.h"
+#include "document/sections.h"
+
+namespace kev::test {
+namespace {
+
+const ObjectRecord& BlankRecord() {
+  static const ObjectRecord blank;
+  return blank;
+}
+
+}  // namespace
+
+std::string Lines(std::initializer_list<std::string_view> lines) {
+  std::string text;
+  for (const std::string_view line : lines) {
+    text += line;
+    text += "\r\n";
+  }
+  return text;
+}
+
+ReadOutcome ReadText(std::string_view text) {
+  const BuiltInMeasurer measurer;
+  NoPictures pictures;
+  Result<ReadOutcome> outcome = ReadTemplateBytes(text, {measurer, pictures});
+  if (outcome) return std::move(*outcome);
+  ADD_FAILURE() << "the template is refused: " << outcome.Error().reason;
+  return {};
+}
+
+ReadOutcome ReadLayout(std::initializer_list<std::string_view> lines) {
+  return ReadText("[HEADER]\r\n" + Lines(lines));
+}
+
+std::vector<const ObjectRecord*> RowsOfKind(const Document& document, ObjectKind kind) {
+  std::vector<const ObjectRecord*> rows;
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+    if (document.Objects[row].Kind == kind) rows.push_back(&document.Objects[row]);
+  }
+  return rows;
+}
+
+const ObjectRecord& OnlyRow(const Document& document, ObjectKind kind) {
+  const auto rows = RowsOfKind(document, kind);
+  EXPECT_EQ(rows.size(), 1U) << "rows of kind " << KindText(kind);
+  return rows.size() == 1 ? *rows.front() : BlankRecord();
+}
+
+std::vector<std::string> ContentsOf(const Document& document, ObjectKind kind) {
+  std::vector<std::string> contents;
+  for (const ObjectRecord* record : RowsOfKind(document, kind))
+    contents.push_back(record->Content);
+  return contents;
+}
+
+const ObjectRecord& BarNamed(const Document& document, std::string_view sectionName) {
+  for (const ObjectRecord* bar : RowsOfKind(document, ObjectKind::Subsection)) {
+    if (bar->SectionName == sectionName) return *bar;
+  }
+  ADD_FAILURE() << "no subsection " << sectionName;
+  return BlankRecord();
+}
+
+std::string WriteText(Document& document, const WriteOptions& options) {
+  WriteReport report;
+  return TemplateText(document, options, report);
+}
+
+std::string Rewrite(std::string_view text, const WriteOptions& options) {
+  ReadOutcome outcome = ReadText(text);
+  DeriveGeometry(outcome.Read);
+  return WriteText(outcome.Read, options);
+}
+
+std::vector<std::string> LayoutLines(std::string_view text) {
+  std::vector<std::string> layout;
+  bool inHead = true;
+  for (const std::string_view line : SplitLines(text)) {
+    inHead = inHead && line != "[HEADER]";
+    if (!inHead) layout.emplace_back(line);
+  }
+  return layout;
+}
+
+std::vector<std::string> FilledLines(std::string_view text) {
+  std::vector<std::string> filled;
+  for (const std::string_view line : SplitLines(text)) {
+    if (!Trim(line).empty()) filled.emplace_back(Trim(line));
+  }
+  return filled;
+}
+
+}  // namespace kev::test
