@@ -75,6 +75,7 @@ void PreparedPage::PaintWhere(QPainter& painter, const QRectF& window) const {
   painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
   painter.setRenderHint(QPainter::TextAntialiasing, true);
   painter.translate(-window.topLeft());
+  painter.setClipRect(window.intersected(area_));
   Painting painting(pictures_, painter);
   for (const Shape& shape : shapes_)
     if (shape.bounds.intersects(window)) std::visit(painting, shape.what);
