@@ -27,8 +27,10 @@ std::string_view NthToken(std::string_view text, std::size_t n, char separator) 
 }
 
 Tokens::Tokens(std::string_view text, char separator) {
+  const auto separators = static_cast<std::size_t>(std::count(text.begin(), text.end(), separator));
+  if (separators >= kMost) throw std::out_of_range("a text has more than 200 parts");
+  parts_.reserve(separators + 1);
   for (;;) {
-    if (parts_.size() == kMost) throw std::out_of_range("a text has more than 200 parts");
     const std::size_t end = text.find(separator);
     parts_.push_back(text.substr(0, end));
     if (end == std::string_view::npos) return;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <array>
+#include <optional>
 #include <unordered_map>
 
 #include "base/numbers.h"
@@ -175,9 +176,13 @@ class Item {
   void SetAlign();
   void SetQr();
   void Create(NewObject object);
-  NewObject Shape(ObjectKind kind) const;
+  NewObject Shape(ObjectKind kind);
 
-  std::string Part(std::size_t n) const { return std::string(SplitTokens(value_, ',')[n]); }
+  // The n-th value between commas.
+  std::string Part(std::size_t n) {
+    if (!parts_) parts_.emplace(value_, ',');
+    return std::string((*parts_)[n]);
+  }
   AttributeState& attributes() { return state_.attributes; }
   LayoutCursor& cursor() { return state_.cursor; }
 
@@ -185,6 +190,7 @@ class Item {
   std::string_view name_;
   std::string key_;
   std::string value_;
+  std::optional<Tokens> parts_;
 };
 
 void Item::Apply() {
@@ -361,7 +367,7 @@ void Item::ApplyCreation(const DirectiveRow& row) {
 }
 
 // The two first values of most directives are the position.
-NewObject Item::Shape(ObjectKind kind) const {
+NewObject Item::Shape(ObjectKind kind) {
   NewObject object;
   object.kind = kind;
   object.xValue = Part(1);

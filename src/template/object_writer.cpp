@@ -72,24 +72,38 @@ void ObjectWriter::Line(std::string_view text) {
   text_ += "\r\n";
 }
 
-std::string ObjectWriter::Block(std::string_view items, bool hasPosition) const {
-  std::string block(1, document_.Settings.OpenCharacter());
-  block += items;
-  if (!hasPosition && document_.Settings.HasOwnDelimiters()) block += items.empty() ? "0" : ";0";
-  block += document_.Settings.CloseCharacter();
-  return block;
+void ObjectWriter::AddBlock(std::string_view items, bool hasPosition) {
+  text_ += document_.Settings.OpenCharacter();
+  text_ += items;
+  if (!hasPosition && document_.Settings.HasOwnDelimiters()) text_ += items.empty() ? "0" : ";0";
+  text_ += document_.Settings.CloseCharacter();
+}
+
+void ObjectWriter::AddComment(std::string_view marker) {
+  if (!options_.Comments) return;
+  text_ += kBlank;
+  AddBlock(marker, kPlain);
 }
 
 void ObjectWriter::BlockLine(std::string_view items, bool hasPosition) {
-  Line("  " + Block(items, hasPosition));
-}
-
-std::string ObjectWriter::Comment(std::string_view marker) const {
-  return options_.Comments ? " " + Block(marker, kPlain) : std::string();
+  text_ += "  ";
+  AddBlock(items, hasPosition);
+  Line("");
 }
 
 void ObjectWriter::BlockLineWithComment(std::string_view items, std::string_view comment) {
-  Line("  " + Block(items, kPlain) + Comment(comment));
+  text_ += "  ";
+  AddBlock(items, kPlain);
+  AddComment(comment);
+  Line("");
+}
+
+void ObjectWriter::TextLine(std::string_view items, std::string_view text, std::string_view endItems) {
+  text_ += "  ";
+  AddBlock(items, kPositioned);
+  text_ += text;
+  AddBlock(endItems, kPlain);
+  Line("");
 }
 
 void ObjectWriter::Subsection(const ObjectRecord& bar, std::string_view section, std::string_view head) {
@@ -108,7 +122,9 @@ void ObjectWriter::Subsection(const ObjectRecord& bar, std::string_view section,
   }
   BlockLine("DEF", kPlain);
   state_.ResetToDefaults();
-  if (options_.Comments) Line(Comment("Rem=All Default Values 18"));
+  if (!options_.Comments) return;
+  AddComment("Rem=All Default Values 18");
+  Line("");
 }
 
 // A page break directly before the end makes the step to it by itself.
@@ -262,8 +278,7 @@ void ObjectWriter::Picture(const ObjectRecord& record) {
 void ObjectWriter::Qr(const ObjectRecord& record) {
   const std::string prefix = Flags(record);
   VerticalStep(record);
-  Line("  " + Block(prefix + "QrCode=" + record.XValue + ",," + Number(record.Height), kPositioned) +
-       record.Content + Block("nobar", kPlain));
+  TextLine(prefix + "QrCode=" + record.XValue + ",," + Number(record.Height), record.Content, "nobar");
 }
 
 void ObjectWriter::Circle(const ObjectRecord& record) {
@@ -294,7 +309,7 @@ void ObjectWriter::Barcode(const ObjectRecord& record) {
   }
   if (word.empty()) report_.UnnamedSymbologies.push_back(record.BarcodeKind);
   items += word;
-  Line("  " + Block(items, kPositioned) + record.Content + Block("NoBar", kPlain));
+  TextLine(items, record.Content, "NoBar");
 }
 
 void ObjectWriter::HorizontalLine(const ObjectRecord& record) {
@@ -332,12 +347,13 @@ void ObjectWriter::Command(const ObjectRecord& record) {
 void ObjectWriter::Label(const ObjectRecord& record) {
   VerticalStep(record);
   LabelAttributes(record);
-  Line("  " + Block(LabelPosition(record), kPositioned) + " " + record.Content + Block("", kPlain));
+  TextLine(LabelPosition(record), " " + record.Content, "");
   if (record.Content.find(document_.Settings.OpenCharacter()) == std::string::npos) return;
   // Literal braces can confuse what follows; this makes a clean start.
   state_.ResetToDefaults();
   BlockLine("DEF", kPlain);
-  Line(Comment("Rem=All default values 17"));
+  AddComment("Rem=All default values 17");
+  Line("");
 }
 
 void ObjectWriter::LabelAttributes(const ObjectRecord& record) {

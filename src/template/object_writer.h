@@ -46,10 +46,13 @@ class ObjectWriter {
 
   // A block with its delimiters. Where the document has its own delimiters, one without a position is kept a
   // command by an item "0", which changes nothing.
-  std::string Block(std::string_view items, bool hasPosition) const;
+  void AddBlock(std::string_view items, bool hasPosition);
+  // Only where comments are asked for.
+  void AddComment(std::string_view marker);
   void BlockLine(std::string_view items, bool hasPosition);
   void BlockLineWithComment(std::string_view items, std::string_view comment);
-  std::string Comment(std::string_view marker) const;
+  // A text between the block with its position and the block that ends it.
+  void TextLine(std::string_view items, std::string_view text, std::string_view endItems);
 
   const Document& document_;
   const WriteOptions& options_;

@@ -20,12 +20,13 @@ constexpr std::size_t kMostTextBytes = 256UL * 1024 * 1024;
 constexpr std::size_t kMostAppliedBytes = 256UL * 1024 * 1024;
 
 static std::size_t TextBytes(const ObjectRecord& record) {
+  const auto optionalBytes = [](const std::optional<std::string>& text) { return text ? text->size() : 0; };
   std::size_t bytes = record.Content.size() + record.FontName.size() + record.CharSet.size() +
                       record.Link.size() + record.Format.size() + record.XValue.size() +
                       record.X2Value.size() + record.PicturePath.size() + record.PictureFile.size() +
                       record.OwnerName.size() + record.SectionName.size() + record.SectionTitle.size() +
-                      record.CommandPayload.value_or("").size() +
-                      record.TextBoxFrameValue.value_or("").size() + record.Stretch.value_or("").size();
+                      optionalBytes(record.CommandPayload) + optionalBytes(record.TextBoxFrameValue) +
+                      optionalBytes(record.Stretch);
   for (const std::string& value : record.ChartValues)
     bytes += value.size();
   return bytes;

@@ -10,6 +10,9 @@ namespace {
 
 constexpr std::array<std::string_view, 3> kMarkers = {"<[HEADER]", "<[FOOTER]", "<[DATA]"};
 
+// The two section lines and a line end where the first stage had none.
+constexpr std::size_t kAddedBytes = 32;
+
 void AddLine(std::string& text, std::string_view line) {
   text += line;
   text += "\r\n";
@@ -21,6 +24,7 @@ std::string RegroupBySection(std::string_view stageOne, const CodePage& page) {
   std::array<std::string, kMarkers.size()> blocks;
   std::string* current = nullptr;
   std::string text;
+  text.reserve(stageOne.size() + kAddedBytes);
   bool inHead = true;
   while (!stageOne.empty()) {
     const std::string_view line = TakeLine(stageOne);

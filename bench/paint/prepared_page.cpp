@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "paint/prepared_page.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "platform/display_list.h"
+#include "platform/qt_measurer.h"
+
+namespace kev::bench {
+namespace {
+
+constexpr int kDotsPerInch = 96;
+constexpr double kPixelsPerPoint = kDotsPerInch / 72.0;
+
+QPointF Pixels(double x, double y) {
+  return QPointF(x, y) / kUnitsPerPixel;
+}
+
+QRectF Between(double x1, double y1, double x2, double y2) {
+  return QRectF(Pixels(std::min(x1, x2), std::min(y1, y2)), Pixels(std::max(x1, x2), std::max(y1, y2)));
+}
+
+QColor ToColour(Rgb colour) {
+  return QColor::fromRgb(static_cast<QRgb>(colour | 0xFF000000U));
+}
+
+QRectF Room(const QRectF& area, double by) {
+  return area.adjusted(-by, -by, by, by);
+}
+
+}  // namespace
+
+class PreparedPage::Painting {
+ public:
+  Painting(const PagePictures& pictures, QPainter& painter) : pictures_(pictures), painter_(painter) {}
+
+  void operator()(const Line& line) {
+    painter_.setRenderHint(QPainter::Antialiasing, line.line.dx() != 0 && line.line.dy() != 0);
+    painter_.setPen(line.pen);
+    painter_.drawLine(line.line);
+  }
+  void operator()(const Outline& outline) {
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    painter_.setPen(outline.pen);
+    painter_.drawRect(outline.area);
+  }
+  void operator()(const Fill& fill) {
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    painter_.fillRect(fill.area, fill.colour);
+  }
+  void operator()(const Circle& circle) {
+    painter_.setRenderHint(QPainter::Antialiasing, true);
+    painter_.setPen(circle.pen);
+    painter_.drawEllipse(circle.centre, circle.radius, circle.radius);
+  }
+  void operator()(const Picture& picture) {
+    if (picture.isBand)
+      pictures_.band->render(&painter_, picture.area);
+    else
+      painter_.drawImage(picture.area, pictures_.bitmap);
+  }
+  void operator()(const Text& text) {
+    painter_.setFont(text.font);
+    painter_.setPen(text.colour);
+    painter_.drawText(text.baseline, text.text);
+  }
+
+ private:
+  const PagePictures& pictures_;
+  QPainter& painter_;
+};
+
+void PreparedPage::PaintWhere(QPainter& painter, const QRectF& window) const {
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+  painter.setRenderHint(QPainter::TextAntialiasing, true);
+  painter.translate(-window.topLeft());
+  painter.setClipRect(window.intersected(area_));
+  Painting painting(pictures_, painter);
+  for (const Shape& shape : shapes_)
+    if (shape.bounds.intersects(window)) std::visit(painting, shape.what);
+}
+
+void PreparedPage::SetCanvasSize(double width, double height) {
+  area_.setSize(QSizeF(width, height) / kUnitsPerPixel);
+}
+
+void PreparedPage::SetScaleLeft(double value) {
+  area_.moveLeft(value / kUnitsPerPixel);
+}
+
+void PreparedPage::SetPen(Rgb colour, double width, PenStyle style) {
+  pen_ = QPen(ToColour(colour), std::max(width, 1.0), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+  if (style == PenStyle::Dotted) pen_.setDashPattern({1, 2});
+}
+
+void PreparedPage::DrawLine(double x1, double y1, double x2, double y2) {
+  shapes_.push_back(
+      {Room(Between(x1, y1, x2, y2), pen_.widthF() + 1), Line{pen_, {Pixels(x1, y1), Pixels(x2, y2)}}});
+}
+
+void PreparedPage::DrawRect(double x1, double y1, double x2, double y2, bool filled) {
+  const QRectF area = Between(x1, y1, x2, y2);
+  const QRectF bounds = Room(area, pen_.widthF() + 1);
+  const QRectF atLeastOnePixel(area.topLeft(), area.size().expandedTo(QSizeF(1, 1)));
+  if (filled) shapes_.push_back({bounds, Fill{pen_.color(), atLeastOnePixel}});
+  if (!filled || pen_.widthF() > 1) shapes_.push_back({bounds, Outline{pen_, area}});
+}
+
+void PreparedPage::DrawRectColour(double x1, double y1, double x2, double y2, Rgb colour, bool filled) {
+  const QPen kept = pen_;
+  pen_.setColor(ToColour(colour));
+  DrawRect(x1, y1, x2, y2, filled);
+  pen_ = kept;
+}
+
+void PreparedPage::DrawCircle(double cx, double cy, double radius) {
+  const QRectF area = Between(cx - radius, cy - radius, cx + radius, cy + radius);
+  shapes_.push_back({Room(area, pen_.widthF() + 1), Circle{pen_, Pixels(cx, cy), radius / kUnitsPerPixel}});
+}
+
+void PreparedPage::PaintImage(std::string_view file, double x, double y, double width, double height) {
+  const QRectF area(Pixels(x, y), QSizeF(width, height) / kUnitsPerPixel);
+  if (!file.empty() && !area.isEmpty()) shapes_.push_back({area, Picture{area, file.ends_with(".prbm")}});
+}
+
+void PreparedPage::SetForeground(Rgb colour) {
+  foreground_ = ToColour(colour);
+}
+
+void PreparedPage::PrintText(double x, double y, std::string_view text) {
+  if (text.empty()) return;
+  const TextExtent extent = QtMeasurer(fonts_).Measure(font_, text);
+  const double ascent = fonts_.Face(font_).ascent * font_.Size * kPixelsPerPoint;
+  shapes_.push_back({Room(Between(x, y, x + extent.Width, y + extent.Height), extent.Height / kUnitsPerPixel),
+                     Text{foreground_, fonts_.Font(font_, kDotsPerInch), Pixels(x, y) + QPointF(0, ascent),
+                          fonts_.Text(font_, text)}});
+}
+
+double PreparedPage::TextWidth(std::string_view text) {
+  return QtMeasurer(fonts_).Measure(font_, text).Width;
+}
+
+}  // namespace kev::bench
