@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 
 #include "document/colours.h"
 #include "support/recording_surface.h"
@@ -307,36 +306,6 @@ TEST(Colours, IndexIsLookedUpAndPartsAreClamped) {
   EXPECT_EQ(NormaliseColour({-1, -1, -1}), (Colour{0, 0, 0}));
   EXPECT_EQ(NormaliseColour({255, 0, -1}), (Colour{0, 0, 0}));
   EXPECT_EQ(NormaliseColour({300, -5, 20}), (Colour{255, 0, 20}));
-}
-
-// The best of some runs, for each object: a walk of the table for each object would show as four times as
-// much.
-double SecondsPerObject(int count) {
-  Document document;
-  for (int i = 0; i < count; ++i)
-    AddLabel(document, std::to_string(i % 17 * 100), i * 37 % 5000, "Total");
-  BuiltInMeasurer measurer;
-  double best = 1e9;
-  for (int run = 0; run < 9; ++run) {
-    RecordingSurface surface;
-    surface.Lines.reserve(8000);
-    PaintContext context{.document = document, .surface = surface, .measurer = measurer, .images = {}};
-    const auto start = std::chrono::steady_clock::now();
-    RedrawDocument(context, SetSortKeys(document));
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-    best = std::min(best, taken.count() / count);
-  }
-  return best;
-}
-
-TEST(RedrawTime, GrowsWithTheNumberOfObjectsAndNoFaster) {
-  // A machine under load gets another try; a quadratic walk fails all of them.
-  double ratio = 0;
-  for (int attempt = 0; attempt < 5; ++attempt) {
-    ratio = SecondsPerObject(2001) / SecondsPerObject(500);
-    if (ratio <= 1.5) break;
-  }
-  EXPECT_LE(ratio, 1.5);
 }
 
 }  // namespace
