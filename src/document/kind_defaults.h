@@ -47,7 +47,7 @@ inline constexpr auto kKindDefaults = std::to_array<KindDefaults>({
     {ObjectKind::Barcode, "10101010", -1, -1, 0, GridSource::State, "L", 0, true, false},
     {ObjectKind::Qr, "10101010", -1, -1, 0, GridSource::State, "L", 0, false, false},
     {ObjectKind::Label, "11101110", -1, -1, 0, GridSource::State, "", 0, true, false},
-    {ObjectKind::TextBox, "11101110", -1, -1, 0, GridSource::State, "L", kTextBoxHeight, false, false},
+    {ObjectKind::TextBox, "11101110", -1, -1, -1, GridSource::State, "L", kTextBoxHeight, false, false},
 });
 
 constexpr const KindDefaults& DefaultsOf(ObjectKind kind) {

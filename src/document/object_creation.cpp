@@ -190,7 +190,9 @@ void RowFiller::Command() {
   record_.FontName = "Arial";
   record_.FontSize = 8;
   record_.XValue = attributes().AttrX;
+  // A template holds none of its flags, so none is taken over from what stands before it.
   record_.PrintFlag = kTrue;
+  record_.ModifiableByEndUser = 0;
 }
 
 void RowFiller::Box() {

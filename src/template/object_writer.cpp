@@ -251,7 +251,7 @@ void ObjectWriter::TextBox(const ObjectRecord& record) {
   std::string items = Flags(record);
   VerticalStep(record);
   if (record.CharSet != state_.CharSet) {
-    state_.CharSet = record.CharSet;
+    state_.CharSet = FormatNumber(NumericPrefix(record.CharSet));
     items += "CS=" + FormatNumber(NumericPrefix(record.CharSet)) + ";";
   }
   if (record.Strikethrough != state_.Strike) {

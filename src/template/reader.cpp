@@ -16,7 +16,7 @@ constexpr std::size_t kMostFindings = 1000;
 
 // Objects take over texts from the state and from text that is flushed again, so that a small file can ask
 // for far more memory than it has bytes. No template that prints comes near these bounds.
-constexpr std::size_t kMostTextBytes = 256UL * 1024 * 1024;
+constexpr std::size_t kMostTextBytes = 64UL * 1024 * 1024;
 constexpr std::size_t kMostAppliedBytes = 256UL * 1024 * 1024;
 
 static std::size_t TextBytes(const ObjectRecord& record) {

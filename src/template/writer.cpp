@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
+#include <utility>
 
 #include "base/files.h"
 #include "base/numbers.h"
@@ -42,8 +44,7 @@ class TemplateWriter {
  private:
   struct Bar {
     int row;
-    int section;  // 0 header, 1 footer, 2 data
-    bool isNamed;
+    int section;        // 0 header, 1 footer, 2 data
     std::size_t place;  // in the sorted list
     std::vector<int> rows;
   };
@@ -111,10 +112,10 @@ std::vector<TemplateWriter::Bar> TemplateWriter::CollectBars() const {
     if (bar.Kind != ObjectKind::Subsection || IsConfiguration(bar, page_)) continue;
     const auto section = kSectionOrder.find(NthToken(bar.SectionTitle, 1, kBlank));
     if (section == kSectionOrder.end()) continue;
-    bars.push_back({row, section->second, !HeadLine(bar).empty(), place, {}});
+    bars.push_back({row, section->second, place, {}});
   }
   std::stable_sort(bars.begin(), bars.end(), [](const Bar& a, const Bar& b) {
-    return std::tie(a.section, a.isNamed, a.place) < std::tie(b.section, b.isNamed, b.place);
+    return std::tie(a.section, a.place) < std::tie(b.section, b.place);
   });
   return bars;
 }
@@ -142,9 +143,15 @@ void TemplateWriter::DistributeRows(std::vector<Bar>& bars) const {
 void TemplateWriter::Subsections() {
   std::vector<Bar> bars = CollectBars();
   DistributeRows(bars);
+  int lastSection = -1;
   for (const Bar& bar : bars) {
     const ObjectRecord& record = document_.Objects[bar.row];
-    lines_.Subsection(record, NthToken(record.SectionTitle, 1, kBlank), HeadLine(record));
+    const std::string_view section = NthToken(record.SectionTitle, 1, kBlank);
+    // Only the first bar of a section can go without a head line of its own: behind another one the reader
+    // would take its rows for those of the bar above.
+    const bool isFirst = std::exchange(lastSection, bar.section) != bar.section;
+    const std::string_view head = HeadLine(record);
+    lines_.Subsection(record, section, head.empty() && !isFirst ? section : head);
     for (const int row : bar.rows)
       lines_.Object(document_.Objects[row]);
     if (record.EndRow != 0) lines_.EndOfSubsection(document_.Objects[record.EndRow]);
