@@ -25,13 +25,13 @@ using test::WriteText;
 
 // A build that looks at every access takes its time over each read.
 #if defined(__SANITIZE_ADDRESS__)
-constexpr std::uint32_t kRuns = 60;
-constexpr std::size_t kCutStep = 5;
+constexpr std::uint32_t kRuns = 150;
+constexpr std::size_t kCutStep = 3;
 #elif defined(__OPTIMIZE__)
-constexpr std::uint32_t kRuns = 600;
+constexpr std::uint32_t kRuns = 1000;
 constexpr std::size_t kCutStep = 1;
 #else
-constexpr std::uint32_t kRuns = 200;
+constexpr std::uint32_t kRuns = 400;
 constexpr std::size_t kCutStep = 3;
 #endif
 
