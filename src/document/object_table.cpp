@@ -5,11 +5,32 @@
 #include <stdexcept>
 
 namespace kev {
+namespace {
 
-static constexpr const char* kTableIsFull = "a template holds at most 2001 objects";
+constexpr const char* kTableIsFull = "a template holds at most 2001 objects";
+
+std::size_t CheckedRow(int row) {
+  if (row < 0 || row > ObjectTable::kLastRow) throw std::out_of_range(kTableIsFull);
+  return static_cast<std::size_t>(row);
+}
+
+}  // namespace
+
+ObjectRecord& ObjectTable::operator[](int row) {
+  const std::size_t at = CheckedRow(row);
+  // At its end a deque grows without moving what it holds.
+  while (rows_.size() <= at)
+    rows_.emplace_back();
+  return rows_[at];
+}
+
+const ObjectRecord& ObjectTable::operator[](int row) const {
+  static const ObjectRecord blank;
+  const std::size_t at = CheckedRow(row);
+  return at < rows_.size() ? rows_[at] : blank;
+}
 
 void ObjectTable::GrowIfFull() {
-  if (ObjectCount > kLastRow) throw std::out_of_range(kTableIsFull);
   if ((*this)[ObjectCount].Kind != ObjectKind::None) ObjectCount += 10;
 }
 
@@ -31,7 +52,8 @@ void ObjectTable::ClearRow(int row) {
 }
 
 void ObjectTable::Reset() {
-  std::fill(rows_.begin() + 1, rows_.begin() + LastScanned() + 1, ObjectRecord{});
+  for (int row = 1; row <= LastScanned(); ++row)
+    (*this)[row] = ObjectRecord{};
   firstMaybeFree_ = 1;
 }
 

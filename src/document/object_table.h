@@ -2,8 +2,7 @@
 // The fixed table of all objects: rows 1 to 2001. A row is free exactly when its kind is None.
 #pragma once
 
-#include <stdexcept>
-#include <vector>
+#include <deque>
 
 #include "document/object_record.h"
 
@@ -15,8 +14,10 @@ class ObjectTable {
   static constexpr int kFirstCount = 50;
 
   // An index outside 0 to 2001 throws std::out_of_range; this is how the limit of the table shows.
-  ObjectRecord& operator[](int row) { return rows_[Checked(row)]; }
-  const ObjectRecord& operator[](int row) const { return rows_[Checked(row)]; }
+  // References stay good while the table lives, except that a row which was never asked for to be changed is
+  // read from one blank record.
+  ObjectRecord& operator[](int row);
+  const ObjectRecord& operator[](int row) const;
 
   // The highest row that loops look at; not a count of objects. It grows by ten and may step beyond the
   // table.
@@ -42,13 +43,9 @@ class ObjectTable {
   void RowChanged(int row);
 
  private:
-  // The sentence is what a user reads when a command or a file goes beyond the table.
-  static std::size_t Checked(int row) {
-    if (row < 0 || row > kLastRow) throw std::out_of_range("a template holds at most 2001 objects");
-    return static_cast<std::size_t>(row);
-  }
-
-  std::vector<ObjectRecord> rows_ = std::vector<ObjectRecord>(kLastRow + 1);
+  // The rows that were ever asked for; all behind them are blank. Most documents are far smaller than the
+  // table, and the undo store holds many of them.
+  std::deque<ObjectRecord> rows_;
   // No row below this one is free, so that filling the table takes one walk and not one for each object.
   int firstMaybeFree_ = 1;
 };

@@ -96,4 +96,17 @@ std::vector<std::string> FilledLines(std::string_view text) {
   return filled;
 }
 
+std::string FirstDifference(std::string_view actual, std::string_view expected) {
+  for (int line = 1; actual != expected; ++line) {
+    const std::string_view a = actual.substr(0, actual.find('\n'));
+    const std::string_view b = expected.substr(0, expected.find('\n'));
+    if (a != b)
+      return "line " + std::to_string(line) + ": \"" + std::string(a) + "\" instead of \"" + std::string(b) +
+             "\"";
+    actual.remove_prefix(std::min(actual.size(), a.size() + 1));
+    expected.remove_prefix(std::min(expected.size(), b.size() + 1));
+  }
+  return {};
+}
+
 }  // namespace kev::test

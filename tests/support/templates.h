@@ -35,4 +35,7 @@ std::vector<std::string> LayoutLines(std::string_view text);
 // The lines of a text that are not empty, without their ends and the blanks around them.
 std::vector<std::string> FilledLines(std::string_view text);
 
+// The first line in which two texts differ, in both forms; empty where they are equal.
+std::string FirstDifference(std::string_view actual, std::string_view expected);
+
 }  // namespace kev::test
