@@ -11,6 +11,8 @@ namespace kev::bench {
 namespace {
 
 constexpr int kDotsPerInch = 96;
+// Texts are printed from one size, so that they are as wide as they measure at any zoom.
+constexpr int kPrintPixels = 128;
 constexpr double kPixelsPerPoint = kDotsPerInch / 72.0;
 
 QPointF Pixels(double x, double y) {
@@ -33,7 +35,8 @@ QRectF Room(const QRectF& area, double by) {
 
 class PreparedPage::Painting {
  public:
-  Painting(const PagePictures& pictures, QPainter& painter) : pictures_(pictures), painter_(painter) {}
+  Painting(const PagePictures& pictures, QPainter& painter)
+      : pictures_(pictures), painter_(painter), page_(painter.transform()) {}
 
   void operator()(const Line& line) {
     painter_.setRenderHint(QPainter::Antialiasing, line.line.dx() != 0 && line.line.dy() != 0);
@@ -63,19 +66,22 @@ class PreparedPage::Painting {
   void operator()(const Text& text) {
     painter_.setFont(text.font);
     painter_.setPen(text.colour);
-    painter_.drawText(text.baseline, text.text);
+    painter_.setTransform(text.place * page_);
+    painter_.drawText(QPointF(0, 0), text.text);
+    painter_.setTransform(page_);
   }
 
  private:
   const PagePictures& pictures_;
   QPainter& painter_;
+  QTransform page_;
 };
 
 void PreparedPage::PaintWhere(QPainter& painter, const QRectF& window) const {
   painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
   painter.setRenderHint(QPainter::TextAntialiasing, true);
+  painter.setClipRect(window.intersected(area_).translated(-window.topLeft()));
   painter.translate(-window.topLeft());
-  painter.setClipRect(window.intersected(area_));
   Painting painting(pictures_, painter);
   for (const Shape& shape : shapes_)
     if (shape.bounds.intersects(window)) std::visit(painting, shape.what);
@@ -131,10 +137,14 @@ void PreparedPage::SetForeground(Rgb colour) {
 void PreparedPage::PrintText(double x, double y, std::string_view text) {
   if (text.empty()) return;
   const TextExtent extent = QtMeasurer(fonts_).Measure(font_, text);
-  const double ascent = fonts_.Face(font_).ascent * font_.Size * kPixelsPerPoint;
+  const double pixels = font_.Size * kPixelsPerPoint;
+  const QPointF corner = Pixels(x, y);
+  QTransform place = QTransform::fromTranslate(corner.x(), corner.y() + fonts_.Face(font_).ascent * pixels);
+  place.scale(pixels / kPrintPixels, pixels / kPrintPixels);
+  QFont font = fonts_.Font(font_, kDotsPerInch);
+  font.setPixelSize(kPrintPixels);
   shapes_.push_back({Room(Between(x, y, x + extent.Width, y + extent.Height), extent.Height / kUnitsPerPixel),
-                     Text{foreground_, fonts_.Font(font_, kDotsPerInch), Pixels(x, y) + QPointF(0, ascent),
-                          fonts_.Text(font_, text)}});
+                     Text{foreground_, font, place, fonts_.Text(font_, text)}});
 }
 
 double PreparedPage::TextWidth(std::string_view text) {

@@ -8,6 +8,7 @@
 #include <QPen>
 #include <QString>
 #include <QSvgRenderer>
+#include <QTransform>
 #include <variant>
 #include <vector>
 
@@ -77,7 +78,7 @@ class PreparedPage final : public SurfaceOps {
   struct Text {
     QColor colour;
     QFont font;
-    QPointF baseline;
+    QTransform place;  // of the start of the baseline, and from the font's size to that of the text
     QString text;
   };
   struct Shape {

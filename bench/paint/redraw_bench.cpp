@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -79,8 +80,8 @@ class Page {
   QSize WholeSize() const { return prepared_.Area().size().toSize(); }
   // Canvas units: a window in the middle of the page, at whole pixels as scrolling leaves it.
   QRectF WindowRegion() const {
-    const int middle = WholeSize().height() / 2;
-    const QPointF corner(list_.Canvas().left(), middle * kUnitsPerPixel);
+    const int top = std::max(0, (WholeSize().height() - kWindow.height()) / 2);
+    const QPointF corner(list_.Canvas().left(), top * kUnitsPerPixel);
     return {corner, QSizeF(kWindow) * kUnitsPerPixel};
   }
 
@@ -103,9 +104,12 @@ class Page {
   PreparedPage prepared_;
 };
 
-// The images are made once: what a new bitmap costs is not what is measured.
+// The images are made once, and touched, so that their memory is there: what a new bitmap costs is not what
+// is measured.
 QImage Bitmap(const QSize& size) {
-  return QImage(size, QImage::Format_RGB32);
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  return image;
 }
 
 void PaintList(QImage& image, const Page& page, const QRectF& region) {
