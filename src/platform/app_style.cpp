@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <QWidget>
 
@@ -19,6 +20,18 @@ constexpr QRgb kFaint = 0xFF6E7781;
 constexpr QRgb kDisabled = 0xFFA3ABB4;
 constexpr QRgb kAccent = 0xFF1B6AC9;
 constexpr QRgb kTip = 0xFF2B3138;
+
+// Buttons of boxes and dialogs carry their words alone.
+class PlainButtons final : public QProxyStyle {
+ public:
+  PlainButtons() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
 
 QPalette NeutralPalette() {
   QPalette palette{QColor(kButton), QColor(kWindow)};
@@ -54,6 +67,7 @@ QMenu::separator { height: 1px; background: #e3e6ea; margin: 5px 8px; }
 QMenu::indicator { left: 7px; width: 13px; height: 13px; }
 QStatusBar { background: #ffffff; border-top: 1px solid #e3e6ea; }
 QStatusBar::item { border: none; }
+QMessageBox QLabel#qt_msgbox_label { min-width: 260px; }
 QDockWidget::title { background: #ffffff; padding: 7px 10px; border-bottom: 1px solid #e3e6ea; }
 QToolTip { padding: 4px 6px; border: none; }
 #progresswindow { background: #ffffff; border: 1px solid #cfd5dc; border-radius: 8px; }
@@ -64,7 +78,7 @@ QToolTip { padding: 4px 6px; border: none; }
 }  // namespace
 
 void ApplyStyle(QApplication& application) {
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new PlainButtons);
   QApplication::setPalette(NeutralPalette());
   application.setStyleSheet(QString::fromLatin1(kSheet));
   QApplication::setWindowIcon(ProgramIcon());

@@ -99,6 +99,7 @@ void FtpTransfer::OpenData(const QByteArray& reply) {
 }
 
 void FtpTransfer::TakeData() {
+  if (!data_.isOpen()) return;
   bytes_ += data_.readAll();
   if (bytes_.size() > mostBytes_) End(false);
 }

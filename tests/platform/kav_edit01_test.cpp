@@ -25,6 +25,7 @@
 #include <fstream>
 
 #include "base/files.h"
+#include "platform/file_dialog.h"
 #include "platform/forms/kavsplash.h"
 #include "platform/print_qt.h"
 #include "platform/qt_measurer.h"
@@ -102,10 +103,7 @@ class KavEdit01Test : public testing::Test {
   // Types a path into the file dialog that the next call opens.
   static void WhenFileDialog(const std::string& path) {
     QTimer::singleShot(0, qApp, [path] {
-      auto* edit = QApplication::activeModalWidget()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-      edit->selectAll();
-      QTest::keyClicks(edit, QString::fromStdString(path));
-      QTest::keyClick(edit, Qt::Key_Return);
+      AnswerFileDialog(*QApplication::activeModalWidget(), QString::fromStdString(path));
     });
   }
   static void Drop(KavEdit01& target, const std::string& path) {

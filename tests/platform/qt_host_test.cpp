@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <fstream>
 
+#include "platform/file_dialog.h"
 #include "platform/print_qt.h"
 
 namespace kev {
@@ -94,21 +95,13 @@ class ChooserTest : public testing::Test {
   FileChoice Choice() const {
     return {"Save as", folder.path().toStdString(), "one.kev", {{"Templates", "*.kev *.KEV"}}};
   }
-  static void TypeName(QWidget& modal, const QString& name) {
-    auto* edit = modal.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    ASSERT_NE(edit, nullptr);
-    edit->selectAll();
-    QTest::keyClicks(edit, name);
-    QTest::keyClick(edit, Qt::Key_Return);
-  }
-
   QTemporaryDir folder;
   QtHost host;
 };
 
 TEST_F(ChooserTest, ANameWithoutAnEndingGetsTheOneOfTheFilter) {
-  WhenModal([](QWidget& modal) { TypeName(modal, QStringLiteral("two words")); });
-  EXPECT_EQ(host.ChooseFileToSave(Choice()), folder.path().toStdString() + "/two words.kev");
+  WhenModal([](QWidget& modal) { AnswerFileDialog(modal, QString::fromUtf8("dos ñ")); });
+  EXPECT_EQ(host.ChooseFileToSave(Choice()), folder.path().toStdString() + "/dos ñ.kev");
 }
 
 TEST_F(ChooserTest, TheSuggestedNameStandsInTheDialog) {
@@ -120,7 +113,7 @@ TEST_F(ChooserTest, TheSuggestedNameStandsInTheDialog) {
 }
 
 TEST_F(ChooserTest, AnExistingFileIsChosenToOpen) {
-  WhenModal([](QWidget& modal) { TypeName(modal, QStringLiteral("one.kev")); });
+  WhenModal([](QWidget& modal) { AnswerFileDialog(modal, QStringLiteral("one.kev")); });
   EXPECT_EQ(host.ChooseFileToOpen(Choice()), folder.path().toStdString() + "/one.kev");
 }
 

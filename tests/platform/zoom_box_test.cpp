@@ -23,6 +23,7 @@ class ZoomBoxTest : public testing::Test {
     box->ShowZoom(QStringLiteral("100%"));
     window.show();
     window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     box->setFocus();
   }
 

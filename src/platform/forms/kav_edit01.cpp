@@ -103,10 +103,10 @@ void KavEdit01::BuildToolRow() {
   bar->setObjectName(QStringLiteral("toolbar1"));
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  auto* label = new QLabel(ToQString(designer_.Text(kTextMenuZoom)), bar);
+  auto* label = new QLabel(MenuCaption(kTextMenuZoom), bar);
   label->setContentsMargins(8, 0, 6, 0);
   zoomBox_ = new ZoomBox(bar);
-  zoomBox_->setAccessibleName(label->text());
+  zoomBox_->setAccessibleName(ToQString(designer_.Text(kTextMenuZoom)));
   label->setBuddy(zoomBox_);
   bar->addWidget(label);
   bar->addWidget(zoomBox_);

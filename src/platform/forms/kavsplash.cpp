@@ -45,7 +45,6 @@ void PaintSheet(QPainter& painter) {
 kavsplash::kavsplash(const QString& programTitle, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), programTitle_(programTitle) {
   setObjectName(QStringLiteral("kavsplash"));
-  setWindowTitle(programTitle);
   setAccessibleName(programTitle);
   setModal(true);
   setFixedSize(kWidth, kHeight);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/forms/status_panels.h"
 
+#include <QFrame>
 #include <QLabel>
 #include <QToolButton>
 
@@ -8,7 +9,7 @@ namespace kev {
 
 namespace {
 
-constexpr int kSelectionWidth = 200;
+constexpr int kSelectionWidth = 160;
 constexpr int kSideMargin = 10;
 
 QLabel* AddPanel(QStatusBar& bar, const QString& name, int stretch) {
@@ -31,6 +32,11 @@ StatusPanels::StatusPanels(const QString& idleText, const QString& findingsWord,
       findings_(new QToolButton(this)) {
   setObjectName(QStringLiteral("statusbar"));
   setSizeGripEnabled(false);
+  auto* divider = new QFrame(this);
+  divider->setFrameShape(QFrame::VLine);
+  divider->setForegroundRole(QPalette::Mid);
+  divider->setFrameShadow(QFrame::Plain);
+  insertWidget(1, divider);
   selection_->setMinimumWidth(kSelectionWidth);
   // A long message is cut at the window's edge instead of widening the window.
   text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
