@@ -14,6 +14,9 @@ namespace kev {
 
 namespace {
 
+// Wide enough for the columns of the dialog that is made of widgets.
+constexpr QSize kChooserSize(820, 520);
+
 struct AnswerRow {
   BoxAnswer answer;
   QMessageBox::StandardButton button;
@@ -127,6 +130,7 @@ std::optional<std::string> QtHost::ChooseFileToSave(const FileChoice& choice) {
 
 std::optional<std::string> QtHost::Choose(const FileChoice& choice, bool save) {
   QFileDialog dialog(window_, ToQString(choice.Title), FromNative(choice.Folder));
+  dialog.resize(kChooserSize);
   dialog.setObjectName(save ? QStringLiteral("savedialog") : QStringLiteral("opendialog"));
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
