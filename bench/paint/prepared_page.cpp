@@ -77,14 +77,14 @@ class PreparedPage::Painting {
   QTransform page_;
 };
 
-void PreparedPage::PaintWhere(QPainter& painter, const QRectF& window) const {
+void PreparedPage::Paint(QPainter& painter, const QRectF& window, bool onlySeen) const {
   painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
   painter.setRenderHint(QPainter::TextAntialiasing, true);
   painter.setClipRect(window.intersected(area_).translated(-window.topLeft()));
   painter.translate(-window.topLeft());
   Painting painting(pictures_, painter);
   for (const Shape& shape : shapes_)
-    if (shape.bounds.intersects(window)) std::visit(painting, shape.what);
+    if (!onlySeen || shape.bounds.intersects(window)) std::visit(painting, shape.what);
 }
 
 void PreparedPage::SetCanvasSize(double width, double height) {

@@ -31,10 +31,10 @@ class PreparedPage final : public SurfaceOps {
 
   // Logical pixels.
   QRectF Area() const { return area_; }
-  // All of it, from the corner of the area.
-  void Paint(QPainter& painter) const { PaintWhere(painter, area_); }
-  // What can be seen in `window`, whose corner is the painter's origin.
-  void PaintWhere(QPainter& painter, const QRectF& window) const;
+  // Every shape is handed to the painter, whose origin is the corner of `window`; the painter cuts.
+  void PaintAll(QPainter& painter, const QRectF& window) const { Paint(painter, window, false); }
+  // Only the shapes that can be seen in `window`.
+  void PaintSeen(QPainter& painter, const QRectF& window) const { Paint(painter, window, true); }
 
   void ClearCanvas() override { shapes_.clear(); }
   void SetCanvasSize(double width, double height) override;
@@ -86,6 +86,8 @@ class PreparedPage final : public SurfaceOps {
     std::variant<Line, Outline, Fill, Circle, Picture, Text> what;
   };
   class Painting;
+
+  void Paint(QPainter& painter, const QRectF& window, bool onlySeen) const;
 
   FontCache& fonts_;
   PagePictures pictures_;
