@@ -10,8 +10,7 @@
 
 namespace kev {
 
-// The keys of a text: only its first 100 lines count, the first line with a key wins, and a line that begins
-// with
+// The keys of a text: only its first 100 lines count, the first line with a key wins, and a line that begins with
 // "#" or "[" holds none.
 class KeyFile {
  public:

@@ -16,8 +16,8 @@
 
 namespace kev {
 
-// Slots 1 to 92 hold keys, slot 93 is carried with a record and holds nothing. Slot n is the value at index n
-// - 1.
+// Slots 1 to 92 hold keys, slot 93 is carried with a record and holds nothing. Slot n is the
+// value at index n - 1.
 inline constexpr std::size_t kChartKeyCount = 92;
 inline constexpr std::size_t kChartSlotCount = 93;
 inline constexpr int kChartSeriesCount = 8;

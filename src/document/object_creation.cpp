@@ -131,6 +131,7 @@ void RowFiller::Place() {
 void RowFiller::Section() {
   cursor().SurfaceY = Fit32(std::int64_t{cursor().SurfaceY} + 100);
   record_.SectionTitle = object_.title;
+  record_.ColorR = record_.ColorG = record_.ColorB = 170;
   record_.AbsoluteY = cursor().SurfaceY;
   cursor().SurfaceY = Fit32(std::int64_t{cursor().SurfaceY} + kBarHeight);
 }

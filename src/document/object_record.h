@@ -72,7 +72,7 @@ struct ObjectRecord {
   ObjectKind Kind = ObjectKind::None;
   std::string Content;
   std::string ExecuteCommand;
-  // Green and blue of -1 mean that red is an index into the sixteen basic colours.
+  // With green and blue at -1, red is one of the sixteen basic colours.
   std::int16_t ColorR = 0, ColorG = 0, ColorB = 0;
   std::int16_t BackColorR = 0, BackColorG = 0, BackColorB = 0;
   std::string XValue;   // a position expression

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The fixed table of all objects: rows 1 to 2001. A row is free exactly when its kind is None.
+// The table of all objects, rows 1 to 2001. ObjectKind::None marks a free row.
 #pragma once
 
 #include <deque>
@@ -19,8 +19,7 @@ class ObjectTable {
   ObjectRecord& operator[](int row);
   const ObjectRecord& operator[](int row) const;
 
-  // The highest row that loops look at; not a count of objects. It grows by ten and may step beyond the
-  // table.
+  // Where loops over the rows end. It grows by ten and may step beyond the table.
   int ObjectCount = kFirstCount;
   int CurrentObject = 0;
   int FocusObject = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The values of a template that belong to the document as a whole. All are texts, as they stand in the file;
-// those that count as numbers are compared as numbers. One table of rows says for each how it is read and
+// What a template says about itself in its head: paper, margins, title, permissions. Every value is kept as text,
+// also where it is compared as a number. One table of rows says for each how it is read and
 // when it is written, and the reader, the writer and the sheets walk that table.
 #pragma once
 

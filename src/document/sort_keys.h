@@ -16,9 +16,9 @@ struct SortedRows {
   std::int32_t BottomMost = 0;  // largest AbsoluteY + Height
 };
 
-// Stores the SortKey of each occupied row and gives the rows in order. An end bar sorts behind everything
-// that stands at its own Y, so that an object on the last twip of a body belongs to that body. The order is
-// that of the numbers, also where they need more digits than the key holds.
+// Stores the SortKey of each occupied row and gives the rows in order. Of all that stands at one
+// Y an end bar comes last: whatever touches the end of a body is still inside. Numbers are compared as numbers; the
+// key is their text, cut to its length.
 SortedRows SetSortKeys(Document& document);
 
 }  // namespace kev

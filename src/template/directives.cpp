@@ -1,138 +1,19 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
 #include <optional>
 #include <unordered_map>
+#include <utility>
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "template/directive_table.h"
 #include "template/scanner.h"
 
 namespace kev {
 namespace {
-
-enum class Action : std::uint8_t {
-  Nothing,
-  NotRead,  // written by the designer for the viewer alone
-  Def,
-  Stretch,
-  LineWidth,
-  ValueType,
-  Print,
-  ModifiableByEndUser,
-  AlignToGrid,
-  Vertical,
-  QrCode,
-  Symbology,
-  NoBar,
-  SubsectionHeight,
-  Top,
-  StartAt,
-  Colour,
-  BarHeight,
-  BarWidth,
-  Format,
-  Link,
-  Spacing,
-  Case,
-  NewLine,
-  StepBack,
-  FontName,
-  CharSet,
-  Size,
-  Italic,
-  Underline,
-  Bold,
-  Align,
-  Trim,
-  TextBoxProps,
-  PageBreak,
-  TextBox,
-  Box,
-  Picture,
-  Circle,
-  Line,
-  AnyLine,
-  BuildGraph
-};
-
-struct DirectiveRow {
-  std::string_view key;  // in capitals
-  Action action;
-  int number = 0;  // what the action stores, for actions that several keys share
-};
-
-constexpr auto kDirectives = std::to_array<DirectiveRow>({
-    {"DEF", Action::Def},
-    {"STRETCH", Action::Stretch},
-    {"W", Action::LineWidth},
-    {"NUM", Action::ValueType, 'N'},
-    {"TEXT", Action::ValueType, 'T'},
-    {"PRINT", Action::Print, kTrue},
-    {"NOPRINT", Action::Print, kFalse},
-    {"MBEU", Action::ModifiableByEndUser, 1},
-    {"NMBEU", Action::ModifiableByEndUser, 0},
-    {"ATG", Action::AlignToGrid, 1},
-    {"NATG", Action::AlignToGrid, 0},
-    {"VERT", Action::Vertical},
-    {"VERTBAR", Action::Vertical},
-    {"QR", Action::QrCode},
-    {"QRCODE", Action::QrCode},
-    {"BAR", Action::Symbology, 1},
-    {"B39", Action::Symbology, 1},
-    {"B32", Action::Symbology, 32},
-    {"B128B", Action::Symbology, 1282},
-    {"BEAN128", Action::Symbology, 12821},
-    {"B128C", Action::Symbology, 1283},
-    {"EAN13", Action::Symbology, 13},
-    {"BEAN13", Action::Symbology, 13},
-    {"EAN8", Action::Symbology, 8},
-    {"BEAN8", Action::Symbology, 8},
-    {"B2OF5BAR", Action::Symbology, 250},
-    {"B2OF5INT", Action::Symbology, 251},
-    {"B2OF5IND", Action::Symbology, 252},
-    {"NOBAR", Action::NoBar},
-    {"SUBSECTIONHEIGHT", Action::SubsectionHeight},
-    {"TOP", Action::Top},
-    {"TOPOFPAGE", Action::Top},
-    {"XY", Action::StartAt},
-    {"C", Action::Colour},
-    {"BARHEIGHT", Action::BarHeight},
-    {"BARWIDTH", Action::BarWidth},
-    {"FORMAT", Action::Format},
-    {"LINK", Action::Link},
-    {"SPACING", Action::Spacing},
-    {"FIRSTUP", Action::Case, 'F'},
-    {"UPPER", Action::Case, 'U'},
-    {"LOWER", Action::Case, 'L'},
-    {"\\N", Action::NewLine},
-    {"\\P", Action::StepBack},
-    {"F", Action::FontName},
-    {"CS", Action::CharSet},
-    {"CHARSET", Action::CharSet},
-    {"S", Action::Size},
-    {"I", Action::Italic},
-    {"U", Action::Underline},
-    {"B", Action::Bold},
-    {"A", Action::Align},
-    {"TRIM", Action::Trim},
-    {"TBPROPS", Action::TextBoxProps},
-    {"TB", Action::TextBoxProps},
-    {"\\NP", Action::PageBreak},
-    {"@@PAGEBREAK", Action::PageBreak},
-    {"TEXTBOX", Action::TextBox},
-    {"BOX", Action::Box, 0},
-    {"BOXF", Action::Box, 1},
-    {"PIC", Action::Picture},
-    {"CIRC", Action::Circle},
-    {"LINE", Action::Line},
-    {"ANYLINE", Action::AnyLine},
-    {"BUILDGRAPH", Action::BuildGraph},
-    {"REM", Action::Nothing},
-    {"EXECUTE", Action::NotRead},
-    {"POSTSHOW", Action::NotRead},
-    {"PAGE", Action::NotRead},
-    {"ST", Action::NotRead},
-});
 
 const DirectiveRow* FindDirective(std::string_view key) {
   static const auto index = [] {
@@ -144,6 +25,37 @@ const DirectiveRow* FindDirective(std::string_view key) {
   const auto found = index.find(key);
   return found == index.end() ? nullptr : found->second;
 }
+
+constexpr double kLargest32 = std::numeric_limits<std::int32_t>::max();
+constexpr double kLargest16 = std::numeric_limits<std::int16_t>::max();
+
+constexpr auto kTextStores = std::to_array<std::pair<Action, std::string AttributeState::*>>({
+    {Action::Format, &AttributeState::AttrFormat},
+    {Action::Link, &AttributeState::AttrLink},
+    {Action::FontName, &AttributeState::AttrFontName},
+    {Action::CharSet, &AttributeState::AttrCharSet},
+    {Action::TextBoxProps, &AttributeState::TextBoxProps},
+});
+
+struct NumberStore {
+  Action action;
+  double AttributeState::*member;
+  double largest;  // of the field that it fills
+};
+
+constexpr auto kNumberStores = std::to_array<NumberStore>({
+    {Action::LineWidth, &AttributeState::AttrLineWidth, kLargest16},
+    {Action::BarHeight, &AttributeState::AttrBarHeight, kLargest32},
+    {Action::BarWidth, &AttributeState::AttrBarWidth, kLargest16},
+    {Action::Size, &AttributeState::AttrSize, kLargest32},
+});
+
+constexpr auto kYesStores = std::to_array<std::pair<Action, Flag AttributeState::*>>({
+    {Action::Italic, &AttributeState::AttrItalic},
+    {Action::Underline, &AttributeState::AttrUnderline},
+    {Action::Bold, &AttributeState::AttrBold},
+    {Action::Trim, &AttributeState::AttrTrim},
+});
 
 bool IsYes(std::string_view value) {
   return value == "Y" || value == "y" || value == "1";
@@ -166,6 +78,11 @@ class Item {
 
  private:
   void ApplyAttribute(const DirectiveRow& row);
+  bool StoreText(Action action);
+  bool StoreNumber(Action action);
+  bool StoreYes(Action action);
+  void SetSymbology(int symbology);
+  void NoteIfAbove(double largest, std::string_view number);
   void ApplyMovement(const DirectiveRow& row);
   void ApplyCreation(const DirectiveRow& row);
   void ApplyUnknown();
@@ -199,19 +116,49 @@ void Item::Apply() {
     if (row->action >= Action::PageBreak) return ApplyCreation(*row);
     return ApplyAttribute(*row);
   }
-  if (!state_.chart.ReadChartKey(key_, value_)) ApplyUnknown();
+  if (!state_.chart.ReadChartKey(key_, value_)) return ApplyUnknown();
+  // The format of a series is read for the viewer's sake and never written.
+  if (key_.ends_with("_FORMAT") && !value_.empty()) state_.Note(FindingKind::WillNotComeBack, name_);
+}
+
+// Values that are stored as they stand.
+bool Item::StoreText(Action action) {
+  for (const auto& [stored, member] : kTextStores) {
+    if (stored == action) attributes().*member = value_;
+    if (stored == action) return true;
+  }
+  return false;
+}
+
+bool Item::StoreNumber(Action action) {
+  for (const NumberStore& row : kNumberStores) {
+    if (row.action != action) continue;
+    NoteIfAbove(row.largest, value_);
+    attributes().*row.member = NumericPrefix(value_);
+    return true;
+  }
+  return false;
+}
+
+bool Item::StoreYes(Action action) {
+  for (const auto& [stored, member] : kYesStores) {
+    if (stored != action) continue;
+    attributes().*member = ToFlag(IsYes(value_));
+    // The writer never switches trimming off, so blanks around a text are gone after a save.
+    if (action == Action::Trim && !IsYes(value_)) state_.Note(FindingKind::WillNotComeBack, name_);
+    return true;
+  }
+  return false;
 }
 
 void Item::ApplyAttribute(const DirectiveRow& row) {
+  if (StoreText(row.action) || StoreNumber(row.action) || StoreYes(row.action)) return;
   AttributeState& state = attributes();
   switch (row.action) {
     case Action::Def:
       return state.ResetToDefaults();
     case Action::Stretch:
       state.AttrStretch = value_.empty() ? std::nullopt : std::optional(value_);
-      return;
-    case Action::LineWidth:
-      state.AttrLineWidth = NumericPrefix(value_);
       return;
     case Action::ValueType:
       state.AttrValueType = row.number == 'N' ? "Number" : "Text";
@@ -231,8 +178,7 @@ void Item::ApplyAttribute(const DirectiveRow& row) {
     case Action::QrCode:
       return SetQr();
     case Action::Symbology:
-      state.AttrSymbology = row.number;
-      return;
+      return SetSymbology(row.number);
     case Action::NoBar:
       state.AttrSymbology = kNoSymbology;
       state.AttrRotation = 0;
@@ -240,47 +186,11 @@ void Item::ApplyAttribute(const DirectiveRow& row) {
       return;
     case Action::Colour:
       return SetColour();
-    case Action::BarHeight:
-      state.AttrBarHeight = NumericPrefix(value_);
-      return;
-    case Action::BarWidth:
-      state.AttrBarWidth = NumericPrefix(value_);
-      return;
-    case Action::Format:
-      state.AttrFormat = value_;
-      return;
-    case Action::Link:
-      state.AttrLink = value_;
-      return;
     case Action::Case:
       state.AttrCase = Trim(value_) == "N" ? 'N' : static_cast<char>(row.number);
       return;
-    case Action::FontName:
-      state.AttrFontName = value_;
-      return;
-    case Action::CharSet:
-      state.AttrCharSet = value_;
-      return;
-    case Action::Size:
-      state.AttrSize = NumericPrefix(value_);
-      return;
-    case Action::Italic:
-      state.AttrItalic = ToFlag(IsYes(value_));
-      return;
-    case Action::Underline:
-      state.AttrUnderline = ToFlag(IsYes(value_));
-      return;
-    case Action::Bold:
-      state.AttrBold = ToFlag(IsYes(value_));
-      return;
     case Action::Align:
       return SetAlign();
-    case Action::Trim:
-      state.AttrTrim = ToFlag(IsYes(value_));
-      return;
-    case Action::TextBoxProps:
-      state.TextBoxProps = value_;
-      return;
     case Action::NotRead:
       return state_.Note(FindingKind::WillNotComeBack, name_);
     case Action::Nothing:
@@ -288,6 +198,16 @@ void Item::ApplyAttribute(const DirectiveRow& row) {
     default:
       return ApplyMovement(row);
   }
+}
+
+void Item::SetSymbology(int symbology) {
+  attributes().AttrSymbology = symbology;
+  // These two have no word in a saved template.
+  if (symbology == 32 || symbology == 12821) state_.Note(FindingKind::WillNotComeBack, name_);
+}
+
+void Item::NoteIfAbove(double largest, std::string_view number) {
+  if (std::abs(NumericPrefix(number)) > largest) state_.Note(FindingKind::ValueOutOfRange, number);
 }
 
 void Item::ApplyMovement(const DirectiveRow& row) {
@@ -301,6 +221,7 @@ void Item::ApplyMovement(const DirectiveRow& row) {
     case Action::StartAt:
       return MoveToTop(FormatNumber(NumericPrefix(Part(2))));
     case Action::Spacing:
+      NoteIfAbove(kLargest32, value_);
       attributes().SpacingNow = Int32Of(value_);
       return;
     case Action::NewLine:
@@ -423,11 +344,11 @@ void Item::StepBack() {
 
 void Item::SetColour() {
   Colour& colour = attributes().AttrColor;
-  if (value_.find(',') == std::string::npos) {
-    colour = {Int16Of(value_), -1, -1};
-  } else {
-    colour = {Int16Of(Part(1)), Int16Of(Part(2)), Int16Of(Part(3))};
-  }
+  const bool isIndex = value_.find(',') == std::string::npos;
+  for (std::size_t n = 1; n <= 3; ++n)
+    NoteIfAbove(kLargest16, Part(n));
+  colour = {Int16Of(Part(1)), Int16Of(Part(2)), Int16Of(Part(3))};
+  if (isIndex) colour = {Int16Of(value_), -1, -1};
 }
 
 void Item::SetAlign() {

@@ -1,55 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "template/object_writer.h"
 
-#include <array>
+#include <utility>
 
 #include "base/numbers.h"
 #include "base/text.h"
 #include "chart/definition.h"
 #include "template/line_text.h"
+#include "template/writer_tables.h"
 
 namespace kev {
 namespace {
 
 constexpr bool kPositioned = true;
 constexpr bool kPlain = false;
-
-struct CommentRow {
-  ObjectKind kind;
-  std::string_view oneStep;
-  std::string_view otherStep;
-};
-
-// The markers behind a vertical step, by which a reader of the file can tell where a line comes from.
-constexpr auto kStepComments = std::to_array<CommentRow>({
-    {ObjectKind::TextBox, "rem=modulo001", "rem=modulo002X"},
-    {ObjectKind::Picture, "rem=modulo001", "rem=modulo002B"},
-    {ObjectKind::Qr, "rem=modulo101", "rem=modulo102B"},
-    {ObjectKind::Circle, "rem=modulo003", "rem=modulo004"},
-    {ObjectKind::Chart, "rem=modulo025", "rem=modulo026"},
-    {ObjectKind::Barcode, "rem=modulo005", "rem=modulo006"},
-    {ObjectKind::Line, "rem=modulo007", "rem=modulo008"},
-    {ObjectKind::AnyLine, "rem=modulo009", "rem=modulo010"},
-    {ObjectKind::Box, "rem=modulo011", "rem=modulo012"},
-    {ObjectKind::Command, "rem=modulo013", "rem=modulo014"},
-    {ObjectKind::Label, "rem=modulo015", "rem=modulo016"},
-});
-
-struct SymbologyWord {
-  std::string_view code;
-  std::string_view word;
-};
-
-constexpr auto kSymbologyWords = std::to_array<SymbologyWord>({
-    {"1", ";Bar"},
-    {"8", ";Ean8"},
-    {"13", ";Ean13"},
-    {"251", ";B2Of5Int"},
-    {"252", ";B2Of5Ind"},
-    {"250", ";B2Of5Bar"},
-    {"1282", ";B128B"},
-    {"1283", ";B128C"},
-});
 
 std::string Number(std::int64_t value) {
   return std::to_string(value);
@@ -236,8 +200,8 @@ void ObjectWriter::ColourStep(const ObjectRecord& record) {
   BlockLine("c=" + ColourText(colour), kPlain);
 }
 
-// The reader takes no zero behind another position, so where it would keep the earlier one a position is
-// written that rounds to zero.
+// A zero behind another position would be ignored on reading and leave the object at the earlier one, so a
+// position is written that rounds to zero.
 std::string ObjectWriter::Position(std::string_view xValue) {
   const bool isZero = NumericPrefix(xValue) == 0 && !xValue.starts_with('$');
   if (isZero && state_.X == "0") return "0";
@@ -349,11 +313,9 @@ void ObjectWriter::Label(const ObjectRecord& record) {
   LabelAttributes(record);
   TextLine(LabelPosition(record), " " + record.Content, "");
   if (record.Content.find(document_.Settings.OpenCharacter()) == std::string::npos) return;
-  // Literal braces can confuse what follows; this makes a clean start.
+  // A brace in the text may have begun a block of its own, so nothing is taken for known behind it.
   state_.ResetToDefaults();
-  BlockLine("DEF", kPlain);
-  AddComment("Rem=All default values 17");
-  Line("");
+  BlockLineWithComment("DEF", "Rem=All default values 17");
 }
 
 void ObjectWriter::LabelAttributes(const ObjectRecord& record) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "base/files.h"
 #include "base/numbers.h"
@@ -83,6 +84,7 @@ class TemplateReader {
  private:
   void ReadHead();
   void CheckHead(const KeyFile& keys);
+  void CheckDelimiters(const KeyFile& keys);
   bool ReadPreamble();
   void AddColumn(std::string_view line);
   void AddPreambleBlock(std::string_view line);
@@ -93,7 +95,8 @@ class TemplateReader {
   void ScanContent(std::string_view line, std::size_t removed);
   void ApplyBlock();
   void Flush();
-  void NoteLostText(std::string_view text);
+  void KeepText(char c, std::size_t column);
+  void NoteLostText();
   void NoteDisarmedBlocks(std::string_view line, std::string_view prepared);
   std::string_view NextLine();
 
@@ -108,6 +111,9 @@ class TemplateReader {
   std::string commandBuffer_;
   bool inBlock_ = false;
   bool textIsFlushed_ = false;
+  bool hasText_ = false;  // the buffer holds more than blanks
+  std::size_t textLine_ = 0;
+  std::size_t textColumn_ = 0;
   std::size_t appliedBytes_ = 0;
 };
 
@@ -120,7 +126,7 @@ ReadOutcome TemplateReader::Read() {
   if (hasLayout) OpenSection(kHeader);
   state_.attributes.SpacingNow = document_.Settings.SpacingTwips();
   ReadLayout();
-  NoteLostText(textBuffer_);
+  NoteLostText();
   CloseSubsection();
   if (services_.Progress != nullptr) services_.Progress->End();
   return {std::move(document_), std::move(state_.attributes), std::move(state_.findings)};
@@ -130,6 +136,22 @@ void TemplateReader::ReadHead() {
   const KeyFile keys(bytes_, page_);
   document_.Settings = ReadSettings(keys, services_.DefaultPaper, page_);
   CheckHead(keys);
+  CheckDelimiters(keys);
+}
+
+// Characters that have another meaning in a template, or the same one twice, make a file that can be read but
+// not written again.
+void TemplateReader::CheckDelimiters(const KeyFile& keys) {
+  const char open = document_.Settings.OpenCharacter();
+  const char close = document_.Settings.CloseCharacter();
+  for (const Setting id : {Setting::Open, Setting::Close}) {
+    const char c = document_.Settings[id].front();
+    const bool isLetter = page_.Upper(c) != c || page_.Lower(std::string(1, c)) != std::string(1, c);
+    const bool isTaken = std::string_view(" 0123456789[];,=$@+-\\#").find(c) != std::string_view::npos;
+    if (!isLetter && !isTaken && open != close) continue;
+    state_.line = keys.Line(RowOf(id).key);
+    state_.Note(FindingKind::WillNotComeBack, std::string(RowOf(id).key) + "=" + c);
+  }
 }
 
 // Repeated keys, and keys that stand too far down to be seen.
@@ -239,15 +261,15 @@ void TemplateReader::ScanContent(std::string_view line, std::size_t removed) {
     const char c = line[at];
     if (c == close) {
       state_.column = blockColumn;
-      if (!textIsFlushed_) NoteLostText(textBuffer_);
+      NoteLostText();
       inBlock_ = false;
       textBuffer_.clear();
+      hasText_ = false;
       ApplyBlock();
     }
     if (inBlock_) commandBuffer_ += c;
     if (!inBlock_ && c != open && c != close) {
-      textBuffer_ += c;
-      textIsFlushed_ = false;
+      KeepText(c, removed + at + 1);
     }
     if (c == open) {
       state_.column = blockColumn = removed + at + 1;
@@ -267,8 +289,23 @@ void TemplateReader::ApplyBlock() {
   ApplyCommands(state_, commandBuffer_);
 }
 
-void TemplateReader::NoteLostText(std::string_view text) {
-  if (!Trim(text).empty() && !textIsFlushed_) state_.Note(FindingKind::LostText, Trim(text));
+void TemplateReader::KeepText(char c, std::size_t column) {
+  textBuffer_ += c;
+  textIsFlushed_ = false;
+  if (hasText_ || c == kBlank) return;
+  hasText_ = true;
+  textLine_ = state_.line;
+  textColumn_ = column;
+}
+
+// Told where the text began, which may be lines above the place at which it is given up.
+void TemplateReader::NoteLostText() {
+  if (!hasText_ || textIsFlushed_) return;
+  const auto line = std::exchange(state_.line, textLine_);
+  const auto column = std::exchange(state_.column, textColumn_);
+  state_.Note(FindingKind::LostText, Trim(textBuffer_));
+  state_.line = line;
+  state_.column = column;
 }
 
 // Preparing a line puts braces around a block without a position; where the document has its own delimiters,
@@ -291,7 +328,7 @@ void TemplateReader::NoteDisarmedBlocks(std::string_view line, std::string_view 
 // The buffer is not emptied here: only a close character does that.
 void TemplateReader::Flush() {
   textIsFlushed_ = true;
-  if (Trim(textBuffer_).empty()) return;
+  if (!hasText_) return;
   AttributeState& attributes = state_.attributes;
   NewObject object;
   object.text = textBuffer_;

@@ -9,8 +9,7 @@
 
 namespace kev {
 
-// The head up to and with the line [HEADER], then the blocks that the marker lines "<[HEADER]", "<[FOOTER]"
-// and
+// The head up to and with the line [HEADER], then the blocks that the marker lines "<[HEADER]", "<[FOOTER]" and
 // "<[DATA]" begin, in this order whatever theirs was. Marker lines are left out.
 std::string RegroupBySection(std::string_view stageOne, const CodePage& page);
 

@@ -2,6 +2,7 @@
 #include "template/writer.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <tuple>
 #include <utility>
@@ -45,6 +46,7 @@ class TemplateWriter {
   struct Bar {
     int row;
     int section;        // 0 header, 1 footer, 2 data
+    bool isBase;        // the section's own bar, which its line in the file makes
     std::size_t place;  // in the sorted list
     std::vector<int> rows;
   };
@@ -106,21 +108,24 @@ std::vector<TemplateWriter::Bar> TemplateWriter::CollectBars() const {
   static const std::map<std::string_view, int> kSectionOrder = {
       {"[HEADER]", 0}, {"[FOOTER]", 1}, {"[DATA]", 2}};
   std::vector<Bar> bars;
+  std::array<bool, 3> hasBase{};
   for (std::size_t place = 0; place < sorted_.Rows.size(); ++place) {
     const int row = sorted_.Rows[place];
     const ObjectRecord& bar = document_.Objects[row];
     if (bar.Kind != ObjectKind::Subsection || IsConfiguration(bar, page_)) continue;
     const auto section = kSectionOrder.find(NthToken(bar.SectionTitle, 1, kBlank));
     if (section == kSectionOrder.end()) continue;
-    bars.push_back({row, section->second, place, {}});
+    const bool isBase = HeadLine(bar).empty() && !hasBase[static_cast<std::size_t>(section->second)];
+    if (isBase) hasBase[static_cast<std::size_t>(section->second)] = true;
+    bars.push_back({row, section->second, isBase, place, {}});
   }
   std::stable_sort(bars.begin(), bars.end(), [](const Bar& a, const Bar& b) {
-    return std::tie(a.section, a.place) < std::tie(b.section, b.place);
+    return std::tuple(a.section, !a.isBase, a.place) < std::tuple(b.section, !b.isBase, b.place);
   });
   return bars;
 }
 
-// Each row goes with the bar that owns it; a row whose owner is gone goes with the bar above it.
+// Rows are written with the bar that owns them. An orphan is written with the bar above, so that it is not lost.
 void TemplateWriter::DistributeRows(std::vector<Bar>& bars) const {
   if (bars.empty()) return;
   const OwnerIndex index(document_);
@@ -143,15 +148,13 @@ void TemplateWriter::DistributeRows(std::vector<Bar>& bars) const {
 void TemplateWriter::Subsections() {
   std::vector<Bar> bars = CollectBars();
   DistributeRows(bars);
-  int lastSection = -1;
   for (const Bar& bar : bars) {
     const ObjectRecord& record = document_.Objects[bar.row];
     const std::string_view section = NthToken(record.SectionTitle, 1, kBlank);
-    // Only the first bar of a section can go without a head line of its own: behind another one the reader
-    // would take its rows for those of the bar above.
-    const bool isFirst = std::exchange(lastSection, bar.section) != bar.section;
     const std::string_view head = HeadLine(record);
-    lines_.Subsection(record, section, head.empty() && !isFirst ? section : head);
+    // A section that stands twice: without a head line the reader would take the rows of the second for those
+    // of the bar above.
+    lines_.Subsection(record, section, head.empty() && !bar.isBase ? section : head);
     for (const int row : bar.rows)
       lines_.Object(document_.Objects[row]);
     if (record.EndRow != 0) lines_.EndOfSubsection(document_.Objects[record.EndRow]);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Writes a template. An attribute is written only where the next object differs from what the reader will
-// have at that point. Stage one writes everything with marker lines; stage two regroups it into header,
-// footer and data.
+// Writes a template as a chain of changes: the writer follows what a reader would know so far, and says nothing
+// twice. The text is first made in the order of the page, with marker lines, and then regrouped by section.
 #pragma once
 
 #include <optional>

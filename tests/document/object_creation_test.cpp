@@ -85,7 +85,7 @@ TEST_F(ObjectCreation, GivesEachKindItsGripsAndItsFreedom) {
       {ObjectKind::Barcode, "10101010", -1, -1, 0, 0, "L"},
       {ObjectKind::Qr, "10101010", -1, -1, 0, 0, "L"},
       {ObjectKind::Label, "11101110", -1, -1, 0, 0, "C"},
-      {ObjectKind::TextBox, "11101110", -1, -1, 0, 0, "L"},
+      {ObjectKind::TextBox, "11101110", -1, -1, -1, 0, "L"},
   };
   attributes.AttrAtg = 0;
   attributes.AttrAlign = "C";

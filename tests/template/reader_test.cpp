@@ -192,6 +192,45 @@ TEST(Reader, LosesTextThatNoBlockFollowsAndNotesIt) {
   EXPECT_EQ(outcome.Findings[0].Text, "Hello");
 }
 
+TEST(Reader, TellsWhereTheLostTextBegan) {
+  const ReadOutcome outcome = ReadLayout({"{100;}  Hello", "", "more"});
+  ASSERT_EQ(outcome.Findings.size(), 1U);
+  EXPECT_EQ(outcome.Findings[0].Line, 2U);
+  EXPECT_EQ(outcome.Findings[0].Column, 9U);
+}
+
+TEST(Reader, LooksAtABufferOfBlanksOnce) {
+  const std::string line = "}" + std::string(1000000, ' ') + std::string(1000000, '{');
+  EXPECT_THAT(LabelsOf({line}), IsEmpty());
+}
+
+TEST(Reader, NotesNumbersThatDoNotFitTheirField) {
+  const ReadOutcome outcome = ReadLayout({"{Spacing=99999999999;\\n}{W=99999}{c=70000,1,2}{BarHeight=1}"});
+  std::vector<std::string> found;
+  for (const Finding& finding : outcome.Findings) {
+    EXPECT_EQ(finding.Kind, FindingKind::ValueOutOfRange);
+    found.push_back(finding.Text);
+  }
+  EXPECT_THAT(found, ElementsAre("99999999999", "99999", "70000"));
+}
+
+TEST(Reader, NotesDelimitersThatNoSavedFileCanHave) {
+  const BuiltInMeasurer measurer;
+  NoPictures pictures;
+  const auto outcome = ReadTemplateBytes("Open=[\r\nClose=]\r\n[HEADER]\r\n", {measurer, pictures});
+  ASSERT_TRUE(outcome);
+  ASSERT_EQ(outcome->Findings.size(), 2U);
+  EXPECT_EQ(outcome->Findings[0].Text, "Open=[");
+  EXPECT_EQ(outcome->Findings[0].Line, 1U);
+}
+
+TEST(Reader, TakesALabelsPositionAsTheNumberAtItsStart) {
+  const ReadOutcome outcome = ReadLayout({"{100 + 50;}A{}", "{1 440;}B{}"});
+  const auto labels = RowsOfKind(outcome.Read, ObjectKind::Label);
+  EXPECT_EQ(labels[0]->XValue, "100");
+  EXPECT_EQ(labels[1]->XValue, "1440");
+}
+
 TEST(Reader, TakesTextOnToTheNextLine) {
   EXPECT_THAT(LabelsOf({"{100;}Hello", "{\\n}"}), ElementsAre("Hello"));
   EXPECT_THAT(LabelsOf({"{100;} one ", " two ", "{\\n}"}), ElementsAre("onetwo"));

@@ -109,6 +109,17 @@ TEST(Writer, OrdersSubsectionsByPlaceInsideTheirSection) {
   EXPECT_THAT(heads, ElementsAre("[HEADER]", "[FOOTER]", "[C]", "[DATA]", "[B]", "[A]"));
 }
 
+TEST(Writer, KeepsASectionThatStandsTwiceApart) {
+  ReadOutcome outcome = ReadLayout({"[DATA]", "{Spacing=300;\\n}", "{200;}B{}", "[X]", "{\\n}", "[DATA]",
+                                    "{Spacing=400;\\n}", "{400;}D{}"});
+  DeriveGeometry(outcome.Read);
+  std::vector<std::string> heads;
+  for (const std::string& line : FilledLines(WriteText(outcome.Read))) {
+    if (line.starts_with('[')) heads.push_back(line);
+  }
+  EXPECT_THAT(heads, ElementsAre("[HEADER]", "[FOOTER]", "[DATA]", "[X]", "[DATA]"));
+}
+
 TEST(Writer, PrintsHeightAndStartOfASubsection) {
   EXPECT_THAT(BodyOf({"{SubSectionHeight=9}", "{xy=0,1500}", "{Spacing=700;\\n}"}),
               ElementsAre("{SubSectionHeight=700}", "{xy=0,1500}", "{DEF}", "{Spacing=700;\\n}"));
@@ -380,7 +391,7 @@ TEST(Writer, MakesACleanStartBehindALabelWithAnOpenCharacter) {
               ElementsAre("{DEF}", "{F=Arial;S=10;C=0,0,0}", "{b=y}", "{10} a {b} c{}", "{DEF}", "{b=y}",
                           "{10} D{}"));
   const std::string text = Rewrite("[HEADER]\r\n{10;}a {b} c{}\r\n");
-  EXPECT_THAT(text, HasSubstr("  {10} a {b} c{}\r\n  {DEF}\r\n\r\n"));
+  EXPECT_THAT(text, HasSubstr("  {10} a {b} c{}\r\n  {DEF}\r\n[FOOTER]"));
 }
 
 // ---- zero
@@ -444,7 +455,7 @@ TEST(Writer, CommentsTheEndsOfSubsectionsAndTheCleanStart) {
   EXPECT_THAT(
       BodyOf({"{5;}a {b} c{}", "{\\n}", "{Spacing=100;\\P}"}, {true}),
       ElementsAre("{DEF}", "{Rem=All Default Values 18}", "{F=Arial;S=10;C=0,0,0}", "{MBeu}", "{5} a {b} c{}",
-                  "{DEF}", "{Rem=All default values 17}", "{\\n} {Rem=EndOfSubsection 20}",
+                  "{DEF} {Rem=All default values 17}", "{\\n} {Rem=EndOfSubsection 20}",
                   "{Spacing=100;\\P} {Rem=\\P to reach SUBSECTIONENDSAT}"));
 }
 

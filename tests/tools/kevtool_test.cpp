@@ -135,12 +135,13 @@ TEST_F(Kevtool, NamesWhatIsWrongWithLineAndColumn) {
          "bad.kev:2:0: key is repeated: KEXVER\n"
          "bad.kev:4:9: unknown key: Nonsense\n"
          "bad.kev:5:9: unknown column: $Gone\n"
-         "bad.kev:6:1: text is lost: lost\n",
+         "bad.kev:6:4: text is lost: lost\n",
          "");
 }
 
 TEST_F(Kevtool, ChecksEveryFileAlsoBehindARefusedOne) {
-  Expect({"check", "no.kev", "data.kev", "none.kev", "small.kev"}, 1, "small.kev: 10013\n",
+  Expect({"check", "no.kev", "data.kev", "none.kev", "small.kev"}, 1,
+         "no.kev: 00003\ndata.kev: 01013\nsmall.kev: 10013\n",
          "no.kev: no template: it has no [HEADER], [DATA] or [FOOTER] line\n"
          "data.kev: no template: it has no [HEADER] line\n"
          "none.kev: No such file or directory\n");
@@ -148,7 +149,7 @@ TEST_F(Kevtool, ChecksEveryFileAlsoBehindARefusedOne) {
 
 TEST_F(Kevtool, RefusesATemplateThatBreaksALimit) {
   WriteBytes(folder / "wide.kev", "[HEADER]\r\n{" + std::string(200, ';') + "}\r\n");
-  Expect({"check", "wide.kev"}, 1, "", "wide.kev: a text has more than 200 parts\n");
+  Expect({"check", "wide.kev"}, 1, "wide.kev: 10013\n", "wide.kev: a text has more than 200 parts\n");
 }
 
 // ---- dump

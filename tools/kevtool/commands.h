@@ -29,8 +29,11 @@ struct RenderChoice {
 };
 int Render(const RenderChoice& choice);
 
-// Reads a template as the designer opens one: what it refuses is refused here too, with the reason on
-// standard error.
-std::optional<ReadOutcome> Open(const std::string& file);
+struct Opened {
+  std::string Check;                   // the five characters; empty for a file that cannot be read
+  std::optional<ReadOutcome> Outcome;  // nothing when the file is refused; the reason is on standard error
+};
+// Reads a template as the designer opens one: what it refuses is refused here too.
+Opened Open(const std::string& file);
 
 }  // namespace kev::tool

@@ -6,12 +6,17 @@
 #include "commands.h"
 #include "document/object_fields.h"
 #include "document/sections.h"
-#include "template/template_check.h"
 
 namespace kev::tool {
 namespace {
 
 using Json = nlohmann::ordered_json;
+
+// A whole number is shown as one, as everywhere else.
+Json NumberToJson(double value) {
+  const auto whole = static_cast<std::int64_t>(std::abs(value) < 1e15 ? value : 0.5);
+  return static_cast<double>(whole) == value ? Json(whole) : Json(value);
+}
 
 class FieldToJson {
  public:
@@ -26,9 +31,7 @@ class FieldToJson {
   Json operator()(std::optional<double> ObjectRecord::*member) const {
     const auto& value = record_.*member;
     if (!value) return nullptr;
-    // A whole number is shown as one, as everywhere else.
-    const auto whole = static_cast<std::int64_t>(std::abs(*value) < 1e15 ? *value : 0.5);
-    return static_cast<double>(whole) == *value ? Json(whole) : Json(*value);
+    return NumberToJson(*value);
   }
   template <typename Number>
   Json operator()(Number ObjectRecord::*member) const {
@@ -39,11 +42,6 @@ class FieldToJson {
   const ObjectRecord& record_;
   const CodePage& page_;
 };
-
-Json NumberToJson(double value) {
-  const auto whole = static_cast<std::int64_t>(std::abs(value) < 1e15 ? value : 0.5);
-  return static_cast<double>(whole) == value ? Json(whole) : Json(value);
-}
 
 Json Settings(const Document& document) {
   Json settings = Json::object();
@@ -92,11 +90,11 @@ Json Objects(const Document& document) {
 }  // namespace
 
 int Dump(const std::string& file, bool geometry) {
-  std::optional<ReadOutcome> outcome = Open(file);
+  auto [check, outcome] = Open(file);
   if (!outcome) return kRefused;
   Document& document = outcome->Read;
   if (geometry) DeriveGeometry(document);
-  const Json dump = {{"check", CheckTemplate(file)},
+  const Json dump = {{"check", check},
                      {"settings", Settings(document)},
                      {"columns", Columns(document)},
                      {"objects", Objects(document)}};

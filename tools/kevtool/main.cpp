@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <CLI/CLI.hpp>
 #include <exception>
+#include <functional>
 #include <iostream>
+#include <memory>
 
 #include "commands.h"
 

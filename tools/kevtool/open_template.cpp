@@ -25,24 +25,27 @@ std::string_view RefusalReason(Refusal refusal) {
 
 }  // namespace
 
-std::optional<ReadOutcome> Open(const std::string& file) {
+Opened Open(const std::string& file) {
+  const auto refuse = [&file](std::string_view reason) { std::cerr << file << ": " << reason << '\n'; };
   const Result<std::string> bytes = ReadWholeFile(file);
   if (!bytes) {
-    std::cerr << file << ": " << bytes.Error().reason << '\n';
-    return std::nullopt;
+    refuse(bytes.Error().reason);
+    return {};
   }
-  if (const Refusal refusal = RefusalOf(CheckTemplateBytes(*bytes)); refusal != Refusal::None) {
-    std::cerr << file << ": " << RefusalReason(refusal) << '\n';
-    return std::nullopt;
+  Opened opened{CheckTemplateBytes(*bytes), std::nullopt};
+  if (const Refusal refusal = RefusalOf(opened.Check); refusal != Refusal::None) {
+    refuse(RefusalReason(refusal));
+    return opened;
   }
   const BuiltInMeasurer measurer;
   LocalPictures pictures(FolderOf(AbsolutePath(file)));
   Result<ReadOutcome> outcome = ReadTemplateBytes(*bytes, {measurer, pictures});
-  if (!outcome) {
-    std::cerr << file << ": " << outcome.Error().reason << '\n';
-    return std::nullopt;
+  if (outcome) {
+    opened.Outcome = std::move(*outcome);
+  } else {
+    refuse(outcome.Error().reason);
   }
-  return std::move(*outcome);
+  return opened;
 }
 
 }  // namespace kev::tool

@@ -6,7 +6,6 @@
 #include "document/position.h"
 #include "document/sections.h"
 #include "surface/visuals.h"
-#include "template/template_check.h"
 #include "template/writer.h"
 
 namespace kev::tool {
@@ -14,12 +13,12 @@ namespace kev::tool {
 int Check(const std::vector<std::string>& files) {
   int status = kGood;
   for (const std::string& file : files) {
-    const std::optional<ReadOutcome> outcome = Open(file);
+    const auto [check, outcome] = Open(file);
+    if (!check.empty()) std::cout << file << ": " << check << '\n';
     if (!outcome) {
       status = kRefused;
       continue;
     }
-    std::cout << file << ": " << CheckTemplate(file) << '\n';
     for (const Finding& finding : outcome->Findings) {
       std::cout << file << ':' << finding.Line << ':' << finding.Column << ": " << FindingText(finding.Kind)
                 << ": " << outcome->Read.Page->ToUtf8(finding.Text) << '\n';
@@ -30,7 +29,7 @@ int Check(const std::vector<std::string>& files) {
 }
 
 int Rewrite(const std::string& in, const std::string& out, bool comments) {
-  std::optional<ReadOutcome> outcome = Open(in);
+  std::optional<ReadOutcome> outcome = Open(in).Outcome;
   if (!outcome) return kRefused;
   // As on opening: the page is painted once between the two, and painting stores what it found out.
   DeriveGeometry(outcome->Read);
@@ -48,11 +47,16 @@ int Rewrite(const std::string& in, const std::string& out, bool comments) {
 }
 
 int Eval(const std::string& file, const std::string& expression) {
-  const std::optional<ReadOutcome> outcome = Open(file);
+  const std::optional<ReadOutcome> outcome = Open(file).Outcome;
   if (!outcome) return kRefused;
   const Document& document = outcome->Read;
-  const std::string text = document.Page->FromUtf8(expression).value_or(expression);
-  const std::optional<double> value = EvaluatePosition(text, document.Columns, *document.Page);
+  std::string missing;
+  const std::optional<std::string> text = document.Page->FromUtf8(expression, &missing);
+  if (!text) {
+    std::cerr << "kevtool: a template cannot hold the character " << missing << '\n';
+    return kWrongUsage;
+  }
+  const std::optional<double> value = EvaluatePosition(*text, document.Columns, *document.Page);
   std::cout << (value ? FormatNumber(*value) : std::string()) << '\n';
   return kGood;
 }

@@ -23,7 +23,7 @@ void OnlyErrors(QtMsgType type, const QMessageLogContext&, const QString& messag
 }  // namespace
 
 int Render(const RenderChoice& choice) {
-  std::optional<ReadOutcome> outcome = Open(choice.in);
+  std::optional<ReadOutcome> outcome = Open(choice.in).Outcome;
   if (!outcome) return kRefused;
   // No display is needed, whatever the environment says.
   qInstallMessageHandler(OnlyErrors);
