@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kMutations = 1500;
+constexpr int kMutations = 5000;
 constexpr std::size_t kLargestMutation = 8000;
 
 std::string ReadBytes(const fs::path& path) {
