@@ -139,7 +139,7 @@ void RowFiller::Section() {
 void RowFiller::Subsection() {
   const CodePage& page = *context_.document.Page;
   const std::string line(Trim(object_.title));
-  const bool isBase = page.Upper(line) == object_.sectionName && object_.sectionName != "[CONFIGURATION]";
+  const bool isBase = page.Upper(line) == object_.sectionName && object_.sectionName != kConfigurationSection;
   record_.SectionOwner = object_.sectionName;
   record_.SectionTitle = isBase ? object_.sectionName : object_.sectionName + " " + line;
   record_.SectionName = SectionNameOf(line, page);

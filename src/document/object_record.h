@@ -40,6 +40,9 @@ constexpr bool IsBand(ObjectKind kind) {
   return kind == ObjectKind::Section || kind == ObjectKind::Subsection || kind == ObjectKind::EndOfSubsection;
 }
 
+// The section that the bracketed lines above [HEADER] make.
+inline constexpr std::string_view kConfigurationSection = "[CONFIGURATION]";
+
 // A flag is 16 bits wide, -1 for true and 0 for false.
 using Flag = std::int16_t;
 inline constexpr Flag kTrue = -1;

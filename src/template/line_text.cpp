@@ -5,10 +5,6 @@
 
 namespace kev {
 
-Colour ColourOf(const ObjectRecord& record) {
-  return {record.ColorR, record.ColorG, record.ColorB};
-}
-
 std::string ColourText(const Colour& colour) {
   const std::string red = std::to_string(colour.Red);
   if (colour.Green == -1 && colour.Blue == -1) return red;

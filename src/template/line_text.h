@@ -10,7 +10,6 @@
 
 namespace kev {
 
-Colour ColourOf(const ObjectRecord& record);
 // "4" for an index into the basic colours, else "255,128,0".
 std::string ColourText(const Colour& colour);
 // "W=2;"; for a width of 1 the separator stands in front: ";W=1;".

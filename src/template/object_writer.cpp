@@ -6,6 +6,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "chart/definition.h"
+#include "document/colours.h"
 #include "template/line_text.h"
 #include "template/writer_tables.h"
 
@@ -123,7 +124,7 @@ void ObjectWriter::FirstLabelLine() {
     if (label.Kind != ObjectKind::Label) continue;
     state_.FontName = label.FontName;
     state_.Size = label.FontSize;
-    state_.Color = ColourOf(label);
+    state_.Color = TextColourOf(label);
     BlockLine("F=" + label.FontName + ";S=" + Number(label.FontSize) + ";C=" + ColourText(state_.Color),
               kPlain);
     return;
@@ -194,7 +195,7 @@ void ObjectWriter::VerticalStep(const ObjectRecord& record) {
 }
 
 void ObjectWriter::ColourStep(const ObjectRecord& record) {
-  const Colour colour = ColourOf(record);
+  const Colour colour = TextColourOf(record);
   if (colour == state_.Color) return;
   state_.Color = colour;
   BlockLine("c=" + ColourText(colour), kPlain);
@@ -320,7 +321,7 @@ void ObjectWriter::Label(const ObjectRecord& record) {
 
 void ObjectWriter::LabelAttributes(const ObjectRecord& record) {
   std::string items;
-  const Colour colour = ColourOf(record);
+  const Colour colour = TextColourOf(record);
   if (colour != state_.Color) items += "c=" + ColourText(colour) + ";";
   if (record.FontName != state_.FontName) items += "f=" + record.FontName + ";";
   if (record.CharSet != state_.CharSet) items += "cs=" + record.CharSet + ";";

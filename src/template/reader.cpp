@@ -64,7 +64,6 @@ void ReaderState::NoteDanglingColumns(const ObjectRecord& record) {
 namespace {
 
 constexpr std::string_view kHeader = "[HEADER]";
-constexpr std::string_view kConfiguration = "[CONFIGURATION]";
 
 std::string_view WithoutLeadingTabs(std::string_view line) {
   while (line.starts_with('\t'))
@@ -208,7 +207,7 @@ void TemplateReader::AddColumn(std::string_view line) {
 void TemplateReader::AddPreambleBlock(std::string_view line) {
   NewObject bar;
   bar.kind = ObjectKind::Subsection;
-  bar.sectionName = kConfiguration;
+  bar.sectionName = kConfigurationSection;
   bar.title = line;
   state_.Add(bar);
   CloseSubsection();

@@ -17,8 +17,6 @@
 namespace kev {
 namespace {
 
-constexpr std::string_view kConfiguration = "[CONFIGURATION]";
-
 // What stands behind the first blank of the title: the head line as the file had it.
 std::string_view HeadLine(const ObjectRecord& bar) {
   const std::size_t blank = bar.SectionTitle.find(kBlank);
@@ -27,7 +25,7 @@ std::string_view HeadLine(const ObjectRecord& bar) {
 }
 
 bool IsConfiguration(const ObjectRecord& bar, const CodePage& page) {
-  return page.EqualsIgnoringCase(Trim(NthToken(bar.SectionTitle, 1, kBlank)), kConfiguration);
+  return page.EqualsIgnoringCase(Trim(NthToken(bar.SectionTitle, 1, kBlank)), kConfigurationSection);
 }
 
 class TemplateWriter {
@@ -125,7 +123,8 @@ std::vector<TemplateWriter::Bar> TemplateWriter::CollectBars() const {
   return bars;
 }
 
-// Rows are written with the bar that owns them. An orphan is written with the bar above, so that it is not lost.
+// Rows are written with the bar that owns them. An orphan is written with the bar above, so that it is not
+// lost.
 void TemplateWriter::DistributeRows(std::vector<Bar>& bars) const {
   if (bars.empty()) return;
   const OwnerIndex index(document_);
