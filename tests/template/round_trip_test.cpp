@@ -7,7 +7,6 @@
 #include <clocale>
 #include <locale>
 #include <map>
-#include <set>
 
 #include "chart/definition.h"
 #include "document/object_fields.h"
@@ -55,13 +54,10 @@ std::map<std::pair<std::string, std::string>, int> CountedRows(const Document& d
 }
 
 // A row above its body is written without a step and comes back at the top of it, where its X decides on its
-// place; base subsections of one section come back as one. Then the text settles one save later.
+// place. Then the text settles one save later.
 bool SettlesLate(const Document& document) {
-  std::set<std::string> bases;
   for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    const ObjectRecord& record = document.Objects[row];
-    const bool isBase = record.Kind == ObjectKind::Subsection && record.SectionTitle == record.SectionOwner;
-    if (record.Y < 0 || (isBase && !bases.insert(record.SectionOwner).second)) return true;
+    if (document.Objects[row].Y < 0) return true;
   }
   return false;
 }

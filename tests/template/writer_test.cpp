@@ -109,6 +109,16 @@ TEST(Writer, OrdersSubsectionsByPlaceInsideTheirSection) {
   EXPECT_THAT(heads, ElementsAre("[HEADER]", "[FOOTER]", "[C]", "[DATA]", "[B]", "[A]"));
 }
 
+TEST(Writer, KeepsASecondBaseSubsectionApart) {
+  const Document read =
+      ReadText(Rewrite("[HEADER]\r\n{\\n}\r\n[HEADER]\r\n{Spacing=500;\\n}\r\n[DATA]\r\n")).Read;
+  std::vector<std::int32_t> heights;
+  for (const ObjectRecord* bar : RowsOfKind(read, ObjectKind::Subsection)) {
+    if (bar->SectionTitle == "[HEADER]") heights.push_back(bar->EndsAt);
+  }
+  EXPECT_THAT(heights, ElementsAre(200, 500));
+}
+
 TEST(Writer, KeepsASectionThatStandsTwiceApart) {
   ReadOutcome outcome = ReadLayout({"[DATA]", "{Spacing=300;\\n}", "{200;}B{}", "[X]", "{\\n}", "[DATA]",
                                     "{Spacing=400;\\n}", "{400;}D{}"});
