@@ -23,6 +23,7 @@
 #include "base/host.h"
 #include "document/document.h"
 #include "document/object_creation.h"
+#include "surface/visuals.h"
 #include "template/reader.h"
 #include "template/sample_copy.h"
 #include "template/writer.h"
@@ -38,9 +39,6 @@ inline constexpr std::string_view kFreshTitle = "Noname.kev";
 // Percent. A zoom outside is refused.
 inline constexpr double kSmallestZoom = 10;
 inline constexpr double kLargestZoom = 800;
-
-// Which of the objects the page shows.
-enum class PageFilter : std::uint8_t { All, ModifiableByEndUser, PrintedOnly };
 
 // What the window does when the document has changed under it. The window implements it; every call comes
 // from the one thread, and none before AttachView.
@@ -161,7 +159,8 @@ class Designer {
   std::optional<std::string> PictureFileOnDisk(std::string_view pictureFile) const;
   bool Modified() const { return modified_; }
   double ZoomFactor() const { return zoomPercent_ / 100; }
-  PageFilter Filter = PageFilter::All;
+  // Which of the objects the page shows.
+  DisplayFilter Filter = DisplayFilter::All;
   // Of the last read or save.
   const std::vector<Finding>& Findings() const { return findings_; }
 

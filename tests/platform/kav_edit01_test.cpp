@@ -226,12 +226,12 @@ TEST_F(KavEdit01Test, TheZoomMenuAndTheBoxAgree) {
 TEST_F(KavEdit01Test, PageFiltersExcludeEachOther) {
   Start();
   Trigger("see_ebeu");
-  EXPECT_EQ(designer->Filter, PageFilter::ModifiableByEndUser);
+  EXPECT_EQ(designer->Filter, DisplayFilter::Ebeu);
   EXPECT_FALSE(Find<QAction>("seeall").isChecked());
   Trigger("see_printnoprint");
-  EXPECT_EQ(designer->Filter, PageFilter::PrintedOnly);
+  EXPECT_EQ(designer->Filter, DisplayFilter::Print);
   Trigger("seeall");
-  EXPECT_EQ(designer->Filter, PageFilter::All);
+  EXPECT_EQ(designer->Filter, DisplayFilter::All);
   EXPECT_FALSE(Find<QAction>("see_printnoprint").isChecked());
 }
 

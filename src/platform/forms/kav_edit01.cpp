@@ -217,13 +217,13 @@ void KavEdit01::Run(Command command) {
       close();
       break;
     case Command::SeeAll:
-      ShowFilter(PageFilter::All);
+      ShowFilter(DisplayFilter::All);
       break;
     case Command::SeeModifiable:
-      ShowFilter(PageFilter::ModifiableByEndUser);
+      ShowFilter(DisplayFilter::Ebeu);
       break;
     case Command::SeePrinted:
-      ShowFilter(PageFilter::PrintedOnly);
+      ShowFilter(DisplayFilter::Print);
       break;
     case Command::DrawGrid:
       page_.SetDrawGrid(!page_.DrawGrid());
@@ -238,7 +238,7 @@ void KavEdit01::Run(Command command) {
   }
 }
 
-void KavEdit01::ShowFilter(PageFilter filter) {
+void KavEdit01::ShowFilter(DisplayFilter filter) {
   designer_.Filter = filter;
   RedrawDocument();
 }

@@ -61,7 +61,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void PlaceOnScreen();
   void Activate();
   void ShowSplash();
-  void ShowFilter(PageFilter filter);
+  void ShowFilter(DisplayFilter filter);
   void OnZoomWheel(int steps, const QPointF& viewportPoint);
   void OpenDocumentation();
   void EndRun();
