@@ -30,7 +30,7 @@ void PageView::Redraw() {
                        list_,
                        designer_.Measurer(),
                        designer_.ZoomFactor(),
-                       designer_.Filter,
+                       designer_.Filter(),
                        0,
                        WorkImages{designer_.Folders().TempFolder, designer_.SessionNumber()}};
   const PaintResult painted = PaintPage(context, drawGrid_, SetSortKeys(document));

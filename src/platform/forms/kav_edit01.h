@@ -30,8 +30,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   ~KavEdit01() override;
 
   void Run(Command command);
-  // Ends the program without a question: the session is being ended and nobody answers. Unsaved work stays
-  // where recovery finds it.
+  // Ends the program without a question or a message, also while one is open: the session is being ended and
+  // nobody answers. Unsaved work stays where recovery finds it.
   void EndWithoutAsking();
 
   void DocumentReplaced() override;
@@ -61,10 +61,13 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void PlaceOnScreen();
   void Activate();
   void ShowSplash();
+  void Dispatch(Command command);
   void ShowFilter(DisplayFilter filter);
+  void ToggleGrid();
+  void SetZoom(const QString& text);
+  void CloseIfWanted();
   void OnZoomWheel(int steps, const QPointF& viewportPoint);
   void OpenDocumentation();
-  void EndRun();
 
   Designer& designer_;
   QtHost& host_;
@@ -76,6 +79,10 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   FindingsDock* findings_ = nullptr;
   ProgressWindow* progress_ = nullptr;
   bool ended_ = false;
+  // The question of a close is open.
+  bool closing_ = false;
+  // A close was asked for while something else had to be answered first.
+  bool closeWanted_ = false;
 };
 
 }  // namespace kev
