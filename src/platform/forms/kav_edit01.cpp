@@ -195,11 +195,7 @@ void KavEdit01::ShowSplash() {
 void KavEdit01::closeEvent(QCloseEvent* event) {
   if (ended_) return event->accept();
   event->ignore();
-  // What is open is answered first; only the question of this close itself is not asked twice.
-  if (closing_ || QApplication::activeModalWidget() != nullptr) {
-    closeWanted_ = !closing_;
-    return;
-  }
+  if (DelayClose()) return;
   closing_ = true;
   bool may = false;
   designer_.GuardedView([&] { may = designer_.MayClose(); });
@@ -208,6 +204,13 @@ void KavEdit01::closeEvent(QCloseEvent* event) {
   ended_ = true;
   designer_.GuardedView([this] { designer_.ShutDown(); });
   event->accept();
+}
+
+// What is open is answered first; only the question of a close itself is not asked twice.
+bool KavEdit01::DelayClose() {
+  if (QApplication::activeModalWidget() == nullptr) return closing_;
+  closeWanted_ = !closing_;
+  return true;
 }
 
 void KavEdit01::CloseIfWanted() {

@@ -7,6 +7,7 @@
 
 #include "app/commands.h"
 #include "app/designer.h"
+#include "platform/close_requests.h"
 #include "platform/page_view.h"
 #include "platform/qt_host.h"
 
@@ -65,6 +66,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowFilter(DisplayFilter filter);
   void ToggleGrid();
   void SetZoom(const QString& text);
+  bool DelayClose();
   void CloseIfWanted();
   void OnZoomWheel(int steps, const QPointF& viewportPoint);
   void OpenDocumentation();
@@ -83,6 +85,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   bool closing_ = false;
   // A close was asked for while something else had to be answered first.
   bool closeWanted_ = false;
+  CloseRequests closeRequests_{*this, [this] { DelayClose(); }};
 };
 
 }  // namespace kev
