@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <exception>
+#include <iostream>
 #include <new>
+#include <utility>
 
 #include "app/image_size.h"
 #include "app/text_numbers.h"
@@ -28,6 +30,18 @@ void FitPicture(ObjectRecord& record, const TextExtent& own) {
   const bool fixedHeight = record.PictureFixedHeight != kFalse;
   if (!fixedWidth) record.Width = ToInt32(fixedHeight ? record.Height * own.Width / own.Height : own.Width);
   if (!fixedHeight) record.Height = ToInt32(fixedWidth ? record.Width * own.Height / own.Width : own.Height);
+}
+
+// Why the work failed; nothing when it did not.
+std::optional<std::string> FailureOf(const std::function<void()>& work) {
+  try {
+    work();
+    return std::nullopt;
+  } catch (const std::bad_alloc&) {
+    return "out of memory";
+  } catch (const std::exception& failure) {
+    return failure.what();
+  }
 }
 
 }  // namespace
@@ -89,18 +103,23 @@ void Designer::DeriveGeometryAndRedraw() {
 
 bool Designer::Guarded(const GuardedWork& work, const std::function<void()>& body) {
   std::optional<Kept> kept;
-  std::string reason;
-  try {
+  const std::optional<std::string> failure = FailureOf([&] {
     kept.emplace(document_);
     body();
-    return true;
-  } catch (const std::bad_alloc&) {
-    reason = "out of memory";
-  } catch (const std::exception& failure) {
-    reason = failure.what();
-  }
+  });
+  if (!failure) return true;
   if (kept) PutBack(std::move(*kept));
-  TellFailure(work, reason);
+  TellFailure(work, *failure);
+  return false;
+}
+
+bool Designer::GuardedView(const GuardedWork& work, const std::function<void()>& body,
+                           const std::function<void()>& takeBack) {
+  const std::optional<std::string> failure = FailureOf(body);
+  if (!failure) return true;
+  // The first failure is the one to be told.
+  if (takeBack) static_cast<void>(FailureOf(takeBack));
+  TellFailure(work, *failure);
   return false;
 }
 
@@ -124,9 +143,14 @@ void Designer::TellFailure(const GuardedWork& work, const std::string& reason) {
   } catch (const std::exception&) {
     // Painting may be what failed; the message below is about that then.
   }
-  if (work.Message == kTextReadFailed) return TellReadFailure(work.Path, reason);
-  ShowText(work.Message == 0 ? kTextOperationFailed : work.Message, BoxIcon::Critical,
-           work.Path.empty() ? reason : work.Path + "\r\n" + reason);
+  try {
+    if (work.Message == kTextReadFailed) return TellReadFailure(work.Path, reason);
+    ShowText(work.Message == 0 ? kTextOperationFailed : work.Message, BoxIcon::Critical,
+             work.Path.empty() ? reason : work.Path + "\r\n" + reason);
+  } catch (const std::exception&) {
+    // Not even a box could be had.
+    std::cerr << "kev: " << reason << '\n';
+  }
 }
 
 void Designer::MarkModified() {
@@ -140,12 +164,31 @@ void Designer::ShowCaption() {
 
 bool Designer::SetZoom(std::string_view text) {
   const double percent = NumericPrefix(text);
+  const double before = zoomPercent_;
   const bool good = percent >= kSmallestZoom && percent <= kLargestZoom;
-  if (good) zoomPercent_ = percent;
-  if (view_ == nullptr) return good;
-  view_->ShowZoom(FormatNumber(zoomPercent_) + "%");
-  if (good) view_->RedrawDocument();
-  return good;
+  const auto show = [this] {
+    if (view_ != nullptr) view_->ShowZoom(FormatNumber(zoomPercent_) + "%");
+  };
+  const auto change = [&] {
+    if (good) zoomPercent_ = percent;
+    show();
+    if (view_ != nullptr && zoomPercent_ != before) view_->RedrawDocument();
+  };
+  return GuardedView(change,
+                     [&] {
+                       zoomPercent_ = before;
+                       show();
+                     }) &&
+         good;
+}
+
+bool Designer::SetFilter(DisplayFilter filter) {
+  const DisplayFilter before = std::exchange(filter_, filter);
+  return GuardedView(
+      [this] {
+        if (view_ != nullptr) view_->RedrawDocument();
+      },
+      [&] { filter_ = before; });
 }
 
 void Designer::SetFindings(std::vector<Finding> findings) {

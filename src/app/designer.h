@@ -23,6 +23,7 @@
 #include "base/host.h"
 #include "document/document.h"
 #include "document/object_creation.h"
+#include "surface/visuals.h"
 #include "template/reader.h"
 #include "template/sample_copy.h"
 #include "template/writer.h"
@@ -38,9 +39,6 @@ inline constexpr std::string_view kFreshTitle = "Noname.kev";
 // Percent. A zoom outside is refused.
 inline constexpr double kSmallestZoom = 10;
 inline constexpr double kLargestZoom = 800;
-
-// Which of the objects the page shows.
-enum class PageFilter : std::uint8_t { All, ModifiableByEndUser, PrintedOnly };
 
 // What the window does when the document has changed under it. The window implements it; every call comes
 // from the one thread, and none before AttachView.
@@ -118,8 +116,10 @@ class Designer {
   bool MayClose() { return AskToSave(); }
   // After the window has closed: writes the options, deletes the working files of this run.
   void ShutDown();
-  // Takes effect at the next start.
-  void ChooseLanguage(char letter);
+  // The same where nobody is there to read a box: what could not be written is returned and not shown.
+  std::optional<FileFailure> ShutDownSilently();
+  // Takes effect at the next start. False when it could not be stored: the message was shown.
+  bool ChooseLanguage(char letter);
 
   // --- Around every change ---------------------------------------------------------------------------------
   // Geometry chain, redraw, chain, redraw of what moved.
@@ -128,10 +128,20 @@ class Designer {
   // what could not be done and why, and the result is false. Guards may nest; the innermost one acts.
   bool Guarded(const GuardedWork& work, const std::function<void()>& body);
   bool Guarded(const std::function<void()>& body) { return Guarded({}, body); }
+  // For work that leaves the rows alone, or guards its own change of them: nothing is copied. What the work
+  // changed elsewhere, `takeBack` undoes.
+  bool GuardedView(const GuardedWork& work, const std::function<void()>& body,
+                   const std::function<void()>& takeBack);
+  bool GuardedView(const std::function<void()>& body, const std::function<void()>& takeBack = {}) {
+    return GuardedView(GuardedWork{}, body, takeBack);
+  }
   // Sets `Modified` and the caption.
   void MarkModified();
-  // A typed or chosen percentage. Below 10 or above 800 the old one is put back and the result is false.
+  // A typed or chosen percentage. Below 10 or above 800, or where the page can't be painted with it, the old
+  // one is put back and the result is false. The one in force is taken without painting.
   bool SetZoom(std::string_view text);
+  // False when the page can't be painted with it: the old one is put back.
+  bool SetFilter(DisplayFilter filter);
 
   // --- What it owns ----------------------------------------------------------------------------------------
   Document& OpenDocument() { return document_; }
@@ -161,7 +171,8 @@ class Designer {
   std::optional<std::string> PictureFileOnDisk(std::string_view pictureFile) const;
   bool Modified() const { return modified_; }
   double ZoomFactor() const { return zoomPercent_ / 100; }
-  PageFilter Filter = PageFilter::All;
+  // Which of the objects the page shows.
+  DisplayFilter Filter() const { return filter_; }
   // Of the last read or save.
   const std::vector<Finding>& Findings() const { return findings_; }
 
@@ -175,13 +186,14 @@ class Designer {
 
   void DecideTemplate();
   void TellMissingFolders();
-  void WriteLastRunOptions();
+  std::optional<FileFailure> WriteLastRunOptions();
   void RefuseMissing(const std::string& path, OpenedFrom from);
   void TellReadFailure(const std::string& path, const std::string& reason);
   bool Refuse(const std::string& path, std::string_view bytes);
   // Reads and adopts; an empty path makes a fresh document.
   bool ReadAndAdopt(const std::string& path, std::string_view bytes);
-  void Adopt(ReadOutcome outcome, const std::string& path);
+  void Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept;
+  void ShowAdopted(std::vector<Finding> findings);
   bool SaveTo(const std::string& path);
   std::optional<std::string> ChooseTarget();
   void CheckSaved(const std::string& path, const std::string& oldFolder);
@@ -212,6 +224,7 @@ class Designer {
   std::string documentTitle_{kFreshTitle};
   std::vector<Finding> findings_;
   double zoomPercent_ = 100;
+  DisplayFilter filter_ = DisplayFilter::All;
   int session_ = 0;
   char language_ = 'E';
   bool modified_ = false;

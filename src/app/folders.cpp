@@ -24,6 +24,22 @@ std::string FirstOf(const Environment& environment, const std::array<std::string
   return {};
 }
 
+constexpr std::string_view kLanguageKey = "ACTIVELANG";
+
+// The text with its first line of the key replaced; the line goes before all others where there is none,
+// since only the first lines of a file are looked at.
+std::string WithLanguage(std::string_view bytes, char letter) {
+  const std::size_t number = KeyFile(bytes).Line(kLanguageKey);
+  std::string_view rest = bytes;
+  for (std::size_t line = 1; line < number; ++line)
+    TakeLine(rest);
+  const std::string_view before = bytes.substr(0, bytes.size() - rest.size());
+  if (number != 0) TakeLine(rest);
+  std::string text(before);
+  text.append(kLanguageKey).append("=").append(1, letter).append("\r\n");
+  return text.append(rest);
+}
+
 }  // namespace
 
 Environment ProcessEnvironment() {
@@ -52,14 +68,18 @@ std::string ExecutableFolder() {
 
 char FindActiveLanguage(const DesignerFolders& folders) {
   for (const std::string& folder : {folders.DataFolder, folders.ProgramFolder}) {
-    const std::string letter = ReadKey(JoinPath(folder, kLanguageSwitch), "ACTIVELANG");
+    const std::string letter = ReadKey(JoinPath(folder, kLanguageSwitch), kLanguageKey);
     if (!letter.empty()) return CodePage::Default().Upper(letter.front());
   }
   return 'E';
 }
 
 std::optional<FileFailure> WriteActiveLanguage(const DesignerFolders& folders, char letter) {
-  return WriteWholeFile(InDataFolder(folders, kLanguageSwitch), std::string("ACTIVELANG=") + letter + "\r\n");
+  const std::string path = InDataFolder(folders, kLanguageSwitch);
+  const Result<std::string> bytes = ReadWholeFile(path);
+  // What can't be read can't be kept either.
+  if (!bytes && FileExists(path)) return bytes.Error();
+  return WriteWholeFile(path, WithLanguage(bytes ? *bytes : std::string(), letter));
 }
 
 std::vector<std::string> MissingFolders(const DesignerFolders& folders) {

@@ -31,7 +31,7 @@ std::string ExecutableFolder();
 // The letter of the language in force: `\activelang` in DataFolder, then the one beside the executable, then
 // "E".
 char FindActiveLanguage(const DesignerFolders& folders);
-// For the next start: into `\activelang` of DataFolder.
+// For the next start: into `\activelang` of DataFolder. Only its line changes; the others stay.
 std::optional<FileFailure> WriteActiveLanguage(const DesignerFolders& folders, char letter);
 
 // Those of the expected folders that are not there.

@@ -92,31 +92,43 @@ bool Designer::Refuse(const std::string& path, std::string_view bytes) {
 bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes) {
   pictures_.SetTemplateFolder(path.empty() ? folders_.TempFolder : FolderOf(path));
   bool adopted = false;
-  const bool finished = Guarded({kTextReadFailed, path}, [&] {
+  std::vector<Finding> findings;
+  // The open document is not touched until the new one is there as a whole, so that nothing is to be kept.
+  const auto read = [&] {
     HostProgress progress(host_, texts_);
     // A fresh document is there at once; what the status line says about another file stays.
     Result<ReadOutcome> outcome = ReadTemplateBytes(bytes, Services(path.empty() ? nullptr : &progress));
     progress.End();
     if (!outcome) return TellReadFailure(path, outcome.Error().reason);
-    Adopt(std::move(*outcome), path);
+    findings.swap(outcome->Findings);
+    Adopt(std::move(*outcome), path, path.empty() ? std::string(kFreshTitle) : FileNameOf(path));
     adopted = true;
-  });
-  if (!adopted) pictures_.SetTemplateFolder(TemplateFolder());
-  return finished && adopted;
+  };
+  GuardedView({kTextReadFailed, path}, read, {});
+  if (adopted) {
+    GuardedView([&] { ShowAdopted(std::move(findings)); });
+  } else {
+    pictures_.SetTemplateFolder(TemplateFolder());
+  }
+  return adopted;
 }
 
-void Designer::Adopt(ReadOutcome outcome, const std::string& path) {
+// Moves only: half of a document never stands in the tables.
+void Designer::Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept {
   document_ = std::move(outcome.Read);
   attributes_ = std::move(outcome.Attributes);
   cursor_ = {};
-  documentPath_ = path;
-  documentTitle_ = path.empty() ? std::string(kFreshTitle) : FileNameOf(path);
+  documentPath_ = std::move(path);
+  documentTitle_ = std::move(title);
   modified_ = false;
   documentShown_ = true;
+}
+
+void Designer::ShowAdopted(std::vector<Finding> findings) {
   ShowCaption();
   if (view_ != nullptr) view_->DocumentReplaced();
-  SetFindings(std::move(outcome.Findings));
-  Guarded([this] { DeriveGeometryAndRedraw(); });
+  SetFindings(std::move(findings));
+  DeriveGeometryAndRedraw();
 }
 
 bool Designer::OpenFresh(std::string_view bytes) {
@@ -219,7 +231,7 @@ bool Designer::SaveTo(const std::string& path) {
 
 // The file is there; whatever is found now only tells about it.
 void Designer::CheckSaved(const std::string& path, const std::string& oldFolder) {
-  Guarded([&] {
+  GuardedView([&] {
     ReadBack back = ReadBackFrom(path);
     const bool same = back.Same();
     const std::vector<Finding> missing = LostPictures(document_, oldFolder, FolderOf(path));

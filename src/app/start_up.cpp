@@ -94,23 +94,32 @@ void Designer::DecideTemplate() {
 }
 
 void Designer::ShutDown() {
-  // A run that ends while it starts must not replace the user's options by the defaults.
-  if (optionsRead_) WriteLastRunOptions();
-  DeleteSampleCopies(folders_.DataFolder);
-  samples_.Delete();
-}
-
-void Designer::WriteLastRunOptions() {
-  const auto failure = SaveOptions(InDataFolder(folders_, kLastRunFile), options_);
-  // A folder that is missing altogether was told at the start.
-  if (failure && FolderExists(folders_.DataFolder))
+  if (const auto failure = ShutDownSilently())
     ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
 }
 
-void Designer::ChooseLanguage(char letter) {
-  if (const auto failure = WriteActiveLanguage(folders_, letter))
-    return ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
+std::optional<FileFailure> Designer::ShutDownSilently() {
+  std::optional<FileFailure> failure = WriteLastRunOptions();
+  DeleteSampleCopies(folders_.DataFolder);
+  samples_.Delete();
+  return failure;
+}
+
+std::optional<FileFailure> Designer::WriteLastRunOptions() {
+  // A run that ends while it starts must not replace the user's options by the defaults.
+  if (!optionsRead_) return std::nullopt;
+  std::optional<FileFailure> failure = SaveOptions(InDataFolder(folders_, kLastRunFile), options_);
+  // A folder that is missing altogether was told at the start.
+  return FolderExists(folders_.DataFolder) ? failure : std::nullopt;
+}
+
+bool Designer::ChooseLanguage(char letter) {
+  if (const auto failure = WriteActiveLanguage(folders_, letter)) {
+    ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
+    return false;
+  }
   ShowText(kTextLanguageAtNextStart, BoxIcon::Information);
+  return true;
 }
 
 }  // namespace kev

@@ -449,5 +449,6 @@ inline constexpr int kTextStop = 1231;
 inline constexpr int kTextReadBackDiffers = 1232;
 inline constexpr int kTextQuickNoDataFile = 1233;
 inline constexpr int kTextRelativePicturesMissing = 1234;
+inline constexpr int kTextDocumentationNotOpened = 1235;
 
 }  // namespace kev

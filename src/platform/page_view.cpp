@@ -10,22 +10,6 @@
 
 namespace kev {
 
-namespace {
-
-DisplayFilter ShownBy(PageFilter filter) {
-  switch (filter) {
-    case PageFilter::All:
-      return DisplayFilter::All;
-    case PageFilter::ModifiableByEndUser:
-      return DisplayFilter::Ebeu;
-    case PageFilter::PrintedOnly:
-      return DisplayFilter::Print;
-  }
-  return DisplayFilter::All;
-}
-
-}  // namespace
-
 PageView::PageView(Designer& designer, FontCache& fonts, ImageCache& images, QWidget* parent)
     : designer_(designer),
       fonts_(fonts),
@@ -46,7 +30,7 @@ void PageView::Redraw() {
                        list_,
                        designer_.Measurer(),
                        designer_.ZoomFactor(),
-                       ShownBy(designer_.Filter),
+                       designer_.Filter(),
                        0,
                        WorkImages{designer_.Folders().TempFolder, designer_.SessionNumber()}};
   const PaintResult painted = PaintPage(context, drawGrid_, SetSortKeys(document));

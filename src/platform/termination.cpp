@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QSocketNotifier>
 #include <array>
 #include <csignal>
@@ -25,20 +26,28 @@ void TellLoop(int /*signal*/) {
 
 }  // namespace
 
-TerminationWatch::TerminationWatch(std::function<void()> onTermination, QObject* parent) : QObject(parent) {
+TerminationWatch::TerminationWatch(std::function<void()> onTermination, QObject* parent)
+    : QObject(parent), onTermination_(std::move(onTermination)) {
+  QCoreApplication::instance()->installEventFilter(this);
   std::array<int, 2> ends{};
   if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
   readEnd_ = ends[0];
   writeEnd = ends[1];
   auto* notifier = new QSocketNotifier(readEnd_, QSocketNotifier::Read, this);
-  connect(notifier, &QSocketNotifier::activated, this, [this, act = std::move(onTermination)] {
+  connect(notifier, &QSocketNotifier::activated, this, [this] {
     std::array<char, 16> bytes{};
     while (read(readEnd_, bytes.data(), bytes.size()) > 0) {
     }
-    act();
+    onTermination_();
   });
   for (const int signal : kSignals)
     std::signal(signal, TellLoop);
+}
+
+bool TerminationWatch::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::Quit || watched != QCoreApplication::instance()) return false;
+  onTermination_();
+  return true;
 }
 
 TerminationWatch::~TerminationWatch() {

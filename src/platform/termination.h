@@ -2,6 +2,7 @@
 // Turns the system's wish to end the process into a call from the event loop, where everything may be done.
 #pragma once
 
+#include <QEvent>
 #include <QObject>
 #include <functional>
 
@@ -15,7 +16,11 @@ class TerminationWatch final : public QObject {
   explicit TerminationWatch(std::function<void()> onTermination, QObject* parent = nullptr);
   ~TerminationWatch() override;
 
+  // The session's own way of ending a program: the desktop has it quit, and no signal comes.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  std::function<void()> onTermination_;
   int readEnd_ = -1;
 };
 

@@ -90,7 +90,56 @@ TEST_F(Guard, PaintingThatFailsEndsInOneMessage) {
   EXPECT_EQ(host_.Messages.size(), 1U);
 }
 
+TEST_F(Guard, WorkOnTheViewIsTakenBackByItsOwnStep) {
+  const auto designer = Start();
+  bool changed = false;
+  const auto change = [&] {
+    changed = true;
+    designer->OpenDocument().Objects[1].Content = "painted";
+    throw std::bad_alloc();
+  };
+  EXPECT_FALSE(designer->GuardedView(change, [&] { changed = false; }));
+  EXPECT_FALSE(changed);
+  // Nothing was copied, so nothing is put back.
+  EXPECT_EQ(designer->OpenDocument().Objects[1].Content, "painted");
+  EXPECT_EQ(host_.Messages.at(0).Detail, "out of memory");
+  ExpectMessage(*designer, kTextOperationFailed);
+}
+
+TEST_F(Guard, AFilterThatCannotBePaintedIsTakenBack) {
+  const auto designer = Start();
+  view_.OnRedraw = [&] {
+    if (designer->Filter() == DisplayFilter::Print) throw std::out_of_range("no such row");
+  };
+  EXPECT_FALSE(designer->SetFilter(DisplayFilter::Print));
+  EXPECT_EQ(designer->Filter(), DisplayFilter::All);
+  EXPECT_EQ(host_.Messages.size(), 1U);
+  EXPECT_TRUE(designer->SetFilter(DisplayFilter::Ebeu));
+  EXPECT_EQ(designer->Filter(), DisplayFilter::Ebeu);
+}
+
 class Zoom : public test::DesignerTest {};
+
+TEST_F(Zoom, OneThatCannotBePaintedIsPutBack) {
+  const auto designer = Start();
+  view_.OnRedraw = [&] {
+    if (designer->ZoomFactor() > 1) throw std::bad_alloc();
+  };
+  EXPECT_FALSE(designer->SetZoom("150"));
+  EXPECT_EQ(designer->ZoomFactor(), 1.0);
+  EXPECT_EQ(view_.Zoom, "100%");
+  ExpectMessage(*designer, kTextOperationFailed);
+}
+
+TEST_F(Zoom, TheOneInForceIsShownAndNotPaintedAgain) {
+  const auto designer = Start();
+  ASSERT_TRUE(designer->SetZoom("133"));
+  const int redrawn = view_.Redrawn;
+  view_.Zoom.clear();
+  EXPECT_TRUE(designer->SetZoom("133.0"));
+  EXPECT_EQ(view_.Zoom, "133%");
+  EXPECT_EQ(view_.Redrawn, redrawn);
+}
 
 TEST_F(Zoom, AnyNumberInTheBoundsWorks) {
   const auto designer = Start();

@@ -5,6 +5,7 @@
 
 #include <map>
 
+#include "base/files.h"
 #include "support/run_tool.h"
 
 namespace kev {
@@ -55,6 +56,40 @@ TEST(Folders, TheLanguageChosenByTheUserOverridesTheInstalledOne) {
   EXPECT_EQ(FindActiveLanguage(folders), 'I');
   EXPECT_FALSE(WriteActiveLanguage(folders, 'P'));
   EXPECT_EQ(FindActiveLanguage(folders), 'P');
+}
+
+class StoredLanguage : public testing::Test {
+ protected:
+  StoredLanguage() { folders_.DataFolder = (data_ / ""); }
+
+  std::string After(const std::string& before) {
+    test::WriteBytes(data_ / "activelang", before);
+    EXPECT_FALSE(WriteActiveLanguage(folders_, 'P'));
+    EXPECT_EQ(FindActiveLanguage(folders_), 'P') << before;
+    return test::ReadBytes(data_ / "activelang");
+  }
+
+  test::TemporaryFolder data_;
+  DesignerFolders folders_;
+};
+
+TEST_F(StoredLanguage, ReplacesItsLineAndKeepsTheOthers) {
+  EXPECT_EQ(After("# mine\nDATADIR=/d\r\nactivelang= s\nOther=1"),
+            "# mine\nDATADIR=/d\r\nACTIVELANG=P\r\nOther=1");
+  EXPECT_EQ(After("ACTIVELANG=E"), "ACTIVELANG=P\r\n");
+  EXPECT_EQ(After("ACTIVELANG=E\r\nACTIVELANG=I\r\n"), "ACTIVELANG=P\r\nACTIVELANG=I\r\n");
+}
+
+TEST_F(StoredLanguage, IsPutBeforeTheLinesOfAFileThatHasNone) {
+  EXPECT_EQ(After(""), "ACTIVELANG=P\r\n");
+  EXPECT_EQ(After("#ACTIVELANG=E\r\nDATADIR=/d"), "ACTIVELANG=P\r\n#ACTIVELANG=E\r\nDATADIR=/d");
+}
+
+TEST_F(StoredLanguage, LeavesAFileThatCannotBeReadAlone) {
+  test::WriteBytes(data_ / "activelang", "DATADIR=/d\r\n");
+  std::filesystem::resize_file(data_ / "activelang", kLargestFile + 1);
+  EXPECT_TRUE(WriteActiveLanguage(folders_, 'P'));
+  EXPECT_EQ(std::filesystem::file_size(data_ / "activelang"), kLargestFile + 1);
 }
 
 TEST(Folders, MissingOnesAreNamedAndNoneIsMade) {

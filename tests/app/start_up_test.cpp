@@ -154,6 +154,23 @@ TEST_F(StartUp, TheLanguageFollowsTheUsersChoice) {
   EXPECT_NE(spanish->Text(kTextModified), english->Text(kTextModified));
 }
 
+TEST_F(StartUp, ALanguageThatCannotBeStoredIsTold) {
+  const auto designer = Start();
+  std::filesystem::create_directory(Data("activelang"));
+  EXPECT_FALSE(designer->ChooseLanguage('S'));
+  ExpectMessage(*designer, kTextWriteFailed);
+}
+
+TEST_F(StartUp, ADocumentThatCannotBePaintedStandsAllTheSame) {
+  const auto designer = Start();
+  view_.OnRedraw = [] { throw std::bad_alloc(); };
+  const std::string file = Made("a.kev", TemplateWith("{100;}Hello{\\n}\r\n"));
+  EXPECT_TRUE(designer->OpenTemplate(file));
+  ExpectMessage(*designer, kTextOperationFailed);
+  EXPECT_EQ(designer->DocumentPath(), file);
+  EXPECT_EQ(CountOf(*designer, ObjectKind::Label), 1);
+}
+
 TEST_F(StartUp, ALanguageWithoutLinesHasEmptyCaptions) {
   test::WriteBytes(root_ / "program/activelang", "ACTIVELANG=X\r\n");
   const auto designer = Start();
@@ -227,6 +244,19 @@ TEST_F(ShutDown, OptionsThatCannotBeWrittenAreTold) {
   std::filesystem::create_directory(Data("LASTRV.DAT"));
   designer->ShutDown();
   ExpectMessage(*designer, kTextWriteFailed);
+}
+
+TEST_F(ShutDown, WithoutAReaderWhatFailedIsReturnedAndTheRestIsDone) {
+  const auto designer = Start();
+  std::filesystem::remove(Data("LASTRV.DAT"));
+  std::filesystem::create_directory(Data("LASTRV.DAT"));
+  test::WriteBytes(Data("Sampledata101112.kex"), "x");
+  const auto failure = designer->ShutDownSilently();
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->path, Data("LASTRV.DAT"));
+  EXPECT_NE(failure->reason, "");
+  EXPECT_TRUE(host_.Messages.empty());
+  EXPECT_FALSE(FileExists(Data("Sampledata101112.kex")));
 }
 
 }  // namespace

@@ -23,13 +23,17 @@
 #include <QUrl>
 #include <QWheelEvent>
 #include <fstream>
+#include <new>
 
+#include "app/text_numbers.h"
 #include "base/files.h"
 #include "platform/file_dialog.h"
 #include "platform/forms/kavsplash.h"
 #include "platform/print_qt.h"
 #include "platform/qt_measurer.h"
 #include "platform/temp_home.h"
+#include "platform/termination.h"
+#include "platform/text_bridge.h"
 
 namespace kev {
 namespace {
@@ -54,6 +58,20 @@ class BoxAnswers : public QObject {
 
   QMessageBox::StandardButton answer_;
   QTimer timer_;
+};
+
+class BreakableMeasurer final : public TextMeasurer {
+ public:
+  explicit BreakableMeasurer(FontCache& fonts) : measurer_(fonts) {}
+  bool Broken = false;
+
+  TextExtent Measure(const FontSpec& font, std::string_view text) const override {
+    if (Broken) throw std::bad_alloc();
+    return measurer_.Measure(font, text);
+  }
+
+ private:
+  QtMeasurer measurer_;
 };
 
 class KavEdit01Test : public testing::Test {
@@ -121,7 +139,7 @@ class KavEdit01Test : public testing::Test {
   QtHost host;
   FontCache fonts;
   ImageCache images{{}};
-  QtMeasurer measurer{fonts};
+  BreakableMeasurer measurer{fonts};
   std::unique_ptr<Designer> designer;
   std::unique_ptr<KavEdit01> window;
 };
@@ -226,12 +244,12 @@ TEST_F(KavEdit01Test, TheZoomMenuAndTheBoxAgree) {
 TEST_F(KavEdit01Test, PageFiltersExcludeEachOther) {
   Start();
   Trigger("see_ebeu");
-  EXPECT_EQ(designer->Filter, PageFilter::ModifiableByEndUser);
+  EXPECT_EQ(designer->Filter(), DisplayFilter::Ebeu);
   EXPECT_FALSE(Find<QAction>("seeall").isChecked());
   Trigger("see_printnoprint");
-  EXPECT_EQ(designer->Filter, PageFilter::PrintedOnly);
+  EXPECT_EQ(designer->Filter(), DisplayFilter::Print);
   Trigger("seeall");
-  EXPECT_EQ(designer->Filter, PageFilter::All);
+  EXPECT_EQ(designer->Filter(), DisplayFilter::All);
   EXPECT_FALSE(Find<QAction>("see_printnoprint").isChecked());
 }
 
@@ -326,6 +344,147 @@ TEST_F(KavEdit01Test, EndingTheSessionAsksNothing) {
   window->EndWithoutAsking();
   EXPECT_TRUE(answers.texts.isEmpty());
   EXPECT_TRUE(window->close());
+}
+
+TEST_F(KavEdit01Test, EndingTheSessionShowsNoMessageWhenTheOptionsCannotBeWritten) {
+  Start();
+  DeleteFileIfThere(home.Path("data/Kev/LASTRV.DAT"));
+  std::filesystem::create_directory(home.Path("data/Kev/LASTRV.DAT"));
+  const BoxAnswers answers(QMessageBox::Ok);
+  testing::internal::CaptureStderr();
+  window->EndWithoutAsking();
+  EXPECT_NE(testing::internal::GetCapturedStderr().find("LASTRV.DAT"), std::string::npos);
+  EXPECT_TRUE(answers.texts.isEmpty());
+}
+
+TEST_F(KavEdit01Test, EndingTheSessionLeavesAnOpenQuestionAndAllThatWouldFollow) {
+  Start();
+  int asked = 0;
+  QTimer::singleShot(0, qApp, [&] {
+    QTimer::singleShot(0, qApp, [&] { window->EndWithoutAsking(); });
+    for (; asked < 2; ++asked)
+      host.ShowMessage({"", "Text", "", BoxIcon::Question, BoxButtons::YesNo});
+  });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_EQ(asked, 2);
+}
+
+TEST_F(KavEdit01Test, TheDesktopsQuitAsksNothing) {
+  Start();
+  designer->MarkModified();
+  const BoxAnswers answers(QMessageBox::Cancel);
+  const TerminationWatch watch([this] { window->EndWithoutAsking(); });
+  QTimer::singleShot(0, qApp, [] { QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit)); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_TRUE(answers.texts.isEmpty());
+}
+
+TEST_F(KavEdit01Test, ACloseWhileABoxIsOpenRunsAfterwards) {
+  Start();
+  QTimer::singleShot(0, qApp, [this] {
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+  });
+  host.ShowMessage({"", "Text", ""});
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+}
+
+TEST_F(KavEdit01Test, ACloseWhileAFileDialogIsOpenRunsAfterwards) {
+  Start();
+  QTimer::singleShot(0, qApp, [this] {
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+  });
+  Trigger("openmen");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+}
+
+TEST_F(KavEdit01Test, ASecondCloseDuringTheQuestionAsksNoSecondTime) {
+  Start();
+  designer->MarkModified();
+  QTimer::singleShot(0, qApp, [this] { window->close(); });
+  const BoxAnswers answers(QMessageBox::Cancel);
+  EXPECT_FALSE(window->close());
+  QTest::qWait(30);
+  EXPECT_EQ(answers.texts.size(), 1);
+  EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(KavEdit01Test, WorkThatFailsInTheWindowEndsInOneMessage) {
+  Start({home.CopyOf("letter.kev")});
+  const BoxAnswers answers(QMessageBox::Ok);
+  int told = 0;
+  const auto expectOneMore = [&](const char* what) { EXPECT_EQ(answers.texts.size(), ++told) << what; };
+  measurer.Broken = true;
+  Trigger("see_printnoprint");
+  expectOneMore("filter");
+  EXPECT_TRUE(Find<QAction>("seeall").isChecked());
+  EXPECT_EQ(designer->Filter(), DisplayFilter::All);
+  Trigger("viewdrawgrid");
+  expectOneMore("grid");
+  EXPECT_FALSE(Find<QAction>("viewdrawgrid").isChecked());
+  TypeZoom(QStringLiteral("150"));
+  expectOneMore("typed zoom");
+  Trigger("zoom50%");
+  expectOneMore("chosen zoom");
+  EXPECT_TRUE(Find<QAction>("zoom100%").isChecked());
+  CtrlWheel({200, 150}, 1);
+  expectOneMore("wheel");
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("100%"));
+  Drop(*window, home.CopyOf("invoice.kev"));
+  expectOneMore("drop");
+}
+
+TEST_F(KavEdit01Test, TheLanguageInForceIsNoChoice) {
+  Start();
+  const BoxAnswers answers(QMessageBox::Ok);
+  Trigger("languageE");
+  EXPECT_TRUE(answers.texts.isEmpty());
+  EXPECT_TRUE(Find<QAction>("languageE").isChecked());
+  EXPECT_FALSE(FileExists(home.Path("data/Kev/activelang")));
+}
+
+TEST_F(KavEdit01Test, AStoredLanguageIsMarkedAndMayBeTakenBack) {
+  Start();
+  const BoxAnswers answers(QMessageBox::Ok);
+  Trigger("languageS");
+  EXPECT_TRUE(Find<QAction>("languageS").isChecked());
+  Trigger("languageE");
+  EXPECT_TRUE(Find<QAction>("languageE").isChecked());
+  EXPECT_EQ(*ReadWholeFile(home.Path("data/Kev/activelang")), "ACTIVELANG=E\r\n");
+  EXPECT_EQ(answers.texts.size(), 2);
+}
+
+TEST_F(KavEdit01Test, ALanguageThatCannotBeStoredLeavesTheMark) {
+  Start();
+  std::filesystem::create_directory(home.Path("data/Kev/activelang"));
+  const BoxAnswers answers(QMessageBox::Ok);
+  Trigger("languageS");
+  EXPECT_EQ(answers.texts.size(), 1);
+  EXPECT_TRUE(Find<QAction>("languageE").isChecked());
+  EXPECT_FALSE(Find<QAction>("languageS").isChecked());
+}
+
+TEST_F(KavEdit01Test, DocumentationThatNothingShowsIsToldAsSuch) {
+  home.InstallProgram();
+  std::filesystem::create_directory(home.Path("program/docs"));
+  std::ofstream(home.Path("program/docs/README.md")) << "text";
+  Start();
+  const BoxAnswers answers(QMessageBox::Ok);
+  window->Run(Command::Documentation);
+  ASSERT_EQ(answers.texts.size(), 1);
+  EXPECT_TRUE(answers.texts[0].startsWith(ToQString(designer->Text(kTextDocumentationNotOpened))));
+  EXPECT_TRUE(answers.texts[0].endsWith(QStringLiteral("program/docs/README.md")));
+}
+
+TEST_F(KavEdit01Test, TheWheelRoundsNoTypedZoom) {
+  Start();
+  TypeZoom(QStringLiteral("333.3333333"));
+  CtrlWheel({200, 150}, 1);
+  EXPECT_EQ(designer->ZoomFactor() * 100, 333.3333333);
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("333.3333333%"));
 }
 
 TEST_F(KavEdit01Test, ADroppedTemplateOpens) {

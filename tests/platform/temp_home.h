@@ -36,11 +36,18 @@ class TempHome {
               if (name == "appdata") return Path("data");
               return std::nullopt;
             },
-            KEV_PROGRAM_DIR, std::move(arguments)};
+            program_, std::move(arguments)};
+  }
+  // A folder "program" of its own, with nothing but the language file.
+  void InstallProgram() {
+    program_ = Path("program");
+    std::filesystem::create_directory(program_);
+    std::filesystem::copy_file(KEV_PROGRAM_DIR "/Kev.lng", program_ + "/Kev.lng");
   }
 
  private:
   QTemporaryDir dir_;
+  std::string program_ = KEV_PROGRAM_DIR;
 };
 
 }  // namespace kev

@@ -13,6 +13,10 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QUrl>
+#include <array>
+#include <exception>
+#include <iostream>
+#include <utility>
 
 #include "app/documentation.h"
 #include "app/text_numbers.h"
@@ -39,6 +43,10 @@ namespace kev {
 namespace {
 
 constexpr QSize kFirstSize(1180, 780);
+
+constexpr std::array kFilterCommands = {std::pair(DisplayFilter::All, Command::SeeAll),
+                                        std::pair(DisplayFilter::Ebeu, Command::SeeModifiable),
+                                        std::pair(DisplayFilter::Print, Command::SeePrinted)};
 
 // The template that a drop brings, native; empty for anything but one local template.
 std::string DroppedTemplate(const QMimeData& data) {
@@ -83,15 +91,18 @@ void KavEdit01::BuildZoomMenu() {
   zoomMenu_ = new ZoomMenu(MenuCaption(kTextMenuZoom), &view);
   view.insertMenu(view.actions().constFirst(), zoomMenu_);
   view.insertSeparator(view.actions().at(1));
-  connect(zoomMenu_, &ZoomMenu::ZoomChosen, this, [this](const QString& text) { page_.SetZoom(text); });
+  connect(zoomMenu_, &ZoomMenu::ZoomChosen, this, &KavEdit01::SetZoom);
 }
 
 void KavEdit01::BuildLanguageMenu() {
   QMenu& help = menus_->MenuOf(MenuId::Help);
   auto* languages = new LanguageMenu(MenuCaption(kTextMenuLanguage), designer_.Language(), &help);
   help.addMenu(languages);
-  connect(languages, &LanguageMenu::LanguageChosen, this,
-          [this](char letter) { designer_.ChooseLanguage(letter); });
+  connect(languages, &LanguageMenu::LanguageChosen, this, [this, languages](char letter) {
+    designer_.GuardedView([&] {
+      if (designer_.ChooseLanguage(letter)) languages->Mark(letter);
+    });
+  });
 }
 
 QString KavEdit01::MenuCaption(int text) const {
@@ -112,7 +123,7 @@ void KavEdit01::BuildToolRow() {
   bar->addWidget(zoomBox_);
   ColourBar(*bar, designer_.CurrentTheme().ToolbarColour());
   addToolBar(bar);
-  connect(zoomBox_, &ZoomBox::ZoomChosen, this, [this](const QString& text) { page_.SetZoom(text); });
+  connect(zoomBox_, &ZoomBox::ZoomChosen, this, &KavEdit01::SetZoom);
 }
 
 void KavEdit01::BuildPage() {
@@ -163,13 +174,16 @@ bool KavEdit01::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show) {
     QTimer::singleShot(0, this, &KavEdit01::Activate);
   }
+  if (event->type() == QEvent::WindowUnblocked) QTimer::singleShot(0, this, &KavEdit01::CloseIfWanted);
   return handled;
 }
 
 void KavEdit01::Activate() {
   if (!designer_.BeginActivation()) return;
-  ShowSplash();
-  if (!ended_) designer_.AfterSplash();
+  designer_.GuardedView([this] {
+    ShowSplash();
+    if (!ended_) designer_.AfterSplash();
+  });
 }
 
 void KavEdit01::ShowSplash() {
@@ -179,27 +193,49 @@ void KavEdit01::ShowSplash() {
 }
 
 void KavEdit01::closeEvent(QCloseEvent* event) {
-  if (!ended_ && !designer_.MayClose()) {
-    event->ignore();
-    return;
-  }
-  EndRun();
+  if (ended_) return event->accept();
+  event->ignore();
+  if (DelayClose()) return;
+  closing_ = true;
+  bool may = false;
+  designer_.GuardedView([&] { may = designer_.MayClose(); });
+  closing_ = false;
+  if (ended_ || !may) return;
+  ended_ = true;
+  designer_.GuardedView([this] { designer_.ShutDown(); });
   event->accept();
 }
 
-void KavEdit01::EndWithoutAsking() {
-  EndRun();
-  QCoreApplication::quit();
+// What is open is answered first; only the question of a close itself is not asked twice.
+bool KavEdit01::DelayClose() {
+  if (QApplication::activeModalWidget() == nullptr) return closing_;
+  closeWanted_ = !closing_;
+  return true;
 }
 
-void KavEdit01::EndRun() {
-  if (std::exchange(ended_, true)) return;
-  designer_.ShutDown();
+void KavEdit01::CloseIfWanted() {
+  if (std::exchange(closeWanted_, false)) close();
+}
+
+void KavEdit01::EndWithoutAsking() {
+  try {
+    const std::optional<FileFailure> failure =
+        std::exchange(ended_, true) ? std::nullopt : designer_.ShutDownSilently();
+    if (failure) std::cerr << "kev: " << failure->path << ": " << failure->reason << '\n';
+  } catch (const std::exception& failure) {
+    std::cerr << "kev: " << failure.what() << '\n';
+  }
+  // Leaves the loops of open boxes as well; a polite quit would ask each window first.
+  QCoreApplication::exit();
 }
 
 // --- Commands ---------------------------------------------------------------------------------------------
 
 void KavEdit01::Run(Command command) {
+  designer_.GuardedView([&] { Dispatch(command); });
+}
+
+void KavEdit01::Dispatch(Command command) {
   switch (command) {
     case Command::New:
       designer_.AskAndNew();
@@ -217,17 +253,16 @@ void KavEdit01::Run(Command command) {
       close();
       break;
     case Command::SeeAll:
-      ShowFilter(PageFilter::All);
+      ShowFilter(DisplayFilter::All);
       break;
     case Command::SeeModifiable:
-      ShowFilter(PageFilter::ModifiableByEndUser);
+      ShowFilter(DisplayFilter::Ebeu);
       break;
     case Command::SeePrinted:
-      ShowFilter(PageFilter::PrintedOnly);
+      ShowFilter(DisplayFilter::Print);
       break;
     case Command::DrawGrid:
-      page_.SetDrawGrid(!page_.DrawGrid());
-      RedrawDocument();
+      ToggleGrid();
       break;
     case Command::ShowFindings:
       findings_->setVisible(findings_->isHidden());
@@ -238,9 +273,24 @@ void KavEdit01::Run(Command command) {
   }
 }
 
-void KavEdit01::ShowFilter(PageFilter filter) {
-  designer_.Filter = filter;
-  RedrawDocument();
+void KavEdit01::ShowFilter(DisplayFilter filter) {
+  if (designer_.SetFilter(filter)) return;
+  for (const auto& [shown, command] : kFilterCommands)
+    menus_->ActionOf(command).setChecked(shown == designer_.Filter());
+}
+
+void KavEdit01::ToggleGrid() {
+  const bool before = page_.DrawGrid();
+  page_.SetDrawGrid(!before);
+  designer_.GuardedView([this] { RedrawDocument(); },
+                        [&] {
+                          page_.SetDrawGrid(before);
+                          menus_->ActionOf(Command::DrawGrid).setChecked(before);
+                        });
+}
+
+void KavEdit01::SetZoom(const QString& text) {
+  designer_.GuardedView([&] { page_.SetZoom(text); });
 }
 
 void KavEdit01::OnZoomWheel(int steps, const QPointF& viewportPoint) {
@@ -249,7 +299,7 @@ void KavEdit01::OnZoomWheel(int steps, const QPointF& viewportPoint) {
     percent = ZoomStepUp(percent);
   for (int step = 0; step > steps; --step)
     percent = ZoomStepDown(percent);
-  page_.SetZoom(QString::number(percent), viewportPoint);
+  designer_.GuardedView([&] { page_.SetZoom(ToQString(FormatNumber(percent)), viewportPoint); });
 }
 
 void KavEdit01::OpenDocumentation() {
@@ -262,7 +312,7 @@ void KavEdit01::OpenDocumentation() {
   }
   const QUrl url = kHost.empty() ? QUrl::fromLocalFile(FromNative(*installed)) : QUrl(FromNative(address));
   if (!QDesktopServices::openUrl(url)) {
-    designer_.ShowText(kTextProgramNotStarted, BoxIcon::Critical, ToNative(url.toDisplayString()));
+    designer_.ShowText(kTextDocumentationNotOpened, BoxIcon::Critical, ToNative(url.toDisplayString()));
   }
 }
 
@@ -273,8 +323,9 @@ void KavEdit01::dragEnterEvent(QDragEnterEvent* event) {
 void KavEdit01::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
   // The program that the file was dragged from waits for this event to end; a question would hold it up.
-  QTimer::singleShot(0, this,
-                     [this, path = DroppedTemplate(*event->mimeData())] { designer_.AskAndOpen(path); });
+  QTimer::singleShot(0, this, [this, path = DroppedTemplate(*event->mimeData())] {
+    designer_.GuardedView([&] { designer_.AskAndOpen(path); });
+  });
 }
 
 // --- What the designer shows ------------------------------------------------------------------------------

@@ -7,6 +7,7 @@
 
 #include "app/commands.h"
 #include "app/designer.h"
+#include "platform/close_requests.h"
 #include "platform/page_view.h"
 #include "platform/qt_host.h"
 
@@ -30,8 +31,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   ~KavEdit01() override;
 
   void Run(Command command);
-  // Ends the program without a question: the session is being ended and nobody answers. Unsaved work stays
-  // where recovery finds it.
+  // Ends the program without a question or a message, also while one is open: the session is being ended and
+  // nobody answers. Unsaved work stays where recovery finds it.
   void EndWithoutAsking();
 
   void DocumentReplaced() override;
@@ -61,10 +62,14 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void PlaceOnScreen();
   void Activate();
   void ShowSplash();
-  void ShowFilter(PageFilter filter);
+  void Dispatch(Command command);
+  void ShowFilter(DisplayFilter filter);
+  void ToggleGrid();
+  void SetZoom(const QString& text);
+  bool DelayClose();
+  void CloseIfWanted();
   void OnZoomWheel(int steps, const QPointF& viewportPoint);
   void OpenDocumentation();
-  void EndRun();
 
   Designer& designer_;
   QtHost& host_;
@@ -76,6 +81,11 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   FindingsDock* findings_ = nullptr;
   ProgressWindow* progress_ = nullptr;
   bool ended_ = false;
+  // The question of a close is open.
+  bool closing_ = false;
+  // A close was asked for while something else had to be answered first.
+  bool closeWanted_ = false;
+  CloseRequests closeRequests_{*this, [this] { DelayClose(); }};
 };
 
 }  // namespace kev

@@ -18,7 +18,8 @@ constexpr std::array kLanguages = {LanguageRow{'E', "English"}, LanguageRow{'S',
 
 }  // namespace
 
-LanguageMenu::LanguageMenu(const QString& caption, char active, QWidget* parent) : QMenu(caption, parent) {
+LanguageMenu::LanguageMenu(const QString& caption, char active, QWidget* parent)
+    : QMenu(caption, parent), marked_(active) {
   setObjectName(QStringLiteral("menlanguage"));
   auto* group = new QActionGroup(this);
   for (const LanguageRow& row : kLanguages) {
@@ -27,8 +28,21 @@ LanguageMenu::LanguageMenu(const QString& caption, char active, QWidget* parent)
     action->setCheckable(true);
     action->setChecked(row.letter == active);
     group->addAction(action);
-    connect(action, &QAction::triggered, this, [this, &row] { Q_EMIT LanguageChosen(row.letter); });
+    connect(action, &QAction::triggered, this, [this, &row] { Choose(row.letter); });
   }
+}
+
+void LanguageMenu::Mark(char letter) {
+  marked_ = letter;
+  auto* action = findChild<QAction*>(QStringLiteral("language") + QLatin1Char(letter));
+  if (action != nullptr) action->setChecked(true);
+}
+
+void LanguageMenu::Choose(char letter) {
+  if (letter == marked_) return;
+  // The click has moved the mark already.
+  Mark(marked_);
+  Q_EMIT LanguageChosen(letter);
 }
 
 }  // namespace kev

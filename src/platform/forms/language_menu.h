@@ -13,8 +13,17 @@ class LanguageMenu final : public QMenu {
   // `active` is the letter of the language in force, which is marked.
   LanguageMenu(const QString& caption, char active, QWidget* parent = nullptr);
 
+  // The language that is in force at the next start.
+  void Mark(char letter);
+
  Q_SIGNALS:
+  // Another one than the marked. The mark stays where it is until Mark.
   void LanguageChosen(char letter);
+
+ private:
+  void Choose(char letter);
+
+  char marked_;
 };
 
 }  // namespace kev
