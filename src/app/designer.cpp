@@ -24,6 +24,18 @@ std::vector<std::int32_t> Places(const ObjectTable& objects) {
   return places;
 }
 
+// One level more for as long as it lives.
+class Deeper {
+ public:
+  explicit Deeper(int& depth) : depth_(depth) { ++depth_; }
+  ~Deeper() { --depth_; }
+  Deeper(const Deeper&) = delete;
+  Deeper& operator=(const Deeper&) = delete;
+
+ private:
+  int& depth_;
+};
+
 // The size that a picture gives to the sides that its template leaves open.
 void FitPicture(ObjectRecord& record, const TextExtent& own) {
   const bool fixedWidth = record.PictureFixedWidth != kFalse;
@@ -66,8 +78,10 @@ struct Designer::Kept {
 
 Designer::Designer(Host& host, const TextMeasurer& measurer, StartInput input)
     : host_(host), measurer_(measurer), input_(std::move(input)), pictures_(host, folders_) {
-  pictures_.OnArrival(
-      [this](const std::string& pictureFile, bool there) { PictureArrived(pictureFile, there); });
+  pictures_.OnArrival([this](const std::string& pictureFile, bool there) {
+    arrivals_.emplace_back(pictureFile, there);
+    TakeArrivals();
+  });
 }
 
 std::string Designer::TemplateFolder() const {
@@ -102,6 +116,16 @@ void Designer::DeriveGeometryAndRedraw() {
 }
 
 bool Designer::Guarded(const GuardedWork& work, const std::function<void()>& body) {
+  bool done = false;
+  {
+    const Deeper deeper(guardDepth_);
+    done = RunGuarded(work, body);
+  }
+  TakeArrivals();
+  return done;
+}
+
+bool Designer::RunGuarded(const GuardedWork& work, const std::function<void()>& body) {
   std::optional<Kept> kept;
   const std::optional<std::string> failure = FailureOf([&] {
     kept.emplace(document_);
@@ -196,6 +220,15 @@ void Designer::SetFindings(std::vector<Finding> findings) {
   if (view_ != nullptr) view_->FindingsChanged();
 }
 
+// The window goes on while a file is read, and a picture of it may be there before its record is.
+void Designer::TakeArrivals() {
+  while (guardDepth_ == 0 && !arrivals_.empty()) {
+    const auto [pictureFile, there] = arrivals_.front();
+    arrivals_.erase(arrivals_.begin());
+    PictureArrived(pictureFile, there);
+  }
+}
+
 void Designer::PictureArrived(const std::string& pictureFile, bool there) {
   const std::optional<std::string> file = there ? PictureFileOnDisk(pictureFile) : std::nullopt;
   const std::optional<TextExtent> own = file ? ImageSizeOfFile(*file) : std::nullopt;
@@ -206,7 +239,7 @@ void Designer::PictureArrived(const std::string& pictureFile, bool there) {
       if (!file) record.PictureFile = kMissingPicture;
       if (own) FitPicture(record, *own);
     }
-    if (view_ != nullptr) view_->RedrawDocument();
+    DeriveGeometryAndRedraw();
   });
 }
 

@@ -125,7 +125,8 @@ class Designer {
   // Geometry chain, redraw, chain, redraw of what moved.
   void DeriveGeometryAndRedraw();
   // Runs a command, event or read. Where it throws, the document is put back as it was, one message says
-  // what could not be done and why, and the result is false. Guards may nest; the innermost one acts.
+  // what could not be done and why, and the result is false. Guards may nest; the innermost one acts. A
+  // fetched picture that arrives meanwhile waits for the end of the outermost one.
   bool Guarded(const GuardedWork& work, const std::function<void()>& body);
   bool Guarded(const std::function<void()>& body) { return Guarded({}, body); }
   // For work that leaves the rows alone, or guards its own change of them: nothing is copied. What the work
@@ -199,6 +200,8 @@ class Designer {
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);
+  void TakeArrivals();
+  bool RunGuarded(const GuardedWork& work, const std::function<void()>& body);
   void PutBack(Kept kept) noexcept;
   void TellFailure(const GuardedWork& work, const std::string& reason);
   void SetFindings(std::vector<Finding> findings);
@@ -223,6 +226,9 @@ class Designer {
   std::string documentPath_;
   std::string documentTitle_{kFreshTitle};
   std::vector<Finding> findings_;
+  // Pictures that came while something else was under way, and whether they are there.
+  std::vector<std::pair<std::string, bool>> arrivals_;
+  int guardDepth_ = 0;
   double zoomPercent_ = 100;
   DisplayFilter filter_ = DisplayFilter::All;
   int session_ = 0;

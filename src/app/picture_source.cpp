@@ -32,6 +32,23 @@ bool MayBeFetched(std::string_view written, std::string_view address) {
   return host < address.size() && address[host] != '/';
 }
 
+bool IsOfCache(std::string_view pictureFile) {
+  return CodePage::Default().EqualsIgnoringCase(pictureFile.substr(0, kCacheFolder.size()), kCacheFolder);
+}
+
+bool IsAbsolute(std::string_view path) {
+  return path.starts_with('/') || path.starts_with('\\');
+}
+
+// Names of files that the program made are native already; those in a template are in its code page.
+std::optional<std::string> FindEitherWay(std::string_view name, std::string_view folder,
+                                         const CodePage& page) {
+  if (folder.empty() && !IsAbsolute(name)) return std::nullopt;
+  if (auto found = FindFile(name, folder)) return found;
+  const std::string native = page.ToUtf8(name);
+  return native == name ? std::nullopt : FindFile(native, folder);
+}
+
 }  // namespace
 
 std::string CacheNameOf(std::string_view address) {
@@ -44,19 +61,19 @@ std::string CacheNameOf(std::string_view address) {
 std::optional<std::string> ResolvePictureFile(std::string_view pictureFile, const DesignerFolders& folders,
                                               std::string_view templateFolder, const CodePage& page) {
   if (pictureFile.starts_with('\\')) {
-    const bool cached = pictureFile.starts_with(kCacheFolder);
-    std::string own = JoinPath(cached ? folders.TempFolder : folders.ProgramFolder, pictureFile);
-    if (FileExists(own)) return own;
+    const std::string_view name =
+        pictureFile.substr(std::min(pictureFile.find_first_not_of("\\/"), pictureFile.size()));
+    if (auto own =
+            FindEitherWay(name, IsOfCache(pictureFile) ? folders.TempFolder : folders.ProgramFolder, page))
+      return own;
   }
-  // Names of files that the program made are native already.
-  if (pictureFile.starts_with('/') && FileExists(std::string(pictureFile))) return std::string(pictureFile);
-  return FindFile(page.ToUtf8(pictureFile), templateFolder);
+  return FindEitherWay(pictureFile, templateFolder, page);
 }
 
 FolderPictures::FolderPictures(Host& host, const DesignerFolders& folders) : host_(host), folders_(folders) {}
 
 PictureAnswer FolderPictures::Look(std::string_view path) {
-  if (const auto file = FindFile(page_->ToUtf8(path), templateFolder_))
+  if (const auto file = FindEitherWay(path, templateFolder_, *page_))
     return {std::string(path), ImageSizeOfFile(*file)};
   std::string address(path);
   const bool remote = ClassifyLink(address) == LinkKind::Remote;

@@ -23,9 +23,9 @@ inline constexpr std::string_view kCacheFolder = "\\Cache\\";
 std::string CacheNameOf(std::string_view address);
 
 // The file that a record's PictureFile means; nothing when there is none. A name of the cache lies in
-// TempFolder, any other that begins with "\" in ProgramFolder unless such a path exists, and the rest
-// relative to the template. `pictureFile` is in the code page of the template, the folders and the result are
-// native bytes.
+// TempFolder, any other that begins with "\" in ProgramFolder, and what is not there relative to the
+// template. `pictureFile` is in the code page of the template or, where such a file exists, native as the
+// folders and the result are. Nothing lies in a folder whose name is empty.
 std::optional<std::string> ResolvePictureFile(std::string_view pictureFile, const DesignerFolders& folders,
                                               std::string_view templateFolder, const CodePage& page);
 

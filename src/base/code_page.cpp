@@ -38,8 +38,13 @@ void AppendUtf8(std::string& out, char32_t c) {
   } else if (c < 0x800) {
     out += static_cast<char>(0xC0 | (c >> 6));
     out += static_cast<char>(0x80 | (c & 0x3F));
-  } else {
+  } else if (c < 0x10000) {
     out += static_cast<char>(0xE0 | (c >> 12));
+    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (c & 0x3F));
+  } else {
+    out += static_cast<char>(0xF0 | (c >> 18));
+    out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
     out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
     out += static_cast<char>(0x80 | (c & 0x3F));
   }
@@ -62,6 +67,18 @@ char32_t TakeUtf8(std::string_view text, std::size_t& at) {
     c = (c << 6) | (static_cast<unsigned char>(text[at + i]) & 0x3FU);
   at += length;
   return c;
+}
+
+// The capital of the character at `at`, which moves behind it. A byte that is no part of one gives a value of
+// its own beyond all characters.
+char32_t TakeCapital(std::string_view text, std::size_t& at) {
+  const std::size_t begin = at;
+  const char32_t c = TakeUtf8(text, at);
+  std::string again;
+  AppendUtf8(again, c);
+  if (again == text.substr(begin, at - begin)) return UnicodeUpper(c);
+  at = begin + 1;
+  return 0x200000 + static_cast<unsigned char>(text[begin]);
 }
 
 std::vector<CodePage> MakePages() {
@@ -155,6 +172,14 @@ std::optional<std::string> CodePage::FromUtf8(std::string_view utf8, std::string
     text += *byte;
   }
   return text;
+}
+
+bool Utf8EqualsIgnoringCase(std::string_view a, std::string_view b) {
+  std::size_t atA = 0;
+  std::size_t atB = 0;
+  while (atA < a.size() && atB < b.size())
+    if (TakeCapital(a, atA) != TakeCapital(b, atB)) return false;
+  return atA == a.size() && atB == b.size();
 }
 
 }  // namespace kev

@@ -41,4 +41,7 @@ class CodePage {
   std::array<char, 256> lower_{};
 };
 
+// Native names: character by character, without regard to case. Bytes that are no UTF-8 must be the same.
+bool Utf8EqualsIgnoringCase(std::string_view a, std::string_view b);
+
 }  // namespace kev

@@ -19,6 +19,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr int kMostTemporaries = 10000;
+
 FileFailure Failure(std::string path, int error) {
   return {std::move(path), std::error_code(error, std::generic_category()).message()};
 }
@@ -60,9 +62,19 @@ mode_t ModeFor(const std::string& path) {
   return 0666 & ~mask;
 }
 
-int WriteBeside(const std::string& temporary, std::string_view bytes, mode_t mode) {
-  Descriptor file(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
-  if (file.Number() < 0) return errno;
+// A new file in the folder, open for writing; `path` becomes its name. The name is short whatever the file is
+// called that it will be, and one that somebody has put there is neither written to nor followed.
+int OpenBeside(const fs::path& folder, std::string& path) {
+  const std::string stem = ".kev" + std::to_string(::getpid()) + '-';
+  for (int number = 0; number < kMostTemporaries; ++number) {
+    path = (folder / (stem + std::to_string(number))).string();
+    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+    if (file >= 0 || errno != EEXIST) return file;
+  }
+  return -1;
+}
+
+int WriteAndClose(Descriptor& file, std::string_view bytes, mode_t mode) {
   if (const int error = WriteAll(file.Number(), bytes)) return error;
   if (::fchmod(file.Number(), mode) != 0 || ::fsync(file.Number()) != 0) return errno;
   return file.Close() == 0 ? 0 : errno;
@@ -71,12 +83,11 @@ int WriteBeside(const std::string& temporary, std::string_view bytes, mode_t mod
 std::optional<fs::path> FindIgnoringCase(const fs::path& folder, const std::string& name) {
   std::error_code ignored;
   if (fs::exists(folder / name, ignored)) return folder / name;
-  const CodePage& page = CodePage::Default();
   std::optional<fs::path> found;
   for (fs::directory_iterator at(folder, ignored), end; !ignored && at != end; at.increment(ignored)) {
     const fs::path& candidate = at->path();
     // The first in the order of names, so that the choice does not depend on the disk.
-    if (page.EqualsIgnoringCase(candidate.filename().string(), name) && (!found || candidate < *found)) {
+    if (Utf8EqualsIgnoringCase(candidate.filename().string(), name) && (!found || candidate < *found)) {
       found = candidate;
     }
   }
@@ -113,8 +124,10 @@ std::optional<FileFailure> WriteWholeFile(const std::string& path, std::string_v
   const std::string target = real.empty() ? path : real.string();
   if (FolderExists(target)) return Failure(path, EISDIR);
   if (FileExists(target) && ::access(target.c_str(), W_OK) != 0) return Failure(path, errno);
-  const std::string temporary = target + ".part" + std::to_string(::getpid());
-  int error = WriteBeside(temporary, bytes, ModeFor(target));
+  std::string temporary;
+  Descriptor file(OpenBeside(fs::path(target).parent_path(), temporary));
+  if (file.Number() < 0) return Failure(path, errno);
+  int error = WriteAndClose(file, bytes, ModeFor(target));
   if (error == 0 && ::rename(temporary.c_str(), target.c_str()) != 0) error = errno;
   if (error == 0) return std::nullopt;
   ::unlink(temporary.c_str());

@@ -18,6 +18,8 @@ constexpr double kFarthest = 1e12;
 // What is drawn beyond the painted region is cut this far outside it, so that lengths stay sane for the
 // painter and the cut is never seen.
 constexpr double kBeyond = 64;
+constexpr double kThinnestPen = 1;  // logical pixels
+constexpr double kThickestPen = 2000;
 
 std::int64_t StripeOf(double y) {
   return static_cast<std::int64_t>(std::floor(std::clamp(y, -kFarthest, kFarthest) / kStripeHeight));
@@ -99,6 +101,8 @@ class DisplayList::Painting {
   QPointF At(const QPointF& canvas) const { return (canvas - region_.topLeft()) * kPixel; }
   void UsePen(const Pen& pen, double dashOffset = 0);
   void DrawLine(const QLineF& line, const Pen& pen);
+  // What is left of an outline without width or height; a spot where both are missing.
+  void DrawFlat(const QLineF& line, const Pen& pen);
   void DrawOutline(const QRectF& area, const Pen& pen);
   void DrawDotRow(const Dots& dots, double y);
 
@@ -110,7 +114,7 @@ class DisplayList::Painting {
 };
 
 void DisplayList::Painting::UsePen(const Pen& pen, double dashOffset) {
-  QPen made(ToColour(pen.colour), std::max(pen.width, 1.0), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+  QPen made(ToColour(pen.colour), pen.width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
   if (pen.style == PenStyle::Dotted) {
     made.setDashPattern({1, 2});
     made.setDashOffset(dashOffset / made.widthF());
@@ -128,6 +132,13 @@ void DisplayList::Painting::DrawLine(const QLineF& line, const Pen& pen) {
   painter_.drawLine(QLineF(line.pointAt(part.from), line.pointAt(part.to)));
 }
 
+void DisplayList::Painting::DrawFlat(const QLineF& line, const Pen& pen) {
+  if (!line.isNull()) return DrawLine(line, pen);
+  UsePen(pen);
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+  painter_.drawPoint(line.p1());
+}
+
 void DisplayList::Painting::DrawOutline(const QRectF& area, const Pen& pen) {
   if (pen.style == PenStyle::Dotted) {
     DrawLine(QLineF(area.topLeft(), area.topRight()), pen);
@@ -136,6 +147,8 @@ void DisplayList::Painting::DrawOutline(const QRectF& area, const Pen& pen) {
     DrawLine(QLineF(area.topLeft(), area.bottomLeft()), pen);
     return;
   }
+  // The intersection of a flat rectangle with any other is none at all.
+  if (area.isEmpty()) return DrawFlat(QLineF(area.topLeft(), area.bottomRight()), pen);
   UsePen(pen);
   painter_.setRenderHint(QPainter::Antialiasing, false);
   painter_.drawRect(area.intersected(Grown(window_, kBeyond + pen.width)));
@@ -241,6 +254,11 @@ void DisplayList::ClearCanvas() {
 void DisplayList::SetCanvasSize(double width, double height) {
   width_ = std::isfinite(width) ? std::max(width, 0.0) : 0;
   height_ = std::isfinite(height) ? std::max(height, 0.0) : 0;
+}
+
+void DisplayList::SetPen(Rgb colour, double width, PenStyle style) {
+  // A file may hold any width; one below that of a pixel would take the room from what is drawn with it.
+  pen_ = {colour, width > kThinnestPen ? std::min(width, kThickestPen) : kThinnestPen, style};
 }
 
 void DisplayList::DrawLine(double x1, double y1, double x2, double y2) {

@@ -49,7 +49,7 @@ class DisplayList final : public SurfaceOps {
   void ClearCanvas() override;
   void SetCanvasSize(double width, double height) override;
   void SetScaleLeft(double value) override { scaleLeft_ = value; }
-  void SetPen(Rgb colour, double width, PenStyle style) override { pen_ = {colour, width, style}; }
+  void SetPen(Rgb colour, double width, PenStyle style) override;
   void DrawLine(double x1, double y1, double x2, double y2) override;
   void DrawRect(double x1, double y1, double x2, double y2, bool filled) override;
   void DrawRectColour(double x1, double y1, double x2, double y2, Rgb colour, bool filled) override;

@@ -19,7 +19,7 @@ constexpr int kPrintPixels = 128;
 constexpr double kPixelsPerInch = 96;  // 15 twips of 1440 to the inch are one pixel
 constexpr double kPixelsPerPoint = kPixelsPerInch / 72;
 constexpr double kSmallestPoints = 0.5;
-constexpr double kLargestPoints = 5000;
+constexpr double kLargestPoints = 6000;  // above 720 points at the largest zoom
 
 struct CharSetPage {
   int charSet;
@@ -34,6 +34,7 @@ constexpr auto kCharSetPages = std::to_array<CharSetPage>({
     {178, "windows-1256"},
     {186, "windows-1257"},
     {204, "windows-1251"},
+    {222, "windows-874"},
     {238, "windows-1250"},
 });
 
@@ -71,7 +72,8 @@ double SanePoints(double points) {
 
 // Scripts that join or reorder their letters, and marks that stand above them.
 bool NeedsShaping(char16_t c) {
-  return (c >= 0x0300 && c <= 0x036F) || (c >= 0x0590 && c <= 0x08FF) || c >= 0xFB1D;
+  return (c >= 0x0300 && c <= 0x036F) || (c >= 0x0590 && c <= 0x08FF) || (c >= 0x0E31 && c <= 0x0E4E) ||
+         c >= 0xFB1D;
 }
 
 void AppendLines(std::string& key, const FontSpec& spec) {
@@ -146,7 +148,7 @@ void FontCache::Print(QPainter& painter, const FontSpec& spec, const QPointF& at
 }
 
 const FaceMetrics& FontCache::Face(const FontSpec& spec) {
-  const CodePage& page = PageOfCharSet(spec.CharSet, *page_);
+  const CodePage& page = PageOfCharSet(spec.CharSet, page_());
   AppendFace(key_, spec);
   key_ += page.Name();
   auto& face = faces_[key_];
@@ -167,11 +169,11 @@ const FaceMetrics& FontCache::Face(const FontSpec& spec) {
 }
 
 QString FontCache::Text(const FontSpec& spec, std::string_view text) const {
-  return ToQString(text, PageOfCharSet(spec.CharSet, *page_));
+  return ToQString(text, PageOfCharSet(spec.CharSet, page_()));
 }
 
 void FontCache::SetPage(const CodePage& page) {
-  page_ = &page;
+  page_ = [&page]() -> const CodePage& { return page; };
 }
 
 }  // namespace kev

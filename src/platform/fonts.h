@@ -6,6 +6,7 @@
 #include <QPointF>
 #include <QString>
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -45,7 +46,7 @@ struct FaceMetrics {
 // Fonts by what a record says, made once. Not for use by more than one thread.
 class FontCache {
  public:
-  explicit FontCache(const CodePage& page = CodePage::Default()) : page_(&page) {}
+  explicit FontCache(const CodePage& page = CodePage::Default()) { SetPage(page); }
 
   // For widgets. 1 point is 20 twips, and 15 twips are one logical pixel: a font of `spec.Size` points for a
   // device whose logical resolution is `dpi`. The window system rounds it to whole pixels.
@@ -58,11 +59,13 @@ class FontCache {
 
   // The page of the open document. Changes how bytes above 127 are read.
   void SetPage(const CodePage& page);
+  // The same, asked anew for each text: the page may change before the first text of a document is measured.
+  void FollowPage(std::function<const CodePage&()> page) { page_ = std::move(page); }
 
  private:
   const QFont& PrintFont(const FontSpec& spec);
 
-  const CodePage* page_;
+  std::function<const CodePage&()> page_;
   std::unordered_map<std::string, QFont> fonts_;
   std::unordered_map<std::string, std::unique_ptr<FaceMetrics>> faces_;
   std::string key_;

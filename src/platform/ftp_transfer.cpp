@@ -56,6 +56,13 @@ FtpTransfer::FtpTransfer(QUrl address, qint64 mostBytes, QObject* parent)
   });
 }
 
+FtpTransfer::~FtpTransfer() {
+  // A socket that is destroyed while it is connected still tells its end, when part of this object is gone.
+  ended_ = true;
+  control_.disconnect(this);
+  data_.disconnect(this);
+}
+
 void FtpTransfer::Start() {
   control_.connectToHost(address_.host(), static_cast<quint16>(address_.port(kFtpPort)));
 }

@@ -15,6 +15,8 @@ class FtpTransfer final : public QObject {
 
  public:
   FtpTransfer(QUrl address, qint64 mostBytes, QObject* parent = nullptr);
+  // Says nothing more, even where Finished has not been told.
+  ~FtpTransfer() override;
 
   void Start();
   void Abort() { End(false); }

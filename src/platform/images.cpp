@@ -10,7 +10,6 @@
 #include <QSvgRenderer>
 #include <algorithm>
 
-#include "base/files.h"
 #include "platform/fonts.h"
 
 namespace kev {
@@ -22,25 +21,6 @@ constexpr qint64 kLargestSvg = 16 * 1024 * 1024;
 bool IsSvgFile(const QFileInfo& file) {
   const QString suffix = file.suffix().toLower();
   return suffix == u"prbm" || suffix == u"svg";
-}
-
-bool StartsWithWord(std::string_view file, std::string_view folder) {
-  return file.size() >= folder.size() &&
-         CodePage::Default().EqualsIgnoringCase(file.substr(0, folder.size()), folder);
-}
-
-bool IsAbsolute(std::string_view file) {
-  return file.front() == '/' || file.front() == '\\';
-}
-
-std::optional<std::string> FindNative(std::string_view file, const ImageFolders& folders) {
-  if (file.empty()) return std::nullopt;
-  if (file.front() == '\\') {
-    const bool cached = StartsWithWord(file, "\\Cache\\");
-    if (auto own = FindFile(file.substr(1), cached ? folders.Temp : folders.Program)) return own;
-  }
-  if (folders.Template.empty() && !IsAbsolute(file)) return std::nullopt;
-  return FindFile(file, folders.Template);
 }
 
 }  // namespace
@@ -78,16 +58,6 @@ std::unique_ptr<QSvgRenderer> ReadDrawing(const QString& path) {
 }
 
 }  // namespace
-
-ImageResolver ResolverFor(const ImageFolders& folders) {
-  return [folders](std::string_view file) -> std::string {
-    if (auto found = FindNative(file, folders)) return *found;
-    // Names in a template are in its code page.
-    const std::string converted = folders.Page->ToUtf8(file);
-    if (converted == file) return {};
-    return FindNative(converted, folders).value_or(std::string());
-  };
-}
 
 ImageCache::ImageCache(ImageResolver resolver) : resolver_(std::move(resolver)), entries_(kCacheKilobytes) {}
 

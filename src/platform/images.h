@@ -13,8 +13,6 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "base/code_page.h"
-
 class QPainter;
 class QSvgRenderer;
 
@@ -23,15 +21,6 @@ namespace kev {
 // The native path of the file that a name on the page means, empty when there is none. Names beginning with
 // "\" are the designer's own; all others are as a template wrote them.
 using ImageResolver = std::function<std::string(std::string_view file)>;
-
-// Where the names on a page lead. Native paths.
-struct ImageFolders {
-  std::string Program;   // "\Pbms\..." and "\dashes.bmp"
-  std::string Temp;      // "\Cache\..."
-  std::string Template;  // relative paths; empty for a document without a file
-  const CodePage* Page = &CodePage::Default();
-};
-ImageResolver ResolverFor(const ImageFolders& folders);
 
 class ImageCache {
  public:

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kDesk = 16;  // pixels of the desk around the page
 constexpr int kShadow = 5;
+constexpr double kRoomBehind = 2000;  // canvas units that can be scrolled to behind the page's end
 constexpr int kWheelStep = 120;
 const QColor kDeskColour(222, 224, 228);
 const QColor kEdgeColour(188, 191, 197);
@@ -25,9 +26,11 @@ int RoundedPixel(double pixels) {
   return static_cast<int>(std::lround(std::clamp(pixels, -1e8, 1e8)));
 }
 
-// Half of the view for a large step, a tenth of that for a small one.
-void SetRange(QScrollBar* bar, int content, int view) {
-  bar->setRange(0, std::max(0, content - view));
+// Nothing to scroll where the page is all in sight. Four tenths of the view for a large step, a tenth of that
+// for a small one.
+void SetRange(QScrollBar* bar, double canvas, int view) {
+  const bool inSight = kDesk + WholePixels(canvas) <= view;
+  bar->setRange(0, inSight ? 0 : WholePixels(canvas + kRoomBehind) - view);
   bar->setPageStep(std::max(1, view * 4 / 10));
   bar->setSingleStep(std::max(1, view * 4 / 100));
 }
@@ -44,6 +47,12 @@ PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent) : QAbstractScro
   FitWindow();
 }
 
+PageCanvas::~PageCanvas() {
+  // An overlay that ends tells its canvas so, which must still be whole then.
+  while (!overlays_.empty())
+    delete overlays_.begin()->first;
+}
+
 void PageCanvas::ShowList() {
   FitWindow();
   viewport()->update();
@@ -51,8 +60,8 @@ void PageCanvas::ShowList() {
 
 void PageCanvas::FitWindow() {
   const QRectF canvas = list_.Canvas();
-  SetRange(horizontalScrollBar(), WholePixels(canvas.width()) + 2 * kDesk, viewport()->width());
-  SetRange(verticalScrollBar(), WholePixels(canvas.height()) + 2 * kDesk, viewport()->height());
+  SetRange(horizontalScrollBar(), canvas.width(), viewport()->width());
+  SetRange(verticalScrollBar(), canvas.height(), viewport()->height());
   MoveOverlays();
   Q_EMIT ViewMoved();
 }

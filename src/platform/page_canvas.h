@@ -28,6 +28,7 @@ class PageCanvas : public QAbstractScrollArea {
  public:
   // The list outlives the widget.
   explicit PageCanvas(const DisplayList& list, QWidget* parent = nullptr);
+  ~PageCanvas() override;
 
   // After the list was filled anew: scroll range, origin and pixels follow it.
   void ShowList();
@@ -43,7 +44,8 @@ class PageCanvas : public QAbstractScrollArea {
   // Scrolls by as much as is needed to see the area.
   void EnsureVisible(const QRectF& canvasArea);
 
-  // A child of viewport() that stands at a place of the page and moves with it.
+  // A child of viewport() that stands at a place of the page and moves with it. It ends with the canvas, if
+  // it has not ended before.
   void PlaceOverlay(QWidget* overlay, const QRectF& canvasArea);
   // Of a placed overlay, as it was given; empty for one that was not placed.
   QRectF OverlayArea(const QWidget* overlay) const;

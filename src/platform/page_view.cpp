@@ -19,6 +19,8 @@ PageView::PageView(Designer& designer, FontCache& fonts, ImageCache& images, QWi
   canvas_->setObjectName(QStringLiteral("p1"));
   canvas_->verticalScrollBar()->setObjectName(QStringLiteral("vscrollbar"));
   canvas_->horizontalScrollBar()->setObjectName(QStringLiteral("hscrollbar"));
+  // Known before the first template is read, whose texts are measured while it is read.
+  fonts_.FollowPage([&designer]() -> const CodePage& { return *designer.OpenDocument().Page; });
   images_.SetResolver([&designer](std::string_view file) {
     return designer.PictureFileOnDisk(file).value_or(std::string());
   });
@@ -40,7 +42,6 @@ void PageView::Redraw() {
 }
 
 void PageView::DocumentReplaced() {
-  fonts_.SetPage(*designer_.OpenDocument().Page);
   canvas_->verticalScrollBar()->setValue(canvas_->verticalScrollBar()->minimum());
   canvas_->horizontalScrollBar()->setValue(canvas_->horizontalScrollBar()->minimum());
 }

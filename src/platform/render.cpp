@@ -10,6 +10,7 @@
 #include <array>
 #include <cmath>
 
+#include "app/picture_source.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "document/sections.h"
@@ -28,6 +29,13 @@ constexpr int kTile = 4096;
 // Viewers refuse a sheet of more than 200 inches.
 constexpr double kLongestSheet = 200.0 * kDotsPerInch;
 
+ImageResolver ResolverFor(const Document& document, const RenderOptions& options) {
+  return [&page = *document.Page, folders = options.folders,
+          templateFolder = options.TemplateFolder](std::string_view file) {
+    return ResolvePictureFile(file, folders, templateFolder, page).value_or(std::string());
+  };
+}
+
 // A page with all that painting it needs.
 struct PaintedPage {
   FontCache fonts;
@@ -35,7 +43,7 @@ struct PaintedPage {
   DisplayList list{fonts, images};
 
   PaintedPage(Document& document, const RenderOptions& options)
-      : fonts(*document.Page), images(ResolverFor(options.folders)) {
+      : fonts(*document.Page), images(ResolverFor(document, options)) {
     const QtMeasurer measurer(fonts);
     DeriveGeometry(document);
     ApplyRedrawWriteBack(document, measurer, options.filter, options.images);

@@ -6,9 +6,9 @@
 #include <optional>
 #include <string>
 
+#include "app/folders.h"
 #include "base/result.h"
 #include "document/document.h"
-#include "platform/images.h"
 #include "surface/visuals.h"
 
 namespace kev {
@@ -18,7 +18,8 @@ struct RenderOptions {
   double scale = 1;  // device pixels for each logical pixel
   DisplayFilter filter = DisplayFilter::All;
   bool grid = false;
-  ImageFolders folders;
+  DesignerFolders folders;     // where the pictures of the page lie
+  std::string TemplateFolder;  // native; empty for a document without a file
   WorkImages images;
 };
 

@@ -12,7 +12,6 @@ namespace kev {
 namespace {
 
 constexpr Rgb kMarginMark = 0x7D7D7D;
-constexpr Rgb kGridDot = 0xC4C9D2;
 constexpr double kRoomBelow = 1000;       // twips
 constexpr double kUsualStep = 200;        // twips
 constexpr double kLeastDotStep = 2 * 15;  // canvas units: two pixels
@@ -34,14 +33,13 @@ void DrawMarginMark(PaintContext& context, double pageWidth, double leftMargin, 
 void DrawGrid(PaintContext& context, double gridStep, double pageWidth, const SortedRows& sorted) {
   const double zoom = context.ZoomFactor;
   const double step = DotStep(gridStep, zoom);
-  context.surface.SetPen(kGridDot, 1, PenStyle::Solid);
+  RestorePen(context.surface);
   for (const int row : sorted.Rows) {
     const ObjectRecord& bar = context.document.Objects[row];
     if (bar.Kind != ObjectKind::Subsection) continue;
     const double top = (static_cast<double>(bar.AbsoluteY) + kBarHeight) * zoom;
     context.surface.DrawDots(0, top, pageWidth * zoom, top + bar.EndsAt * zoom, step);
   }
-  RestorePen(context.surface);
 }
 
 }  // namespace

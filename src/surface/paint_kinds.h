@@ -43,7 +43,7 @@ void PaintQr(PaintContext& context, ObjectRecord& record, int row);
 void PaintChart(PaintContext& context, ObjectRecord& record, int row);
 void PaintBarcode(PaintContext& context, const ObjectRecord& record);
 
-// A thin frame with a caption in its middle, where the caption has room.
+// A thin frame with a caption in its middle, cut where it has no room.
 void PaintPlaceholder(PaintContext& context, const CanvasArea& area, std::string_view caption);
 
 }  // namespace kev

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Objects whose own picture is made elsewhere: their place is framed and named, and the picture, once it is
-// there, covers the frame.
+// Objects whose own picture is made elsewhere: their place is framed and named. A file that bears the name of
+// such a picture may be another run's, so none is painted that this run has not made.
+#include <algorithm>
 #include <array>
 
 #include "base/numbers.h"
@@ -12,6 +13,8 @@ namespace {
 constexpr Rgb kFrame = 0xA0A0A0;
 constexpr Rgb kCaption = 0x707070;
 constexpr double kCaptionPoints = 8;
+constexpr std::size_t kLongestCaption = 100;
+constexpr std::array kCode128 = {1282, 1283, 12821};
 
 struct SymbologyName {
   int kind;
@@ -44,6 +47,23 @@ std::string ChartCaption(const ObjectRecord& record) {
              : "CHART " + record.ChartValues.front();
 }
 
+// As much of the text as has room, with dots for the rest; nothing where not even one character has.
+std::string Elided(SurfaceOps& surface, std::string_view text, double room) {
+  std::string shown(text.substr(0, kLongestCaption));
+  if (shown.size() == text.size() && surface.TextWidth(shown) <= room) return shown;
+  for (std::size_t kept = shown.size(); kept > 0; --kept) {
+    shown.replace(kept, std::string::npos, "...");
+    if (surface.TextWidth(shown) <= room) return shown;
+  }
+  return {};
+}
+
+// The bars of these are made at their own size and stand where the record says, whatever the zoom.
+bool IsPaintedUnzoomed(const ObjectRecord& record) {
+  const int kind = Int32Of(record.BarcodeKind);
+  return IsVerticalBarcode(record) || std::find(kCode128.begin(), kCode128.end(), kind) != kCode128.end();
+}
+
 }  // namespace
 
 void PaintPlaceholder(PaintContext& context, const CanvasArea& area, std::string_view caption) {
@@ -51,29 +71,27 @@ void PaintPlaceholder(PaintContext& context, const CanvasArea& area, std::string
   surface.DrawRectColour(area.Left, area.Top, area.Right, area.Bottom, kFrame, false);
   const FontSpec font{.Name = "Arial", .Size = kCaptionPoints * context.ZoomFactor};
   surface.SetFont(font);
-  const double width = surface.TextWidth(caption);
   const double height = context.measurer.Measure(font, caption).Height;
-  if (width > area.Width() || height > area.Height()) return;
+  const std::string shown = Elided(surface, caption, area.Width());
+  if (shown.empty() || height > area.Height()) return;
   surface.SetForeground(kCaption);
-  surface.PrintText(area.Left + (area.Width() - width) / 2, area.Top + (area.Height() - height) / 2, caption);
+  surface.PrintText(area.Left + (area.Width() - surface.TextWidth(shown)) / 2,
+                    area.Top + (area.Height() - height) / 2, shown);
 }
 
 void PaintBarcode(PaintContext& context, const ObjectRecord& record) {
-  // A vertical code stands where its record says, whatever the zoom.
-  const double zoom = IsVerticalBarcode(record) ? 1 : context.ZoomFactor;
+  const double zoom = IsPaintedUnzoomed(record) ? 1 : context.ZoomFactor;
   PaintPlaceholder(context, AreaOf(record, context.document, zoom), SymbologyNameOf(record));
 }
 
 void PaintQr(PaintContext& context, ObjectRecord& record, int row) {
   record.PictureFile = QrImageName(context.images, row, record.Y);
   PaintPlaceholder(context, AreaOf(record, context.document, context.ZoomFactor), "QR");
-  PaintPicture(context, record);
 }
 
 void PaintChart(PaintContext& context, ObjectRecord& record, int row) {
   record.PictureFile = ChartImageName(context.images, row);
   PaintPlaceholder(context, AreaOf(record, context.document, context.ZoomFactor), ChartCaption(record));
-  PaintPicture(context, record);
 }
 
 }  // namespace kev

@@ -214,6 +214,37 @@ TEST_F(Arrival, AGivenWidthKeepsTheProportion) {
   EXPECT_EQ(PictureOf(*designer).Height, 300);
 }
 
+TEST_F(Arrival, APictureThatArrivesDuringTheReadBelongsToTheNewDocument) {
+  int arrived = 0;
+  host_.OnStep = [&] {
+    if (host_.Fetches.size() <= static_cast<std::size_t>(arrived)) return;
+    test::WriteBytes(host_.Fetches[0].File, Gif());
+    host_.Fetches[static_cast<std::size_t>(arrived++)].Done(true);
+  };
+  // Long enough for steps behind the picture.
+  std::string data = "{Pic=http://example.org/logo.gif,100,,}\r\n";
+  for (int line = 0; line < 300; ++line)
+    data += "{Spacing=10;\\n}\r\n";
+  const auto designer = Start({Made("a.kev", test::TemplateWith(data))});
+  ASSERT_EQ(arrived, 1);
+  EXPECT_EQ(PictureOf(*designer).Width, 300);
+  EXPECT_EQ(PictureOf(*designer).Height, 150);
+}
+
+TEST_F(Arrival, WhatPaintingMovesBehindAnArrivalIsPaintedAgain) {
+  const auto designer = Start({Remote("")});
+  ObjectRecord& picture = PictureOf(*designer);
+  picture.OwnerName.clear();
+  view_.Redrawn = 0;
+  view_.OnRedraw = [&] {
+    picture.AbsoluteY = view_.Redrawn == 1 ? picture.AbsoluteY + 5000 : picture.AbsoluteY;
+  };
+  test::WriteBytes(host_.Fetches.at(0).File, Gif());
+  host_.Fetches[0].Done(true);
+  EXPECT_FALSE(picture.OwnerName.empty()) << "the geometry was not derived";
+  EXPECT_GE(view_.Redrawn, 1);
+}
+
 TEST_F(Arrival, APictureThatDoesNotComeIsMissing) {
   const auto designer = Start({Remote("")});
   host_.Fetches.at(0).Done(false);

@@ -96,6 +96,25 @@ TEST_F(Pictures, NamesArePutIntoTheSystemsCharacters) {
             root_ / "work/caf\xC3\xA9.gif");
 }
 
+TEST_F(Pictures, BytesOfTheSystemGoBeforeThoseOfTheCodePage) {
+  test::WriteBytes(root_ / "work/caf\xC3\xA9.gif", "GIF89a\x14\0\x0A\0"s);
+  test::WriteBytes(root_ / "work/na\xEFve.gif", "GIF89a\x14\0\x0A\0"s);
+  for (const char* name : {"caf\xC3\xA9.gif", "na\xEFve.gif"}) {
+    EXPECT_EQ(source_.Look(name).File, name);
+    EXPECT_EQ(ResolvePictureFile(name, folders_, root_ / "work", CodePage::Default()),
+              root_ / (std::string("work/") + name));
+  }
+}
+
+TEST_F(Pictures, NothingRelativeIsFoundWithoutAFolder) {
+  const std::string before = std::filesystem::current_path();
+  test::WriteBytes(root_ / "work/a.png", "x");
+  std::filesystem::current_path(root_ / "work");
+  EXPECT_EQ(ResolvePictureFile("a.png", {}, {}, CodePage::Default()), std::nullopt);
+  EXPECT_EQ(ResolvePictureFile("\\a.png", {}, {}, CodePage::Default()), std::nullopt);
+  std::filesystem::current_path(before);
+}
+
 TEST_F(Pictures, WhatIsNowhereIsMissing) {
   for (const char* path :
        {"logo.png", "", "www.example.org", "c:\\pictures\\logo.png", "@logo", "$logo", "@folder/logo.png",
@@ -144,6 +163,8 @@ TEST_F(Pictures, ARecordsFileIsFoundInItsFolder) {
   EXPECT_EQ(resolve("\\Cache\\a.png"), root_ / "temp/Cache/a.png");
   EXPECT_EQ(resolve("a.png"), root_ / "work/a.png");
   EXPECT_EQ(resolve(root_ / "work/a.png"), root_ / "work/a.png");
+  EXPECT_EQ(resolve("\\CACHE\\A.png"), root_ / "temp/Cache/a.png");
+  EXPECT_EQ(resolve("\\Dashes.BMP"), root_ / "program/dashes.bmp");
   EXPECT_EQ(resolve("b.png"), std::nullopt);
   EXPECT_EQ(resolve(""), std::nullopt);
 }

@@ -6,9 +6,9 @@
 namespace kev {
 namespace {
 
-constexpr std::string_view kPages[] = {"windows-1250", "windows-1251", "windows-1252",
-                                       "windows-1253", "windows-1254", "windows-1255",
-                                       "windows-1256", "windows-1257", "windows-1258"};
+constexpr std::string_view kPages[] = {"windows-1250", "windows-1251", "windows-1252", "windows-1253",
+                                       "windows-1254", "windows-1255", "windows-1256", "windows-1257",
+                                       "windows-1258", "windows-874"};
 
 TEST(CodePage, IsFoundByNameInAnyCase) {
   for (const std::string_view name : kPages) {
@@ -48,6 +48,19 @@ TEST(CodePage, ComparesAndSearchesWithoutRegardToCase) {
   EXPECT_TRUE(page.ContainsIgnoringCase("x \xE9 y", "\xC9"));
   EXPECT_TRUE(page.ContainsIgnoringCase("", ""));
   EXPECT_FALSE(page.ContainsIgnoringCase("", "a"));
+}
+
+TEST(Utf8EqualsIgnoringCase, ComparesCharacters) {
+  EXPECT_TRUE(Utf8EqualsIgnoringCase("a\u00FC\u0448\u03C3\u20AC", "A\u00DC\u0428\u03A3\u20AC"));
+  EXPECT_TRUE(Utf8EqualsIgnoringCase("\U0001F600", "\U0001F600"));
+  EXPECT_FALSE(Utf8EqualsIgnoringCase("\u00DC", "\u00CC"));
+  EXPECT_FALSE(Utf8EqualsIgnoringCase("\u041A", "\u040A"));
+  EXPECT_FALSE(Utf8EqualsIgnoringCase("a", "ab"));
+  // Cut characters, bytes alone, and a letter that is written longer than it need be.
+  EXPECT_TRUE(Utf8EqualsIgnoringCase("A\xC3", "a\xC3"));
+  EXPECT_FALSE(Utf8EqualsIgnoringCase("\xE9", "\xC9"));
+  EXPECT_FALSE(Utf8EqualsIgnoringCase("\xE9", "\u00E9"));
+  EXPECT_FALSE(Utf8EqualsIgnoringCase("\xC1\x81", "A"));
 }
 
 TEST(CodePage, TurnsTextIntoUnicodeAndBack) {

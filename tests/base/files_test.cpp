@@ -91,6 +91,31 @@ TEST(WriteWholeFile, WritesThroughALinkAndLeavesItALink) {
   EXPECT_EQ(ReadBytes(folder / "real"), "y");
 }
 
+TEST(WriteWholeFile, WritesAFileOfTheLongestName) {
+  const TemporaryFolder folder;
+  for (const std::size_t length : {251U, 255U}) {
+    const std::string name(length, 'n');
+    EXPECT_FALSE(WriteWholeFile(folder / name, "bytes")) << length;
+    EXPECT_EQ(ReadBytes(folder / name), "bytes");
+  }
+}
+
+// What bears the name that it would take for the time of writing.
+TEST(WriteWholeFile, LeavesAlonePlantedLinksAndFiles) {
+  const TemporaryFolder folder;
+  WriteBytes(folder / "victim", "whole");
+  const std::string stem = ".kev" + std::to_string(::getpid()) + "-";
+  fs::create_symlink("victim", folder / (stem + "0"));
+  fs::create_symlink("none", folder / (stem + "1"));
+  WriteBytes(folder / (stem + "2"), "kept");
+  EXPECT_FALSE(WriteWholeFile(folder / "a", "new"));
+  EXPECT_EQ(ReadBytes(folder / "a"), "new");
+  EXPECT_EQ(ReadBytes(folder / "victim"), "whole");
+  EXPECT_EQ(ReadBytes(folder / (stem + "2")), "kept");
+  EXPECT_FALSE(fs::exists(folder / "none"));
+  EXPECT_EQ(NamesIn(folder / "").size(), 5U);
+}
+
 TEST(WriteWholeFile, SaysWhyWhereItCannotWrite) {
   const TemporaryFolder folder;
   const auto noFolder = WriteWholeFile(folder / "no/a", "x");
@@ -153,6 +178,24 @@ TEST(FindFile, FindsNothingForFoldersMissingFilesAndBlankPaths) {
   for (const std::string& path : {std::string("sub"), std::string("none.png"), std::string(),
                                   std::string("  "), std::string("a\0b", 3)})
     EXPECT_FALSE(FindFile(path, folder / "")) << path;
+}
+
+TEST(FindFile, TellsLettersBeyondAsciiApart) {
+  const TemporaryFolder folder;
+  WriteBytes(folder / "M\u00DCLLER.png", "x");  // U with dots
+  WriteBytes(folder / "\u041A.png", "x");       // Cyrillic ka
+  EXPECT_EQ(FindFile("m\u00FCller.PNG", folder / ""), folder / "M\u00DCLLER.png");
+  EXPECT_EQ(FindFile("\u043A.png", folder / ""), folder / "\u041A.png");
+  EXPECT_FALSE(FindFile("M\u00CCLLER.png", folder / ""));
+  EXPECT_FALSE(FindFile("\u040A.png", folder / ""));
+}
+
+TEST(FindFile, ComparesBytesThatAreNoUtf8AsTheyAre) {
+  const TemporaryFolder folder;
+  WriteBytes(folder / "caf\xE9.PNG", "x");
+  EXPECT_TRUE(FindFile("CAF\xE9.png", folder / ""));
+  EXPECT_FALSE(FindFile("caf\xC9.png", folder / ""));
+  EXPECT_FALSE(FindFile("caf\u00E9.png", folder / ""));
 }
 
 TEST(FindFile, ChoosesTheFirstNameWhereOnlyTheCaseDiffers) {

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <limits>
 
+#include "app/picture_source.h"
 #include "platform/qt_measurer.h"
 
 namespace kev {
@@ -43,8 +44,11 @@ class DisplayListTest : public testing::Test {
 
   QTemporaryDir folder_;
   FontCache fonts_;
-  ImageCache images_{
-      ResolverFor({.Program = KEV_PROGRAM_DIR, .Temp = {}, .Template = folder_.path().toStdString()})};
+  ImageCache images_{[this](std::string_view file) {
+    return ResolvePictureFile(file, {.TempFolder = {}, .DataFolder = {}, .ProgramFolder = KEV_PROGRAM_DIR},
+                              folder_.path().toStdString(), CodePage::Default())
+        .value_or(std::string());
+  }};
   DisplayList list_{fonts_, images_};
 };
 
@@ -89,6 +93,54 @@ TEST_F(DisplayListTest, OutlinesLeaveTheirInsideFree) {
   EXPECT_EQ(image.pixel(10, 10), 0xFF0000FF);
   EXPECT_EQ(image.pixel(30, 30), 0xFF0000FF);
   EXPECT_EQ(image.pixel(20, 20), kPaper);
+}
+
+TEST_F(DisplayListTest, FlatOutlinesAreLines) {
+  list_.SetPen(0xFF0000, 1, PenStyle::Solid);
+  list_.DrawRect(150, 300, 450, 300, false);
+  const QImage level = Painted();
+  EXPECT_EQ(Inked(level).height(), 1);
+  EXPECT_GE(Inked(level).width(), 20);
+  list_.ClearCanvas();
+  list_.SetPen(0xFF0000, 3, PenStyle::Solid);
+  list_.DrawRectColour(300, 150, 300, 450, 0x0000FF, false);
+  const QImage upright = Painted();
+  EXPECT_EQ(Inked(upright).width(), 3);
+  EXPECT_GE(Inked(upright).height(), 20);
+  EXPECT_EQ(upright.pixel(20, 20), 0xFF0000FF);
+  list_.ClearCanvas();
+  list_.DrawRect(300, 300, 300, 300, false);
+  EXPECT_EQ(Inked(Painted()).size(), QSize(3, 3));
+}
+
+TEST_F(DisplayListTest, FlatFilledBoxesAreAsThickAsTheirPen) {
+  for (const double pen : {1.0, 4.0}) {
+    list_.ClearCanvas();
+    list_.SetPen(0xFF0000, pen, PenStyle::Solid);
+    list_.DrawRect(150, 300, 450, 300, true);
+    EXPECT_EQ(Inked(Painted()).height(), pen);
+    list_.ClearCanvas();
+    list_.DrawRect(300, 150, 300, 450, true);
+    EXPECT_EQ(Inked(Painted()).width(), pen);
+  }
+}
+
+TEST_F(DisplayListTest, PenWidthsBeyondReasonAreLimited) {
+  for (const double width : {-300.0, 0.0, std::numeric_limits<double>::quiet_NaN()}) {
+    list_.ClearCanvas();
+    list_.SetPen(0xFF0000, width, PenStyle::Solid);
+    list_.DrawRect(150, 150, 900, 900, false);
+    list_.DrawLine(150, 1200, 900, 1200);
+    const QImage image = Painted();
+    EXPECT_EQ(image.pixel(30, 10), kRed) << width;
+    EXPECT_EQ(image.pixel(30, 60), kRed) << width;
+    EXPECT_EQ(Inked(image.copy(20, 70, 20, 20)).height(), 1) << width;
+  }
+  list_.SetCanvasSize(1500, 60000);
+  list_.ClearCanvas();
+  list_.SetPen(0xFF0000, 1e9, PenStyle::Solid);
+  list_.DrawLine(0, 30000, 1500, 30000);
+  EXPECT_EQ(Inked(Painted()).height(), 2000);
 }
 
 TEST_F(DisplayListTest, DottedPenHasGapsThatStayWhereTheyAre) {

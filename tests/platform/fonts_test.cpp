@@ -98,6 +98,7 @@ TEST_F(FontsTest, BytesAreReadThroughTheCharset) {
   EXPECT_EQ(fonts_.Text({.CharSet = "178"}, "\xC7"), u"\u0627");
   EXPECT_EQ(fonts_.Text({.CharSet = "186"}, "\xE0"), u"\u0105");
   EXPECT_EQ(fonts_.Text({.CharSet = "163"}, "\xE3"), u"\u0103");
+  EXPECT_EQ(fonts_.Text({.CharSet = "222"}, "\xA1\xDF\x80"), u"\u0E01\u0E3F\u20AC");
   EXPECT_EQ(fonts_.Text({.CharSet = "77"}, "\xE9"), u"\u00E9");
 }
 
@@ -105,6 +106,12 @@ TEST_F(FontsTest, CharsetOfZeroIsThePageOfTheDocument) {
   fonts_.SetPage(*CodePage::Find("windows-1251"));
   EXPECT_EQ(fonts_.Text({}, "\xC4"), u"\u0414");
   EXPECT_EQ(fonts_.Text({.CharSet = "238"}, "\xE8"), u"\u010D");
+}
+
+TEST_F(FontsTest, TheLargestFontKeepsItsSizeAtTheLargestZoom) {
+  EXPECT_DOUBLE_EQ(fonts_.Font({.Size = 720 * 8}, 96).pointSizeF(), 5760);
+  EXPECT_NEAR(measurer_.Measure({.Size = 720 * 8}, "M").Width,
+              measurer_.Measure({.Size = 720}, "M").Width * 8, 1);
 }
 
 TEST_F(FontsTest, SizesBeyondReasonDoNotFail) {

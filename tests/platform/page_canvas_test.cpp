@@ -79,6 +79,29 @@ TEST_F(PageCanvasTest, PageThatFitsHasNoScrollBars) {
   EXPECT_EQ(canvas_.horizontalScrollBar()->maximum(), 0);
 }
 
+TEST_F(PageCanvasTest, PageThatIsTallerOrWiderScrollsSomewhatBeyondItsEnd) {
+  EXPECT_EQ(canvas_.verticalScrollBar()->maximum(), 4134 - canvas_.viewport()->height());
+  EXPECT_EQ(canvas_.horizontalScrollBar()->maximum(), 2134 - canvas_.viewport()->width());
+  // One that the view just cuts off shows its end too.
+  list_.SetCanvasSize(1500, canvas_.viewport()->height() * 15);
+  canvas_.ShowList();
+  canvas_.EnsureVisible(list_.Canvas());
+  canvas_.verticalScrollBar()->setValue(canvas_.verticalScrollBar()->maximum());
+  EXPECT_LT(canvas_.ToViewport(list_.Canvas().bottomLeft()).y(), canvas_.viewport()->height());
+}
+
+TEST_F(PageCanvasTest, OverlaysEndBeforeTheirCanvasDoes) {
+  auto canvas = std::make_unique<PageCanvas>(list_);
+  auto* overlay = new QLabel(canvas->viewport());
+  canvas->PlaceOverlay(overlay, {0, 0, 150, 150});
+  const QObject* owner = canvas.get();
+  bool wholeThen = false;
+  QObject::connect(overlay, &QObject::destroyed,
+                   [&wholeThen, owner] { wholeThen = owner->inherits("kev::PageCanvas"); });
+  canvas.reset();
+  EXPECT_TRUE(wholeThen);
+}
+
 TEST_F(PageCanvasTest, OverlaysMoveWithThePage) {
   QLabel overlay(canvas_.viewport());
   canvas_.PlaceOverlay(&overlay, {1500, 3000, 600, 300});

@@ -8,7 +8,10 @@
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
+#include <memory>
 #include <optional>
+
+#include "platform/ftp_transfer.h"
 
 namespace kev {
 namespace {
@@ -128,7 +131,10 @@ class FtpServer {
   QUrl Address(const QString& path) const {
     return QUrl(QStringLiteral("ftp://127.0.0.1:%1%2").arg(control_.serverPort()).arg(path));
   }
+  // The connection of the data is left open behind the file.
+  void KeepDataOpen() { keepDataOpen_ = true; }
   QList<QByteArray> commands;
+  bool confirmed = false;
 
  private:
   void Answer(QTcpSocket& socket, const QByteArray& command) {
@@ -148,12 +154,14 @@ class FtpServer {
     if (data_.hasPendingConnections() || data_.waitForNewConnection(2000)) {
       QTcpSocket* data = data_.nextPendingConnection();
       data->write(file_);
-      data->disconnectFromHost();
+      if (!keepDataOpen_) data->disconnectFromHost();
     }
     socket.write("226 Done\r\n");
+    confirmed = true;
   }
 
   QByteArray file_;
+  bool keepDataOpen_ = false;
   QTcpServer control_;
   QTcpServer data_;
 };
@@ -164,6 +172,21 @@ TEST_F(PictureFetcherTest, APictureComesByFtp) {
   EXPECT_EQ(FetchAndWait(fetcher, server.Address(QStringLiteral("/pics/logo.png"))), true);
   EXPECT_EQ(Written(), "picture by ftp");
   EXPECT_EQ(server.commands.first(), "USER anonymous");
+}
+
+// All was confirmed, only the data has not ended: the end of the transfer itself ends it.
+TEST_F(PictureFetcherTest, ATransferThatIsDestroyedOnItsWayTellsNothing) {
+  FtpServer server("picture by ftp");
+  server.KeepDataOpen();
+  auto transfer =
+      std::make_unique<FtpTransfer>(server.Address(QStringLiteral("/pics/logo.png")), qint64{1} << 20);
+  int told = 0;
+  QObject::connect(transfer.get(), &FtpTransfer::Finished, [&told] { ++told; });
+  transfer->Start();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return transfer->Bytes().size() == 14 && server.confirmed; }));
+  QTest::qWait(20);
+  transfer.reset();
+  EXPECT_EQ(told, 0);
 }
 
 TEST_F(PictureFetcherTest, AFileThatTheFtpServerLacksFails) {

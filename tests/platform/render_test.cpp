@@ -26,7 +26,7 @@ class RenderTest : public testing::Test {
     const int box = AddRow(document_, ObjectKind::Box, "1500", 1000, 600, 300);
     document_.Objects[box].ColorR = 255;
     document_.Objects[box].Filled = kTrue;
-    options_.folders.Program = KEV_PROGRAM_DIR;
+    options_.folders.ProgramFolder = KEV_PROGRAM_DIR;
   }
 
   QImage Image() {
@@ -151,7 +151,8 @@ TEST(RenderExamples, EveryExampleIsPaintedAtEveryZoom) {
         ReadTemplate(examples.filePath(name).toStdString(), {.Measurer = measurer, .Pictures = pictures});
     ASSERT_TRUE(read) << name.toStdString();
     RenderOptions options;
-    options.folders = {KEV_PROGRAM_DIR, "", KEV_EXAMPLES_DIR};
+    options.folders.ProgramFolder = KEV_PROGRAM_DIR;
+    options.TemplateFolder = KEV_EXAMPLES_DIR;
     for (const double zoom : {0.25, 1.0, 2.0}) {
       options.ZoomFactor = zoom;
       const auto image = RenderToImage(read->Read, options);

@@ -29,6 +29,7 @@ class ScriptedHost final : public Host {
   std::deque<std::optional<std::string>> FilesToOpen, FilesToSave;
   std::vector<FileChoice> Choices;
   std::vector<Fetch> Fetches;
+  std::function<void()> OnStep;  // what happens in the window while it shows progress
 
   BoxAnswer ShowMessage(const MessageBox& box) override {
     Messages.push_back(box);
@@ -44,7 +45,10 @@ class ScriptedHost final : public Host {
     ++ProgressBegun;
     ProgressMaximum = maximum;
   }
-  void StepProgress(int value, std::string_view) override { ProgressValue = value; }
+  void StepProgress(int value, std::string_view) override {
+    ProgressValue = value;
+    if (OnStep) OnStep();
+  }
   void EndProgress() override { ++ProgressEnded; }
   std::optional<std::string> ChooseFileToOpen(const FileChoice& choice) override {
     Choices.push_back(choice);

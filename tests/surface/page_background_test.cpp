@@ -53,10 +53,9 @@ TEST_F(PageBackgroundTest, GridLiesInBodiesOnly) {
   EXPECT_EQ(Drawn(2, {.GridStep = 100, .DrawGrid = true}),
             "canvas 20000 5960\n"
             "scaleleft 0\n"
-            "pen C4C9D2 1\n"
+            "pen 787878 1\n"
             "dots 0 800 20000 2000 200\n"
-            "dots 0 3200 20000 3800 200\n"
-            "pen 787878 1\n");
+            "dots 0 3200 20000 3800 200\n");
 }
 
 TEST_F(PageBackgroundTest, DotsStayTwoPixelsApart) {

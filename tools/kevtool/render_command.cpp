@@ -37,8 +37,8 @@ int Render(const RenderChoice& choice) {
   options.scale = choice.scale;
   options.filter = FilterOf(choice.filter);
   options.grid = choice.grid;
-  options.folders.Program = QGuiApplication::applicationDirPath().toStdString();
-  options.folders.Template = FolderOf(AbsolutePath(choice.in));
+  options.folders.ProgramFolder = QGuiApplication::applicationDirPath().toStdString();
+  options.TemplateFolder = FolderOf(AbsolutePath(choice.in));
   if (const auto reason = RenderToFile(outcome->Read, options, choice.out)) {
     std::cerr << choice.out << ": " << *reason << '\n';
     return kRefused;
