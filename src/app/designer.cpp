@@ -6,6 +6,7 @@
 #include <new>
 
 #include "app/image_size.h"
+#include "app/message_texts.h"
 #include "app/text_numbers.h"
 #include "base/files.h"
 #include "base/numbers.h"
@@ -124,9 +125,10 @@ void Designer::TellFailure(const GuardedWork& work, const std::string& reason) {
   } catch (const std::exception&) {
     // Painting may be what failed; the message below is about that then.
   }
+  const std::string said = ReasonInLanguage(texts_, reason);
   if (work.Message == kTextReadFailed) return TellReadFailure(work.Path, reason);
   ShowText(work.Message == 0 ? kTextOperationFailed : work.Message, BoxIcon::Critical,
-           work.Path.empty() ? reason : work.Path + "\r\n" + reason);
+           work.Path.empty() ? said : work.Path + "\r\n" + said);
 }
 
 void Designer::MarkModified() {

@@ -175,6 +175,7 @@ class Designer {
 
   void DecideTemplate();
   void TellMissingFolders();
+  void TellUnknownSettings();
   void WriteLastRunOptions();
   void RefuseMissing(const std::string& path, OpenedFrom from);
   void TellReadFailure(const std::string& path, const std::string& reason);
@@ -184,6 +185,7 @@ class Designer {
   void Adopt(ReadOutcome outcome, const std::string& path);
   bool SaveTo(const std::string& path);
   std::optional<std::string> ChooseTarget();
+  std::string SampleDataPath() const;
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);

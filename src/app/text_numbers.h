@@ -448,7 +448,7 @@ inline constexpr int kTextRecordTooLong = 1230;
 inline constexpr int kTextStop = 1231;
 inline constexpr int kTextReadBackDiffers = 1232;
 inline constexpr int kTextQuickNoDataFile = 1233;
-inline constexpr int kTextRelativePicturesMissing = 1234;
+inline constexpr int kTextRelativeFilesMissing = 1234;
 
 // Kinds of findings
 inline constexpr int kTextFindingUnknownKey = 1235;
