@@ -9,7 +9,7 @@ namespace kev {
 namespace {
 
 constexpr std::string_view kLinkPrefix = "EDITKEVTEMPLATE:";
-constexpr std::string_view kFilePrefix = "file://";
+constexpr std::string_view kFilePrefix = "FILE://";
 
 std::string Joined(std::span<const std::string> arguments) {
   std::string line;
@@ -22,8 +22,13 @@ bool NamesSomething(const std::string& path) {
   return FileExists(path) || FolderExists(path);
 }
 
+// `capitals` in any case.
+bool StartsWith(std::string_view text, std::string_view capitals) {
+  return CodePage::Default().Upper(text.substr(0, capitals.size())) == capitals;
+}
+
 bool IsLink(std::string_view text) {
-  return CodePage::Default().Upper(text.substr(0, kLinkPrefix.size())) == kLinkPrefix;
+  return StartsWith(text, kLinkPrefix);
 }
 
 int HexDigit(char c) {
@@ -57,15 +62,23 @@ std::string BlanksForEscapes(std::string_view text) {
   return result;
 }
 
+// Without "file://" and this machine's name.
+std::string_view PathOfAddress(std::string_view address) {
+  constexpr std::string_view kThisMachine = "LOCALHOST/";
+  address.remove_prefix(kFilePrefix.size());
+  if (StartsWith(address, kThisMachine)) address.remove_prefix(kThisMachine.size() - 1);
+  return address;
+}
+
 // A link may carry an address instead of a path.
 std::string PathOfLink(std::string_view text) {
   std::string path = BlanksForEscapes(text);
   if (FileExists(path)) return path;
-  const bool address = CodePage::Default().Upper(text.substr(0, kFilePrefix.size())) == "FILE://";
-  std::string decoded = DecodeEscapes(address ? text.substr(kFilePrefix.size()) : text);
+  const bool address = StartsWith(text, kFilePrefix);
+  std::string decoded = DecodeEscapes(address ? PathOfAddress(text) : text);
   // A file name can't hold the character 0; what follows it would silently be cut off.
-  const bool usable = decoded.find('\0') == std::string::npos && FileExists(decoded);
-  return usable ? decoded : path;
+  if (decoded.find('\0') != std::string::npos) return path;
+  return address || FileExists(decoded) ? decoded : path;
 }
 
 }  // namespace
@@ -79,7 +92,11 @@ CommandLineParts ParseCommandLine(std::span<const std::string> arguments) {
   }
   const std::string line = Joined(arguments);
   parts.CommandLine = std::string(Trim(line));
-  if (NamesSomething(line)) return parts;
+  if (NamesSomething(line)) {
+    // Blanks at its ends belong to its name.
+    parts.CommandLine = line;
+    return parts;
+  }
 
   const std::string padded = kBlank + line;
   const std::size_t start = padded.rfind(" /");
@@ -96,7 +113,9 @@ CommandLineParts ParseCommandLine(std::span<const std::string> arguments) {
 }
 
 std::string ResolveTemplatePath(std::string_view commandLine) {
-  std::string path(Trim(commandLine));
+  std::string path(commandLine);
+  if (NamesSomething(path) && !IsLink(path)) return AbsolutePath(path);
+  path = Trim(commandLine);
   if (IsLink(path)) path = PathOfLink(Trim(std::string_view(path).substr(kLinkPrefix.size())));
   return path.empty() ? path : AbsolutePath(path);
 }

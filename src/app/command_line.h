@@ -10,14 +10,17 @@
 namespace kev {
 
 struct CommandLineParts {
-  std::string CommandLine;     // the path, trimmed; native bytes; may still carry the prefix of a link
+  // The path, native bytes; may still carry the prefix of a link. Without blanks at its ends, unless they
+  // belong to the name of a file that exists.
+  std::string CommandLine;
   std::string CommandOptions;  // what stands between the first two "/" of the option tail
   bool Help = false;           // a lone --help
   bool Version = false;        // a lone --version
 
   // Comment lines in the templates that are written.
   bool WriterComments() const { return CommandOptions.find("!!#") != std::string::npos; }
-  // The path is opened as it stands, without checks.
+  // The template of this command line is opened as it stands, without checks; one that is opened later is
+  // not.
   bool SkipsChecks() const { return CommandOptions.find("%%!") != std::string::npos; }
 };
 
@@ -25,7 +28,8 @@ struct CommandLineParts {
 CommandLineParts ParseCommandLine(std::span<const std::string> arguments);
 
 // The template that the remaining text means, absolute: the prefix of a link is cut, "%20" becomes a blank,
-// and where no such file exists "file://" is cut and all escapes are decoded. Empty stays empty.
+// and where no such file exists "file://" and "localhost" are cut and all escapes are decoded. Empty stays
+// empty.
 std::string ResolveTemplatePath(std::string_view commandLine);
 
 // For --help and --version.

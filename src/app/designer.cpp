@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "app/image_size.h"
+#include "app/message_texts.h"
 #include "app/text_numbers.h"
 #include "base/files.h"
 #include "base/numbers.h"
@@ -168,9 +169,10 @@ void Designer::TellFailure(const GuardedWork& work, const std::string& reason) {
     // Painting may be what failed; the message below is about that then.
   }
   try {
+    const std::string said = ReasonInLanguage(texts_, reason);
     if (work.Message == kTextReadFailed) return TellReadFailure(work.Path, reason);
     ShowText(work.Message == 0 ? kTextOperationFailed : work.Message, BoxIcon::Critical,
-             work.Path.empty() ? reason : work.Path + "\r\n" + reason);
+             work.Path.empty() ? said : work.Path + "\r\n" + said);
   } catch (const std::exception&) {
     // Not even a box could be had.
     std::cerr << "kev: " << reason << '\n';

@@ -187,6 +187,7 @@ class Designer {
 
   void DecideTemplate();
   void TellMissingFolders();
+  void TellUnknownSettings();
   std::optional<FileFailure> WriteLastRunOptions();
   void RefuseMissing(const std::string& path, OpenedFrom from);
   void TellReadFailure(const std::string& path, const std::string& reason);
@@ -197,6 +198,7 @@ class Designer {
   void ShowAdopted(std::vector<Finding> findings);
   bool SaveTo(const std::string& path);
   std::optional<std::string> ChooseTarget();
+  std::string SampleDataPath() const;
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "app/text_numbers.h"
 #include "base/code_page.h"
 #include "base/files.h"
 #include "base/key_file.h"
@@ -82,14 +83,16 @@ std::optional<FileFailure> WriteActiveLanguage(const DesignerFolders& folders, c
   return WriteWholeFile(path, WithLanguage(bytes ? *bytes : std::string(), letter));
 }
 
-std::vector<std::string> MissingFolders(const DesignerFolders& folders) {
-  std::vector<std::string> missing;
-  for (const std::string& folder :
-       {folders.TempFolder, InTempFolder(folders, "\\Cache"), InTempFolder(folders, "\\Temp"),
-        folders.DataFolder, InDataFolder(folders, "\\temp")}) {
-    if (!FolderExists(folder)) missing.push_back(folder);
-  }
-  return missing;
+std::vector<MissingFolder> MissingFolders(const DesignerFolders& folders) {
+  std::vector<MissingFolder> expected = {
+      {folders.TempFolder, kTextFolderRoleWork},
+      {InTempFolder(folders, "\\Cache"), kTextFolderRoleCache},
+      {InTempFolder(folders, "\\Temp"), kTextFolderRoleUnpacking},
+      {folders.DataFolder, kTextFolderRoleData},
+      {InDataFolder(folders, "\\temp"), kTextFolderRoleRecent},
+  };
+  std::erase_if(expected, [](const MissingFolder& folder) { return FolderExists(folder.Path); });
+  return expected;
 }
 
 std::string InTempFolder(const DesignerFolders& folders, std::string_view name) {

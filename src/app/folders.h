@@ -34,8 +34,12 @@ char FindActiveLanguage(const DesignerFolders& folders);
 // For the next start: into `\activelang` of DataFolder. Only its line changes; the others stay.
 std::optional<FileFailure> WriteActiveLanguage(const DesignerFolders& folders, char letter);
 
+struct MissingFolder {
+  std::string Path;
+  int RoleText = 0;  // number of the text that says what needs the folder
+};
 // Those of the expected folders that are not there.
-std::vector<std::string> MissingFolders(const DesignerFolders& folders);
+std::vector<MissingFolder> MissingFolders(const DesignerFolders& folders);
 
 // "\Name" as a record or the theme writes it, in the folder.
 std::string InTempFolder(const DesignerFolders& folders, std::string_view name);

@@ -27,7 +27,15 @@ std::optional<int> LineNumber(std::string_view decoded) {
   }
   int number = 0;
   std::from_chars(digits.data(), digits.data() + digits.size(), number);
-  return number <= kHighestTextNumber ? std::optional(number) : std::nullopt;
+  return number;
+}
+
+bool IsLetter(char c) {
+  return c >= 'A' && c <= 'Z';
+}
+
+FileFailure Corrupted() {
+  return {{}, "not a language file"};
 }
 
 std::string LineText(std::string_view decoded) {
@@ -40,20 +48,24 @@ void LanguageTexts::SetText(int number, std::string text) {
   texts_.at(static_cast<std::size_t>(number)) = std::move(text);
 }
 
-LanguageTexts LoadLanguageBytes(std::string_view bytes, char activeLanguage) {
+Result<LanguageTexts> LoadLanguageBytes(std::string_view bytes, char activeLanguage) {
   LanguageTexts texts;
   std::string fallback;
+  bool anyLine = false;
   for (const std::string_view scrambled : SplitLines(bytes)) {
     const std::string line = ShiftText(Trim(scrambled), kLanguageFileKey);
     if (line.starts_with('E')) {
       fallback = LineText(line);
     }
     const std::optional<int> number = LineNumber(line);
+    anyLine = anyLine || (number && IsLetter(line.front()));
     if (number && line.front() == activeLanguage) {
+      if (*number > kHighestTextNumber) return Corrupted();
       const std::string text = LineText(line);
       texts.SetText(*number, text.empty() ? fallback : text);
     }
   }
+  if (!anyLine) return Corrupted();
   return texts;
 }
 
@@ -62,7 +74,9 @@ Result<LanguageTexts> LoadLanguage(const std::string& path, char activeLanguage)
   if (!bytes) {
     return bytes.Error();
   }
-  return LoadLanguageBytes(*bytes, activeLanguage);
+  Result<LanguageTexts> texts = LoadLanguageBytes(*bytes, activeLanguage);
+  if (!texts) return FileFailure{path, texts.Error().reason};
+  return texts;
 }
 
 std::string_view HelpLanguageWord(char activeLanguage) {

@@ -34,11 +34,13 @@ inline constexpr std::string_view kLanguageErrorText =
 
 // Reads a language file for `activeLanguage` (one upper-case letter: E, S, I or P). A text whose translation
 // is empty is that of the English line before it. A language without lines gives empty texts; lines that mean
-// nothing are passed over. Fails where the file can't be read as a whole.
+// nothing are passed over. Fails where the file can't be read as a whole, and where it is no language file:
+// when no line of it holds a letter and a number, or one of the active language a number above
+// kHighestTextNumber.
 Result<LanguageTexts> LoadLanguage(const std::string& path, char activeLanguage);
 
 // The same for what such a file holds; any bytes will do.
-LanguageTexts LoadLanguageBytes(std::string_view bytes, char activeLanguage);
+Result<LanguageTexts> LoadLanguageBytes(std::string_view bytes, char activeLanguage);
 
 // Language word in the address of the documentation: "esp" for Spanish, "eng" for every other language.
 std::string_view HelpLanguageWord(char activeLanguage);

@@ -5,10 +5,12 @@
 
 #include "app/designer.h"
 #include "app/host_progress.h"
+#include "app/message_texts.h"
 #include "app/read_back.h"
 #include "app/text_numbers.h"
 #include "base/files.h"
 #include "base/text.h"
+#include "chart/definition.h"
 #include "document/sections.h"
 #include "template/skeleton.h"
 #include "template/template_check.h"
@@ -38,18 +40,27 @@ bool IsTemplateName(std::string_view path) {
   return CodePage::Default().Upper(path).ends_with(".KEV");
 }
 
-// Pictures that are named relative to the folder that the template has left.
-std::vector<Finding> LostPictures(const Document& document, const std::string& oldFolder,
-                                  const std::string& newFolder) {
+// The file that an object names; empty where it names none.
+std::string FileNamedBy(const ObjectRecord& record) {
+  if (record.Kind == ObjectKind::Picture) return record.PicturePath;
+  if (record.Kind != ObjectKind::Chart) return {};
+  const std::size_t background = *ChartKeyIndex("GRAPH_BACKGROUND_PICTURE");
+  return background < record.ChartValues.size() ? record.ChartValues[background] : std::string();
+}
+
+// Files that are named relative to the folder that the template has left.
+std::vector<Finding> LostFiles(const Document& document, const std::string& oldFolder,
+                               const std::string& newFolder) {
   std::vector<Finding> lost;
   if (oldFolder == newFolder) return lost;
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    const ObjectRecord& record = document.Objects[row];
-    if (record.Kind != ObjectKind::Picture) continue;
-    const std::string path = document.Page->ToUtf8(record.PicturePath);
+  const auto look = [&](const std::string& name, int row) {
+    const std::string path = document.Page->ToUtf8(name);
     if (FindFile(path, oldFolder) && !FindFile(path, newFolder))
-      lost.push_back({0, 0, FindingKind::MissingFile, record.PicturePath, row});
-  }
+      lost.push_back({0, 0, FindingKind::MissingFile, name, row});
+  };
+  look(document.Settings[Setting::Sample_Kex_file], 0);
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row)
+    look(FileNamedBy(document.Objects[row]), row);
   return lost;
 }
 
@@ -57,8 +68,9 @@ std::vector<Finding> LostPictures(const Document& document, const std::string& o
 
 bool Designer::OpenTemplate(const std::string& path, OpenedFrom from) {
   const std::string file = FindFile(path, {}).value_or(path);
+  const bool checked = from != OpenedFrom::Start || !command_.SkipsChecks();
   std::error_code ignored;
-  if (!command_.SkipsChecks() && !std::filesystem::exists(file, ignored)) {
+  if (checked && !std::filesystem::exists(file, ignored)) {
     RefuseMissing(path, from);
     return false;
   }
@@ -67,7 +79,7 @@ bool Designer::OpenTemplate(const std::string& path, OpenedFrom from) {
     TellReadFailure(path, bytes.Error().reason);
     return false;
   }
-  if (!command_.SkipsChecks() && Refuse(file, *bytes)) return false;
+  if (checked && Refuse(file, *bytes)) return false;
   if (ReadAndAdopt(AbsolutePath(file), *bytes)) return true;
   NewTemplate();
   return false;
@@ -79,7 +91,8 @@ void Designer::RefuseMissing(const std::string& path, OpenedFrom from) {
 }
 
 void Designer::TellReadFailure(const std::string& path, const std::string& reason) {
-  host_.ShowMessage({Text(kTextProgramTitle), Text(kTextReadFailed) + "\r\nFile: ", path + "\r\n" + reason});
+  host_.ShowMessage({Text(kTextProgramTitle),
+                     Text(kTextReadFailed) + "\r\nFile: ", path + "\r\n" + ReasonInLanguage(texts_, reason)});
 }
 
 bool Designer::Refuse(const std::string& path, std::string_view bytes) {
@@ -199,11 +212,20 @@ std::optional<std::string> Designer::ChooseTarget() {
   }
 }
 
+// Where the sample data lies or should lie; empty where the document names none.
+std::string Designer::SampleDataPath() const {
+  const std::string named(Trim(document_.Page->ToUtf8(document_.Settings[Setting::Sample_Kex_file])));
+  if (named.empty()) return {};
+  const std::filesystem::path missing = std::filesystem::path(TemplateFolder()) / named;
+  return FindFile(named, TemplateFolder()).value_or(missing.string());
+}
+
 WriteReport Designer::WriteDocument(const std::string& path) {
-  const std::string& sample = document_.Settings[Setting::Sample_Kex_file];
-  samples_.Renew(folders_.TempFolder, input_.Clock(),
-                 FindFile(document_.Page->ToUtf8(sample), TemplateFolder()).value_or(""), path);
-  return WriteTemplate(path, document_, WriteOptions{command_.WriterComments()});
+  std::optional<FileFailure> sampleFailure =
+      samples_.Renew(folders_.TempFolder, input_.Clock(), SampleDataPath(), path);
+  WriteReport report = WriteTemplate(path, document_, WriteOptions{command_.WriterComments()});
+  report.SampleFailure = std::move(sampleFailure);
+  return report;
 }
 
 bool Designer::SaveTo(const std::string& path) {
@@ -213,7 +235,8 @@ bool Designer::SaveTo(const std::string& path) {
   if (!done || report.Failure) {
     host_.ShowStatus("");
     if (report.Failure)
-      ShowText(kTextWriteFailed, BoxIcon::Critical, report.Failure->path + "\r\n" + report.Failure->reason);
+      ShowText(kTextWriteFailed, BoxIcon::Critical,
+               report.Failure->path + "\r\n" + ReasonInLanguage(texts_, report.Failure->reason));
     return false;
   }
   const std::string oldFolder = TemplateFolder();
@@ -234,14 +257,14 @@ void Designer::CheckSaved(const std::string& path, const std::string& oldFolder)
   GuardedView([&] {
     ReadBack back = ReadBackFrom(path);
     const bool same = back.Same();
-    const std::vector<Finding> missing = LostPictures(document_, oldFolder, FolderOf(path));
+    const std::vector<Finding> missing = LostFiles(document_, oldFolder, FolderOf(path));
     back.Findings.insert(back.Findings.end(), missing.begin(), missing.end());
     if (back.Structure) {
       host_.ShowStatus(Text(kTextReadBackDiffers));
     } else if (!same) {
       host_.ShowStatus(Text(kTextSavedWithFindings));
     } else if (!missing.empty()) {
-      host_.ShowStatus(Text(kTextRelativePicturesMissing));
+      host_.ShowStatus(Text(kTextRelativeFilesMissing));
     }
     SetFindings(std::move(back.Findings));
   });
@@ -253,7 +276,9 @@ ReadBack Designer::ReadBackFrom(const std::string& path) {
   ReadServices services{measurer_, pictures, settings_.DefaultPaperSize, document_.Page, nullptr};
   Result<ReadOutcome> outcome = ReadTemplate(path, services);
   if (!outcome) {
-    return {{{0, 0, FindingKind::WillNotComeBack, outcome.Error().reason, 0}}, true};
+    const std::string reason = ReasonInLanguage(texts_, outcome.Error().reason);
+    return {{{0, 0, FindingKind::WillNotComeBack, document_.Page->FromUtf8(reason).value_or(reason), 0}},
+            true};
   }
   DeriveGeometry(outcome->Read);
   return CompareReadBack(document_, outcome->Read);

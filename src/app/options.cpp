@@ -8,6 +8,7 @@
 #include "app/key_values.h"
 #include "base/files.h"
 #include "base/key_file.h"
+#include "base/text.h"
 #include "document/papers.h"
 
 namespace kev {
@@ -29,6 +30,15 @@ constexpr bool NotZero(std::int32_t value) {
 constexpr bool FontSize(std::int32_t value) {
   return value > 0 && value <= 72;
 }
+// Red, green and blue: three whole numbers from 0 to 255.
+bool IsColour(std::string_view value) {
+  const auto isPart = [](std::string_view part) {
+    return !part.empty() && part.size() <= 3 &&
+           part.find_first_not_of("0123456789") == std::string_view::npos && NumericPrefix(part) <= 255;
+  };
+  return std::count(value.begin(), value.end(), ',') == 2 && isPart(Trim(NthToken(value, 1, ','))) &&
+         isPart(Trim(NthToken(value, 2, ','))) && isPart(Trim(NthToken(value, 3, ',')));
+}
 constexpr bool PanelPlace(std::int32_t value) {
   return value == kPanelClosed || value == 0 || value == 1 || value == 3;
 }
@@ -39,6 +49,7 @@ struct OptionRow {
   Written written = Written::AlsoFirst;
   Accepts accepts = Any;
   std::string_view readKey = {};  // where the file is asked for another key than the one written
+  bool colour = false;            // a text that must be a colour
 };
 
 using O = DesignerOptions;
@@ -55,14 +66,14 @@ constexpr auto kOptions = std::to_array<OptionRow>({
     {"PROPFIXWIDTH", &O::PropFixWidth, Written::AlsoFirst, NotZero},
     {"LAST_FONTNAME", &O::LastFontName},
     {"LAST_FONTSIZE", &O::LastFontSize, Written::AlsoFirst, FontSize},
-    {"LAST_FONTCOLOR", &O::LastFontColor},
+    {"LAST_FONTCOLOR", &O::LastFontColor, Written::AlsoFirst, Any, {}, true},
     {"LAST_FONTUNDERLINE", &O::LastFontUnderline},
     {"LAST_FONTITALIC", &O::LastFontItalic},
     {"LAST_TEXTBOX_FONTNAME", &O::LastTextBoxFontName, Written::OnlyFirst},
     {"LAST_TEXTBOX_FONTSIZE", &O::LastTextBoxFontSize, Written::OnlyFirst, FontSize},
-    {"LAST_TEXTBOX_FONTCOLOR", &O::LastTextBoxFontColor, Written::OnlyFirst},
+    {"LAST_TEXTBOX_FONTCOLOR", &O::LastTextBoxFontColor, Written::OnlyFirst, Any, {}, true},
     {"LAST_TEXTBOX_BACKCOLOR", &O::LastTextBoxBackColor, Written::OnlyFirst, Any,
-     "LAST_TEXTBOX_BACKFONTCOLOR"},
+     "LAST_TEXTBOX_BACKFONTCOLOR", true},
     {"LAST_TEXTBOX_FONTUNDERLINE", &O::LastTextBoxFontUnderline, Written::OnlyFirst},
     {"LAST_TEXTBOX_FONTCHARSET", &O::LastTextBoxFontCharSet, Written::OnlyFirst},
     {"LAST_TEXTBOX_FONTITALIC", &O::LastTextBoxFontItalic, Written::OnlyFirst},
@@ -83,7 +94,7 @@ struct Reader {
   void operator()(std::int32_t& field) const { field = Number().value_or(field); }
   void operator()(std::optional<std::int32_t>& field) const { field = Number(); }
   void operator()(std::string& field) const {
-    if (!value.empty()) field = value;
+    if (!value.empty() && (!row.colour || IsColour(value))) field = value;
   }
   void operator()(bool& field) const { field = value == "Y"; }
 };
@@ -106,6 +117,11 @@ std::string Lines(const DesignerOptions& options, Written leftOut) {
     text += "\r\n";
   }
   return text;
+}
+
+// One more than the highest number does not fit and counts as 0.
+int SessionAfter(std::string_view bytes) {
+  return std::max(1, ToInt32(NumericPrefix(KeyFile(bytes).Value("SESSID")) + 1));
 }
 
 std::int32_t MovedIn(std::int32_t place, std::int32_t size, std::int32_t from, std::int32_t room) {
@@ -148,18 +164,30 @@ UserSettings LoadUserSettings(const std::string& path) {
   const KeyFile keys(bytes ? std::string_view(*bytes) : std::string_view());
   UserSettings settings;
   if (std::string editor = keys.Value("DEFAULT_EDITOR"); !editor.empty()) settings.DefaultEditor = editor;
+  const std::string paper = keys.Value("DEFAULT_PAPERSIZE");
+  const std::string page = keys.Value("CODEPAGE");
   // A paper that the table does not hold has no size to give to a page.
-  if (std::string paper = keys.Value("DEFAULT_PAPERSIZE"); LookupPaper(paper))
+  if (LookupPaper(paper)) {
     settings.DefaultPaperSize = paper;
-  settings.CodePageName = keys.Value("CODEPAGE");
+  } else if (!paper.empty()) {
+    settings.Unknown.push_back({"DEFAULT_PAPERSIZE", paper});
+  }
+  if (const CodePage* known = CodePage::Find(page)) {
+    settings.Page = known;
+  } else if (!page.empty()) {
+    settings.Unknown.push_back({"CODEPAGE", page});
+  }
   return settings;
 }
 
 int NextSession(const std::string& path) {
-  const double last = FileExists(path) ? NumericPrefix(ReadKey(path, "SESSID")) : 0;
-  const int session = ToInt32(last + 1);
+  const Result<std::string> last = ReadWholeFile(path);
+  int session = last ? SessionAfter(*last) : 1;
   // A counter that can't be written only makes two runs share a number.
-  static_cast<void>(WriteWholeFile(path, "SESSID=" + std::to_string(session) + "\r\n"));
+  static_cast<void>(RewriteLocked(path, [&session](std::string_view bytes) {
+    session = SessionAfter(bytes);
+    return "SESSID=" + std::to_string(session) + "\r\n";
+  }));
   return session;
 }
 

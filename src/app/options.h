@@ -6,7 +6,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "base/code_page.h"
 #include "base/result.h"
 
 namespace kev {
@@ -49,7 +52,7 @@ struct DesignerOptions {
   bool operator==(const DesignerOptions&) const = default;
 };
 
-// The options of a text; what is missing, empty or no number gets its default.
+// The options of a text; what is missing, empty, no number or no colour gets its default.
 DesignerOptions ReadOptions(std::string_view bytes);
 // What a first run writes: no heading, and the text box's keys among them.
 std::string FirstOptionsText();
@@ -69,15 +72,22 @@ struct PanelArea {
 // A panel that a former screen had room for comes back into sight; its left top corner counts most.
 void MovePanelIn(PanelArea& panel, const PanelArea& screen);
 
+struct UnknownSetting {
+  std::string_view Key;
+  std::string Value;
+};
 // What only the user writes, by hand.
 struct UserSettings {
   std::string DefaultEditor = "notepad";
   std::string DefaultPaperSize = "A4";
-  std::string CodePageName;  // empty for the page of the four languages
+  const CodePage* Page = &CodePage::Default();
+  // What stands in the file and means nothing, so that the default holds.
+  std::vector<UnknownSetting> Unknown;
 };
 UserSettings LoadUserSettings(const std::string& path);
 
-// Counts this run and gives its number; 1 where the counter cannot be read.
+// Counts this run and gives its number; 1 where the counter cannot be read, and behind the highest number.
+// Runs that start at the same time get numbers of their own.
 int NextSession(const std::string& path);
 
 }  // namespace kev

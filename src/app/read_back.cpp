@@ -235,13 +235,13 @@ class Comparison {
   }
 
  private:
-  void Note(int row, std::string text) {
+  void Note(int row, FindingKind kind, std::string text) {
     if (result_.Findings.size() < kMostFindings)
-      result_.Findings.push_back({0, 0, FindingKind::WillNotComeBack, std::move(text), row});
+      result_.Findings.push_back({0, 0, kind, std::move(text), row});
   }
-  void NoteStructure(int row, std::string text) {
+  void NoteStructure(int row, FindingKind kind, std::string text) {
     result_.Structure = true;
-    Note(row, std::move(text));
+    Note(row, kind, std::move(text));
   }
 
   void Rows() {
@@ -252,7 +252,7 @@ class Comparison {
       if (!item.matched) MatchDifferent(item, read);
     }
     for (const Item& item : read) {
-      if (!item.matched) NoteStructure(0, std::string(KindText(item.kind)) + " appears: " + Shown(item));
+      if (!item.matched) NoteStructure(0, FindingKind::ObjectAppears, Shown(item));
     }
   }
 
@@ -279,9 +279,7 @@ class Comparison {
     };
     auto partner = std::find_if(read.begin(), read.end(), atSamePlace);
     if (partner == read.end()) partner = std::find_if(read.begin(), read.end(), ofSameKind);
-    if (partner == read.end()) {
-      return NoteStructure(item.row, std::string(KindText(item.kind)) + " is lost: " + Shown(item));
-    }
+    if (partner == read.end()) return NoteStructure(item.row, FindingKind::ObjectLost, Shown(item));
     item.matched = partner->matched = true;
     NoteDifferences(item, *partner);
   }
@@ -289,25 +287,29 @@ class Comparison {
   void NoteDifferences(const Item& item, const Item& other) {
     const std::string kind(KindText(item.kind));
     if (item.kind != other.kind)
-      return NoteStructure(item.row, kind + " becomes " + std::string(KindText(other.kind)));
+      return NoteStructure(item.row, FindingKind::KindChanges,
+                           kind + " -> " + std::string(KindText(other.kind)));
     for (std::size_t at = 0; at < item.values.size() && at < other.values.size(); ++at) {
       const Value& mine = item.values[at];
       const Value& theirs = other.values[at];
       if (mine.text == theirs.text) continue;
-      Note(item.row, kind + " " + std::string(mine.field) + ": " + mine.text + " becomes " + theirs.text);
+      Note(item.row, FindingKind::ValueChanges,
+           kind + " " + std::string(mine.field) + ": " + mine.text + " -> " + theirs.text);
     }
   }
 
   static std::string Shown(const Item& item) {
     const std::string_view title = item["SectionTitle"];
-    return std::string(title.empty() ? item["Content"] : title);
+    const std::string_view text = title.empty() ? item["Content"] : title;
+    return std::string(KindText(item.kind)) + (text.empty() ? "" : ": ") + std::string(text);
   }
 
   void Settings() {
     for (const SettingRow& row : SettingRows()) {
       const std::string mine = PrintedForm(page_, row.id);
       const std::string theirs = PrintedForm(file_, row.id);
-      if (mine != theirs) NoteStructure(0, std::string(row.key) + ": " + mine + " becomes " + theirs);
+      if (mine != theirs)
+        NoteStructure(0, FindingKind::ValueChanges, std::string(row.key) + ": " + mine + " -> " + theirs);
     }
   }
 
@@ -330,11 +332,11 @@ class Comparison {
     const std::vector<std::string> theirs = ColumnLines(file_);
     for (const std::string& line : mine) {
       if (std::find(theirs.begin(), theirs.end(), line) == theirs.end())
-        NoteStructure(0, "column is lost: " + line);
+        NoteStructure(0, FindingKind::ColumnLost, line);
     }
     for (const std::string& line : theirs) {
       if (std::find(mine.begin(), mine.end(), line) == mine.end())
-        NoteStructure(0, "column appears: " + line);
+        NoteStructure(0, FindingKind::ColumnAppears, line);
     }
   }
 

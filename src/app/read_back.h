@@ -11,6 +11,7 @@ namespace kev {
 
 struct ReadBack {
   // One for each value, object, setting or column that does not come back; each names the row on the page.
+  // What happened is in its kind: its text holds names and values alone, "LABEL Bold: -1 -> 0".
   std::vector<Finding> Findings;
   // Whether objects, settings or columns are gone or have appeared, and not only values of them.
   bool Structure = false;

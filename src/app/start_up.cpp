@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "app/designer.h"
+#include "app/message_texts.h"
 #include "app/text_numbers.h"
 #include "base/files.h"
 
@@ -26,13 +27,6 @@ void DeleteSampleCopies(const std::string& folder) {
   for (const std::string& copy : copies) {
     if (FileExists(copy)) DeleteFileIfThere(copy);
   }
-}
-
-std::string InLines(const std::vector<std::string>& texts) {
-  std::string lines;
-  for (const std::string& text : texts)
-    lines.append(lines.empty() ? "" : "\r\n").append(text);
-  return lines;
 }
 
 }  // namespace
@@ -74,18 +68,28 @@ void Designer::SplashLoad() {
   options_ = LoadOptions(InDataFolder(folders_, kLastRunFile));
   optionsRead_ = true;
   settings_ = LoadUserSettings(InDataFolder(folders_, kSettingsFile));
-  if (const CodePage* page = CodePage::Find(settings_.CodePageName)) document_.Page = page;
+  document_.Page = settings_.Page;
   pictures_.SetPage(*document_.Page);
 }
 
 void Designer::AfterSplash() {
   TellMissingFolders();
+  TellUnknownSettings();
   DecideTemplate();
 }
 
 void Designer::TellMissingFolders() {
-  const std::vector<std::string> missing = MissingFolders(folders_);
-  if (!missing.empty()) ShowText(kTextFolderMissing, BoxIcon::Warning, InLines(missing));
+  std::string lines;
+  for (const MissingFolder& folder : MissingFolders(folders_))
+    lines += "\r\n" + folder.Path + ": " + NativeText(texts_, folder.RoleText);
+  if (!lines.empty()) ShowText(kTextFolderMissing, BoxIcon::Warning, lines);
+}
+
+void Designer::TellUnknownSettings() {
+  std::string lines;
+  for (const UnknownSetting& setting : settings_.Unknown)
+    lines += "\r\n" + std::string(setting.Key) + "=" + CodePage::Default().ToUtf8(setting.Value);
+  if (!lines.empty()) ShowText(kTextUnknownSettings, BoxIcon::Warning, lines);
 }
 
 void Designer::DecideTemplate() {

@@ -448,7 +448,45 @@ inline constexpr int kTextRecordTooLong = 1230;
 inline constexpr int kTextStop = 1231;
 inline constexpr int kTextReadBackDiffers = 1232;
 inline constexpr int kTextQuickNoDataFile = 1233;
-inline constexpr int kTextRelativePicturesMissing = 1234;
-inline constexpr int kTextDocumentationNotOpened = 1235;
+inline constexpr int kTextRelativeFilesMissing = 1234;
+
+// Help
+inline constexpr int kTextDocumentationNotOpened = 1266;
+
+// Kinds of findings
+inline constexpr int kTextFindingUnknownKey = 1235;
+inline constexpr int kTextFindingLostText = 1236;
+inline constexpr int kTextFindingDisarmedBlock = 1237;
+inline constexpr int kTextFindingLateKey = 1238;
+inline constexpr int kTextFindingRepeatedKey = 1239;
+inline constexpr int kTextFindingDanglingColumn = 1240;
+inline constexpr int kTextFindingValueOutOfRange = 1241;
+inline constexpr int kTextFindingWillNotComeBack = 1242;
+inline constexpr int kTextFindingMissingFile = 1243;
+inline constexpr int kTextFindingValueChanges = 1244;
+inline constexpr int kTextFindingObjectLost = 1245;
+inline constexpr int kTextFindingObjectAppears = 1246;
+inline constexpr int kTextFindingKindChanges = 1247;
+inline constexpr int kTextFindingColumnLost = 1248;
+inline constexpr int kTextFindingColumnAppears = 1249;
+
+// Reasons, behind 762, 1223 and 1224
+inline constexpr int kTextReasonOutOfMemory = 1250;
+inline constexpr int kTextReasonNotRegularFile = 1251;
+inline constexpr int kTextReasonTooManyObjects = 1252;
+inline constexpr int kTextReasonTooManyColumns = 1253;
+inline constexpr int kTextReasonTooManyParts = 1254;
+inline constexpr int kTextReasonTextsTooLarge = 1255;
+inline constexpr int kTextReasonBlocksTooOften = 1256;
+
+// What needs a folder, behind 1222
+inline constexpr int kTextFolderRoleWork = 1260;
+inline constexpr int kTextFolderRoleCache = 1261;
+inline constexpr int kTextFolderRoleUnpacking = 1262;
+inline constexpr int kTextFolderRoleData = 1263;
+inline constexpr int kTextFolderRoleRecent = 1264;
+
+// Settings of the user
+inline constexpr int kTextUnknownSettings = 1265;
 
 }  // namespace kev

@@ -2,16 +2,20 @@
 #include "base/files.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
+#include <thread>
 
 #include "base/code_page.h"
+#include "base/reasons.h"
 #include "base/text.h"
 
 namespace kev {
@@ -94,15 +98,11 @@ std::optional<fs::path> FindIgnoringCase(const fs::path& folder, const std::stri
   return found;
 }
 
-}  // namespace
-
-Result<std::string> ReadWholeFile(const std::string& path) {
-  Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (file.Number() < 0) return Failure(path, errno);
+Result<std::string> ReadFrom(const Descriptor& file, const std::string& path) {
   struct stat status {};
   if (::fstat(file.Number(), &status) != 0) return Failure(path, errno);
   if (S_ISDIR(status.st_mode)) return Failure(path, EISDIR);
-  if (!S_ISREG(status.st_mode)) return FileFailure{path, "not a regular file"};
+  if (!S_ISREG(status.st_mode)) return FileFailure{path, kReasonNotRegularFile};
   if (static_cast<std::size_t>(status.st_size) > kLargestFile) return Failure(path, EFBIG);
   std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
   std::size_t have = 0;
@@ -115,6 +115,41 @@ Result<std::string> ReadWholeFile(const std::string& path) {
   }
   bytes.resize(have);
   return bytes;
+}
+
+// Whoever holds a lock for long does not rewrite a small file but hangs.
+int Lock(const Descriptor& file) {
+  constexpr int kTries = 100;
+  constexpr auto kPause = std::chrono::milliseconds(10);
+  for (int tries = 0; ::flock(file.Number(), LOCK_EX | LOCK_NB) != 0; ++tries) {
+    if (errno != EWOULDBLOCK && errno != EINTR) return errno;
+    if (tries == kTries) return EWOULDBLOCK;
+    std::this_thread::sleep_for(kPause);
+  }
+  return 0;
+}
+
+}  // namespace
+
+Result<std::string> ReadWholeFile(const std::string& path) {
+  const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (file.Number() < 0) return Failure(path, errno);
+  return ReadFrom(file, path);
+}
+
+std::optional<FileFailure> RewriteLocked(const std::string& path,
+                                         const std::function<std::string(std::string_view)>& change) {
+  Descriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666));
+  if (file.Number() < 0) return Failure(path, errno);
+  if (const int error = Lock(file)) return Failure(path, error);
+  const Result<std::string> bytes = ReadFrom(file, path);
+  if (!bytes) return bytes.Error();
+  const std::string changed = change(*bytes);
+  if (::lseek(file.Number(), 0, SEEK_SET) != 0) return Failure(path, errno);
+  if (const int error = WriteAll(file.Number(), changed)) return Failure(path, error);
+  if (::ftruncate(file.Number(), static_cast<off_t>(changed.size())) != 0) return Failure(path, errno);
+  if (file.Close() != 0) return Failure(path, errno);
+  return std::nullopt;
 }
 
 std::optional<FileFailure> WriteWholeFile(const std::string& path, std::string_view bytes) {

@@ -3,6 +3,7 @@
 // "\".
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +22,11 @@ Result<std::string> ReadWholeFile(const std::string& path);
 // The file appears whole or not at all: written beside its target, flushed, renamed over it.
 // Returns what went wrong; the old file is then unchanged.
 std::optional<FileFailure> WriteWholeFile(const std::string& path, std::string_view bytes);
+
+// Reads a small file, or nothing where there is none, and writes what `change` makes of it, in place. Other
+// processes that rewrite the same file this way wait for each other, but no longer than a second.
+std::optional<FileFailure> RewriteLocked(const std::string& path,
+                                         const std::function<std::string(std::string_view)>& change);
 
 // Written in place, for working files that nothing depends on.
 std::optional<FileFailure> WritePlainFile(const std::string& path, std::string_view bytes);

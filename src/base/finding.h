@@ -18,10 +18,19 @@ enum class FindingKind : std::uint8_t {
   DanglingColumn,   // a position that names no column
   ValueOutOfRange,  // a number that does not fit its field
   WillNotComeBack,  // a form that saving cannot keep
-  MissingFile       // a file that the template names is not there
+  MissingFile,      // a file that the template names is not there
+  // What a saved file gives back otherwise than the page shows it.
+  ValueChanges,   // a value of an object or setting
+  ObjectLost,     // an object
+  ObjectAppears,  // an object that the page does not hold
+  KindChanges,    // an object becomes one of another kind
+  ColumnLost,     // a column
+  ColumnAppears   // a column that the page does not hold
 };
+inline constexpr std::size_t kFindingKinds = 15;
 
-// "unknown key", "text is lost" and so on, for lists and the command line.
+// "unknown key", "text is lost" and so on, for the command line; a list in the window takes its words from
+// the language file.
 std::string_view FindingText(FindingKind kind);
 
 struct Finding {

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "base/reasons.h"
+
 namespace kev {
 
 std::string_view TrimLeft(std::string_view text) {
@@ -28,7 +30,7 @@ std::string_view NthToken(std::string_view text, std::size_t n, char separator) 
 
 Tokens::Tokens(std::string_view text, char separator) {
   const auto separators = static_cast<std::size_t>(std::count(text.begin(), text.end(), separator));
-  if (separators >= kMost) throw std::out_of_range("a text has more than 200 parts");
+  if (separators >= kMost) throw std::out_of_range(kReasonTooManyParts);
   parts_.reserve(separators + 1);
   for (;;) {
     const std::size_t end = text.find(separator);

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/code_page.h"
+#include "base/reasons.h"
 
 namespace kev {
 
@@ -36,7 +37,7 @@ class ColumnTable {
  private:
   // The sentence is what a user reads when a command or a file goes beyond the table.
   static std::size_t Checked(int slot) {
-    if (slot < 0 || slot > kLastSlot) throw std::out_of_range("a template holds at most 100 columns");
+    if (slot < 0 || slot > kLastSlot) throw std::out_of_range(kReasonTooManyColumns);
     return static_cast<std::size_t>(slot);
   }
 

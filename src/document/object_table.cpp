@@ -4,13 +4,13 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "base/reasons.h"
+
 namespace kev {
 namespace {
 
-constexpr const char* kTableIsFull = "a template holds at most 2001 objects";
-
 std::size_t CheckedRow(int row) {
-  if (row < 0 || row > ObjectTable::kLastRow) throw std::out_of_range(kTableIsFull);
+  if (row < 0 || row > ObjectTable::kLastRow) throw std::out_of_range(kReasonTooManyObjects);
   return static_cast<std::size_t>(row);
 }
 
@@ -43,7 +43,7 @@ int ObjectTable::TakeFreeRow() {
       return row;
     }
   }
-  throw std::out_of_range(kTableIsFull);
+  throw std::out_of_range(kReasonTooManyObjects);
 }
 
 void ObjectTable::ClearRow(int row) {

@@ -7,6 +7,7 @@
 
 #include "base/files.h"
 #include "base/numbers.h"
+#include "base/reasons.h"
 #include "base/text.h"
 #include "template/scanner.h"
 
@@ -48,7 +49,7 @@ int ReaderState::Add(const NewObject& object) {
   const int row = AddObject(context, object);
   NoteDanglingColumns(document.Objects[row]);
   textBytes += TextBytes(document.Objects[row]);
-  if (textBytes > kMostTextBytes) throw std::out_of_range("the texts of the template are too large");
+  if (textBytes > kMostTextBytes) throw std::out_of_range(kReasonTextsTooLarge);
   return row;
 }
 
@@ -283,8 +284,7 @@ void TemplateReader::ScanContent(std::string_view line, std::size_t removed) {
 // size.
 void TemplateReader::ApplyBlock() {
   appliedBytes_ += commandBuffer_.size();
-  if (appliedBytes_ > kMostAppliedBytes)
-    throw std::out_of_range("the blocks of the template are applied too often");
+  if (appliedBytes_ > kMostAppliedBytes) throw std::out_of_range(kReasonBlocksTooOften);
   ApplyCommands(state_, commandBuffer_);
 }
 

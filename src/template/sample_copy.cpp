@@ -29,18 +29,17 @@ void SampleCopy::Delete() const {
   DeleteFileIfThere(base_ + ".ked");
 }
 
-void SampleCopy::Renew(const std::string& tempFolder, const ClockTime& now, const std::string& samplePath,
-                       const std::string& templatePath) {
+std::optional<FileFailure> SampleCopy::Renew(const std::string& tempFolder, const ClockTime& now,
+                                             const std::string& samplePath, const std::string& templatePath) {
   Delete();
   base_ = JoinPath(tempFolder, "\\Sampledata" + std::to_string(now.Hour) + std::to_string(now.Minute) +
                                    std::to_string(now.Second));
   const std::string ending = CodePage::Default().Upper(
       samplePath.substr(samplePath.size() - std::min<std::size_t>(samplePath.size(), 4)));
-  if (ending != ".KEX" && ending != ".KED") return;
+  if (ending != ".KEX" && ending != ".KED") return std::nullopt;
   const Result<std::string> sample = ReadWholeFile(samplePath);
-  if (!sample) return;
-  // The copy serves the viewer only: a save without it is as good a save.
-  WritePlainFile(base_ + CodePage::Default().Lower(ending), SampleCopyText(*sample, templatePath));
+  if (!sample) return sample.Error();
+  return WritePlainFile(base_ + CodePage::Default().Lower(ending), SampleCopyText(*sample, templatePath));
 }
 
 }  // namespace kev

@@ -2,10 +2,12 @@
 // A copy of the document's sample data that tells the viewer which template it belongs to.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "base/code_page.h"
+#include "base/result.h"
 
 namespace kev {
 
@@ -18,11 +20,11 @@ struct ClockTime {
 // The copy of this run. There is at most one at a time, named after the moment of the last save or test run.
 class SampleCopy {
  public:
-  // Deletes the copy made before and makes a new one, if `samplePath` is a .kex or .ked file that exists. Its
-  // first line names `templatePath`; lines of the source that name a template are left out. That a copy
-  // cannot be made or deleted stops no save.
-  void Renew(const std::string& tempFolder, const ClockTime& now, const std::string& samplePath,
-             const std::string& templatePath);
+  // Deletes the copy made before and makes a new one, if `samplePath` is a .kex or .ked file. Its
+  // first line names `templatePath`; lines of the source that name a template are left out. Tells why
+  // a copy cannot be made; for a file of another kind, or none, there is none to make.
+  std::optional<FileFailure> Renew(const std::string& tempFolder, const ClockTime& now,
+                                   const std::string& samplePath, const std::string& templatePath);
   void Delete() const;
 
   // Path without an extension; empty before the first save.

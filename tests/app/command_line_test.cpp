@@ -97,6 +97,31 @@ TEST_F(CommandLineFiles, ALinkMayCarryAnAddress) {
   EXPECT_EQ(ResolveTemplatePath("EDITKEVTEMPLATE:" + escaped.substr(7)), file);
 }
 
+TEST_F(CommandLineFiles, BlanksAtTheEndsOfANameBelongToIt) {
+  for (const char* name : {"a.kev ", "  b.kev", " c "}) {
+    const std::string file = Made(name);
+    EXPECT_EQ(Parse({file}).CommandLine, file);
+    EXPECT_EQ(ResolveTemplatePath(file), file);
+  }
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder_ / "");
+  EXPECT_EQ(ResolveTemplatePath(Parse({"  b.kev"}).CommandLine), folder_ / "  b.kev");
+  std::filesystem::current_path(before);
+  // Where no such file exists they are none of it.
+  const std::string plain = Made("d.kev");
+  EXPECT_EQ(Parse({" " + plain + " "}).CommandLine, plain);
+  EXPECT_EQ(ResolveTemplatePath(" " + plain + " "), plain);
+}
+
+TEST_F(CommandLineFiles, AnAddressMayNameThisMachine) {
+  const std::string file = Made("My Reports/a.kev");
+  const std::string escaped = (folder_ / "My%20Reports/a.kev");
+  for (const char* prefix : {"file://localhost", "FILE://LocalHost", "file://"})
+    EXPECT_EQ(ResolveTemplatePath("EDITKEVTEMPLATE:" + std::string(prefix) + escaped), file) << prefix;
+  EXPECT_EQ(ResolveTemplatePath("EDITKEVTEMPLATE:file://localhost/nowhere/a%C3%A9.kev"),
+            "/nowhere/a\xC3\xA9.kev");
+}
+
 TEST_F(CommandLineFiles, AnEscapedEndOfTextCutsNothingOff) {
   const std::string file = Made("a.kev");
   EXPECT_NE(ResolveTemplatePath("EDITKEVTEMPLATE:" + file + "%00.png"), file);

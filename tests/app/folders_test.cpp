@@ -5,6 +5,7 @@
 
 #include <map>
 
+#include "app/text_numbers.h"
 #include "base/files.h"
 #include "support/run_tool.h"
 
@@ -96,8 +97,14 @@ TEST(Folders, MissingOnesAreNamedAndNoneIsMade) {
   const test::TemporaryFolder root;
   std::filesystem::create_directories(root / "Kev/Cache");
   const DesignerFolders folders = FindFolders(Of({{"TEMP", (root / "")}, {"appdata", (root / "no")}}), "/p");
-  EXPECT_EQ(MissingFolders(folders),
-            (std::vector<std::string>{(root / "Kev/Temp"), (root / "no/Kev"), (root / "no/Kev/temp")}));
+  const std::vector<MissingFolder> missing = MissingFolders(folders);
+  ASSERT_EQ(missing.size(), 3U);
+  EXPECT_EQ(missing[0].Path, root / "Kev/Temp");
+  EXPECT_EQ(missing[0].RoleText, kTextFolderRoleUnpacking);
+  EXPECT_EQ(missing[1].Path, root / "no/Kev");
+  EXPECT_EQ(missing[1].RoleText, kTextFolderRoleData);
+  EXPECT_EQ(missing[2].Path, root / "no/Kev/temp");
+  EXPECT_EQ(missing[2].RoleText, kTextFolderRoleRecent);
   EXPECT_FALSE(std::filesystem::exists(root / "Kev/Temp"));
 }
 

@@ -21,6 +21,12 @@ std::string Encoded(std::initializer_list<std::string> lines, const std::string&
   return file;
 }
 
+LanguageTexts Loaded(std::string_view bytes, char letter) {
+  const Result<LanguageTexts> texts = LoadLanguageBytes(bytes, letter);
+  EXPECT_TRUE(texts) << letter;
+  return texts ? *texts : LanguageTexts();
+}
+
 bool AllEmpty(const LanguageTexts& texts) {
   for (int number = 0; number <= kHighestTextNumber; ++number) {
     if (!texts.Text(number).empty()) {
@@ -43,8 +49,8 @@ TEST(LanguageTexts, AreEmptyAtFirstAndKnowTheirBounds) {
 TEST(LoadLanguage, TakesTheLinesOfTheActiveLanguage) {
   const std::string file =
       Encoded({"E0760 Title", "S0760 T\xEDtulo", "E0000 Zero", "S0000 Cero", "E1300 End", "S1300 Fin"});
-  const LanguageTexts english = LoadLanguageBytes(file, 'E');
-  const LanguageTexts spanish = LoadLanguageBytes(file, 'S');
+  const LanguageTexts english = Loaded(file, 'E');
+  const LanguageTexts spanish = Loaded(file, 'S');
   EXPECT_EQ(english.Text(760), "Title");
   EXPECT_EQ(english.Text(1300), "End");
   EXPECT_EQ(spanish.Text(760), "T\xEDtulo");
@@ -54,53 +60,67 @@ TEST(LoadLanguage, TakesTheLinesOfTheActiveLanguage) {
 
 TEST(LoadLanguage, ShowsEnglishForAnEmptyTranslation) {
   const LanguageTexts texts =
-      LoadLanguageBytes(Encoded({"E0803 Undo", "S0803 ", "E0804 Redo", "S0804", "I0804 x"}), 'S');
+      Loaded(Encoded({"E0803 Undo", "S0803 ", "E0804 Redo", "S0804", "I0804 x"}), 'S');
   EXPECT_EQ(texts.Text(803), "Undo");
   EXPECT_EQ(texts.Text(804), "Redo");
 }
 
 TEST(LoadLanguage, FallsBackOnTheLastEnglishLineWhateverItsNumber) {
-  const LanguageTexts texts =
-      LoadLanguageBytes(Encoded({"E0001 One", "E9999 Beyond", "S0002 ", "E", "S0003 "}), 'S');
+  const LanguageTexts texts = Loaded(Encoded({"E0001 One", "E9999 Beyond", "S0002 ", "E", "S0003 "}), 'S');
   EXPECT_EQ(texts.Text(2), "Beyond");
   EXPECT_EQ(texts.Text(3), "");
 }
 
 TEST(LoadLanguage, LeavesAllEmptyForALetterThatNoLineCarries) {
-  EXPECT_TRUE(AllEmpty(LoadLanguageBytes(Encoded({"E0760 Title", "S0760 T"}), 'X')));
-  EXPECT_TRUE(AllEmpty(LoadLanguageBytes(Encoded({"E0760 Title"}), 'e')));
-  EXPECT_TRUE(AllEmpty(LoadLanguageBytes("", 'E')));
+  EXPECT_TRUE(AllEmpty(Loaded(Encoded({"E0760 Title", "S0760 T"}), 'X')));
+  EXPECT_TRUE(AllEmpty(Loaded(Encoded({"E0760 Title"}), 'e')));
 }
 
 TEST(LoadLanguage, PassesOverLinesWithoutAUsableNumber) {
-  const LanguageTexts texts =
-      LoadLanguageBytes(Encoded({"E1301 a", "E9999 b", "Eabcd c", "E-001 d", "E1e02 e", "E     f", "E1.50 g",
-                                 "E", "E12", "E012"}),
-                        'E');
+  const LanguageTexts texts = Loaded(Encoded({"S0001 a", "S9999 b", "Eabcd c", "E-001 d", "E1e02 e",
+                                              "E     f", "E1.50 g", "E", "E12", "E012"}),
+                                     'E');
   EXPECT_TRUE(AllEmpty(texts));
 }
 
+TEST(LoadLanguage, FailsForAFileThatHoldsNoLineOfALanguageFile) {
+  for (const std::string& bytes :
+       {std::string(), std::string("\r\n\r\n"), std::string("<html>\n</html>\n"), std::string(300, '\0'),
+        Encoded({"Eabcd c", "e0041 d", "10041 e", "E", "E12"})}) {
+    const Result<LanguageTexts> texts = LoadLanguageBytes(bytes, 'E');
+    ASSERT_FALSE(texts) << bytes;
+    EXPECT_NE(texts.Error().reason, "");
+  }
+}
+
+TEST(LoadLanguage, FailsForANumberBeyondTheLastInTheActiveLanguage) {
+  const std::string file = Encoded({"E0041 a", "S0041 b", "S1301 c"});
+  EXPECT_FALSE(LoadLanguageBytes(file, 'S'));
+  EXPECT_EQ(Loaded(file, 'E').Text(41), "a");
+  EXPECT_FALSE(LoadLanguageBytes(Encoded({"E0041 a", "E9999 b"}), 'E'));
+}
+
 TEST(LoadLanguage, TakesANumberWithBlanksAroundIt) {
-  const LanguageTexts texts = LoadLanguageBytes(Encoded({"E 41  left", "E760  right"}), 'E');
+  const LanguageTexts texts = Loaded(Encoded({"E 41  left", "E760  right"}), 'E');
   EXPECT_EQ(texts.Text(41), "left");
   EXPECT_EQ(texts.Text(760), "right");
 }
 
 TEST(LoadLanguage, SkipsTheSixthPlaceWhateverItHolds) {
-  EXPECT_EQ(LoadLanguageBytes(Encoded({"E0041xText"}), 'E').Text(41), "Text");
+  EXPECT_EQ(Loaded(Encoded({"E0041xText"}), 'E').Text(41), "Text");
 }
 
 TEST(LoadLanguage, LetsALaterLineWin) {
-  EXPECT_EQ(LoadLanguageBytes(Encoded({"E0041 first", "E0041 second"}), 'E').Text(41), "second");
+  EXPECT_EQ(Loaded(Encoded({"E0041 first", "E0041 second"}), 'E').Text(41), "second");
 }
 
 TEST(LoadLanguage, EndsLinesAtLineFeedsAndDropsOneReturn) {
-  EXPECT_EQ(LoadLanguageBytes(Encoded({"E0041 a", "E0760 b"}, "\n"), 'E').Text(760), "b");
+  EXPECT_EQ(Loaded(Encoded({"E0041 a", "E0760 b"}, "\n"), 'E').Text(760), "b");
   const std::string unended = Encoded({"E0041 a"}) + UnshiftText("E0760 last", kLanguageFileKey);
-  EXPECT_EQ(LoadLanguageBytes(unended, 'E').Text(760), "last");
+  EXPECT_EQ(Loaded(unended, 'E').Text(760), "last");
   const std::string twoReturns = Encoded({"E0041 a"}, "\r\r\n");
   const char shifted = static_cast<char>('\r' + (kLanguageFileKey[7] - '0'));
-  EXPECT_EQ(LoadLanguageBytes(twoReturns, 'E').Text(41), std::string("a") + shifted);
+  EXPECT_EQ(Loaded(twoReturns, 'E').Text(41), std::string("a") + shifted);
 }
 
 TEST(LoadLanguage, TreatsAnEndOfFileCharacterAsAnyOther) {
@@ -108,16 +128,16 @@ TEST(LoadLanguage, TreatsAnEndOfFileCharacterAsAnyOther) {
       Encoded({"E0041 a\x1A"
                "b",
                "E0760 c"});
-  EXPECT_EQ(LoadLanguageBytes(file, 'E').Text(41),
+  EXPECT_EQ(Loaded(file, 'E').Text(41),
             "a\x1A"
             "b");
-  EXPECT_EQ(LoadLanguageBytes(file, 'E').Text(760), "c");
+  EXPECT_EQ(Loaded(file, 'E').Text(760), "c");
 }
 
 TEST(LoadLanguage, TrimsBlanksAndNothingElse) {
   const std::string line = UnshiftText("E0041 text", kLanguageFileKey);
-  EXPECT_EQ(LoadLanguageBytes("  " + line + "   \r\n", 'E').Text(41), "text");
-  EXPECT_EQ(LoadLanguageBytes("\t" + line + "\n", 'E').Text(41), "");
+  EXPECT_EQ(Loaded("  " + line + "   \r\n", 'E').Text(41), "text");
+  EXPECT_EQ(Loaded("\t" + line + "\n" + UnshiftText("S0001 x", kLanguageFileKey), 'E').Text(41), "");
 }
 
 TEST(LoadLanguage, SurvivesAFileCutAtAnyByteAndFilledWithAnything) {
@@ -145,7 +165,8 @@ TEST(LoadLanguage, ReadsAFile) {
 
 TEST(LoadLanguage, NamesTheFileThatItCannotRead) {
   const test::TemporaryFolder folder;
-  for (const std::string& path : {folder / "missing", folder / ""}) {
+  test::WriteBytes(folder / "empty", "");
+  for (const std::string& path : {folder / "missing", folder / "", folder / "empty"}) {
     const Result<LanguageTexts> result = LoadLanguage(path, 'E');
     EXPECT_FALSE(result);
     EXPECT_EQ(result.Error().path, path);

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <sys/resource.h>
+
+#include <csignal>
+
 #include "app/designer_fixture.h"
 #include "base/files.h"
+#include "chart/definition.h"
 
 namespace kev {
 namespace {
@@ -65,6 +70,15 @@ TEST_F(Opening, AFileBeyondTheLimitsGivesTheFreshDocument) {
   EXPECT_EQ(designer->DocumentTitle(), "Noname.kev");
   EXPECT_EQ(CountOf(*designer, ObjectKind::Label), 0);
   EXPECT_EQ(host_.ProgressBegun, host_.ProgressEnded);
+}
+
+TEST_F(Opening, ALimitIsToldInTheLanguageOfTheUser) {
+  test::WriteBytes(root_ / "program/activelang", "ACTIVELANG=S\r\n");
+  const auto designer = Start();
+  EXPECT_FALSE(designer->OpenTemplate(Made("huge.kev", TemplateWith(Labels(2100)))));
+  ASSERT_EQ(host_.Messages.size(), 1U);
+  EXPECT_TRUE(host_.Messages[0].Detail.ends_with("\r\nuna plantilla admite como m\xC3\xA1ximo 2001 objetos"))
+      << host_.Messages[0].Detail;
 }
 
 TEST_F(Opening, TheUsersZoomOutlivesADocument) {
@@ -245,7 +259,8 @@ TEST_F(Saving, WhatWillNotComeBackIsListedWithItsObject) {
   designer->OpenDocument().Objects[row].LineFlag = kTrue;  // a dashed box
   EXPECT_TRUE(designer->Save());
   ASSERT_EQ(designer->Findings().size(), 1U);
-  EXPECT_EQ(designer->Findings()[0].Kind, FindingKind::WillNotComeBack);
+  EXPECT_EQ(designer->Findings()[0].Kind, FindingKind::ValueChanges);
+  EXPECT_EQ(designer->Findings()[0].Text, "BOX LineFlag: -1 -> 0");
   EXPECT_EQ(designer->Findings()[0].Row, row);
   EXPECT_EQ(host_.Status, designer->Text(kTextSavedWithFindings));
 }
@@ -276,12 +291,71 @@ TEST_F(Saving, PicturesLeftBehindAreToldAfterAMove) {
   ASSERT_EQ(designer->Findings().size(), 1U);
   EXPECT_EQ(designer->Findings()[0].Kind, FindingKind::MissingFile);
   EXPECT_EQ(designer->Findings()[0].Text, "logo.png");
-  EXPECT_EQ(host_.Status, designer->Text(kTextRelativePicturesMissing));
+  EXPECT_EQ(host_.Status, designer->Text(kTextRelativeFilesMissing));
+}
+
+TEST_F(Saving, DataAndChartBackgroundsLeftBehindAreToldAfterAMove) {
+  Made("data.ked", "@a=1\r\n");
+  Made("back.png", "picture");
+  std::filesystem::create_directory(Work("sub"));
+  const auto designer = Start({Made("a.kev", "Sample_Kex_file=data.ked\r\n" + TemplateWith(Labels(1)))});
+  Document& document = designer->OpenDocument();
+  const int row = FirstOf(*designer, ObjectKind::Label);
+  document.Objects[row].Kind = ObjectKind::Chart;
+  document.Objects[row].ChartValues = ChartDefinition().Values;
+  document.Objects[row].ChartValues[*ChartKeyIndex("GRAPH_BACKGROUND_PICTURE")] = "back.png";
+  host_.FilesToSave = {Work("sub/a.kev")};
+  EXPECT_TRUE(designer->SaveAs());
+  std::vector<Finding> missing = designer->Findings();
+  std::erase_if(missing, [](const Finding& finding) { return finding.Kind != FindingKind::MissingFile; });
+  ASSERT_EQ(missing.size(), 2U);
+  EXPECT_EQ(missing[0].Text, "data.ked");
+  EXPECT_EQ(missing[0].Row, 0);
+  EXPECT_EQ(missing[1].Text, "back.png");
+  EXPECT_EQ(missing[1].Row, row);
+}
+
+TEST_F(Saving, TheReportTellsWhyThereIsNoCopyOfTheData) {
+  const std::string file = Made("a.kev", "Sample_Kex_file=gone.ked\r\n" + TemplateWith(Labels(1)));
+  const auto designer = Start({file});
+  const WriteReport report = designer->WriteDocument(Temp("testreport.kev"));
+  EXPECT_FALSE(report.Failure);
+  ASSERT_TRUE(report.SampleFailure);
+  EXPECT_EQ(report.SampleFailure->path, Work("gone.ked"));
+  // A save does without it.
+  EXPECT_TRUE(designer->Save());
+  EXPECT_TRUE(host_.Messages.empty());
+  Made("gone.ked", "@a=1\r\n");
+  EXPECT_FALSE(designer->WriteDocument(Temp("testreport.kev")).SampleFailure);
+}
+
+// The size limit of the process stands for a disk that is full.
+TEST_F(Saving, AFullDiskLeavesTheOldFile) {
+  const std::string old = TemplateWith(Labels(2));
+  const std::string file = Made("a.kev", old);
+  const auto designer = Start({file});
+  designer->OpenDocument().Objects[FirstOf(*designer, ObjectKind::Label)].Content = std::string(20000, 'x');
+  designer->MarkModified();
+  rlimit before{};
+  ::getrlimit(RLIMIT_FSIZE, &before);
+  const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit tight = before;
+  tight.rlim_cur = 4096;
+  ::setrlimit(RLIMIT_FSIZE, &tight);
+  const bool saved = designer->Save();
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, oldHandler);
+  EXPECT_FALSE(saved);
+  ExpectMessage(*designer, kTextWriteFailed);
+  EXPECT_TRUE(designer->Modified());
+  EXPECT_EQ(test::ReadBytes(file), old);
+  EXPECT_TRUE(designer->Save());
+  EXPECT_NE(test::ReadBytes(file), old);
 }
 
 // Forms that the examples hold and that a template can't keep.
 bool IsKnownLoss(const std::string& finding) {
-  return finding == "BARCODE becomes LABEL" ||                  // a symbology without a word
+  return finding == "BARCODE -> LABEL" ||                       // a symbology without a word
          finding.find("_format: ") != std::string::npos ||      // of a series
          finding.starts_with("LABEL Content:    \x97  @@Pag");  // blanks kept by Trim=n
 }

@@ -1,7 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/options.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <array>
+#include <set>
+#include <thread>
+#include <vector>
 
 #include "base/files.h"
 #include "support/run_tool.h"
@@ -149,11 +157,37 @@ TEST_F(OptionsFile, TheUserSettingsHaveDefaults) {
   test::WriteBytes(path, "default_editor= vi -R\r\nDEFAULT_PAPERSIZE=\r\nCODEPAGE=windows-1250\r\n");
   EXPECT_EQ(LoadUserSettings(path).DefaultEditor, "vi -R");
   EXPECT_EQ(LoadUserSettings(path).DefaultPaperSize, "A4");
-  EXPECT_EQ(LoadUserSettings(path).CodePageName, "windows-1250");
+  EXPECT_EQ(LoadUserSettings(path).Page, CodePage::Find("windows-1250"));
+  EXPECT_TRUE(LoadUserSettings(path).Unknown.empty());
   test::WriteBytes(path, "DEFAULT_PAPERSIZE=Letter");
   EXPECT_EQ(LoadUserSettings(path).DefaultPaperSize, "Letter");
-  test::WriteBytes(path, "DEFAULT_PAPERSIZE=Banner");
-  EXPECT_EQ(LoadUserSettings(path).DefaultPaperSize, "A4");
+}
+
+TEST_F(OptionsFile, UnknownUserSettingsAreNamedAndTheDefaultsHold) {
+  const std::string path = (folder_ / "KEV.INI");
+  test::WriteBytes(path, "CODEPAGE=ebcdic\r\nDEFAULT_PAPERSIZE=Banner\r\n");
+  const UserSettings settings = LoadUserSettings(path);
+  EXPECT_EQ(settings.DefaultPaperSize, "A4");
+  EXPECT_EQ(settings.Page, &CodePage::Default());
+  ASSERT_EQ(settings.Unknown.size(), 2U);
+  EXPECT_EQ(settings.Unknown[0].Key, "DEFAULT_PAPERSIZE");
+  EXPECT_EQ(settings.Unknown[0].Value, "Banner");
+  EXPECT_EQ(settings.Unknown[1].Key, "CODEPAGE");
+  EXPECT_EQ(settings.Unknown[1].Value, "ebcdic");
+}
+
+TEST(Options, AColourThatIsNotThreeNumbersIsTheDefault) {
+  EXPECT_EQ(ReadOptions("LAST_FONTCOLOR=1,2,3").LastFontColor, "1,2,3");
+  EXPECT_EQ(ReadOptions("LAST_FONTCOLOR=255, 0 ,7").LastFontColor, "255, 0 ,7");
+  for (const char* value :
+       {"1,2", "1,2,3,4", "red", "1,,3", ",,", "1,x,3", "1,-2,3", "1,2,256", "1,2,3000000000"}) {
+    EXPECT_EQ(ReadOptions(std::string("LAST_FONTCOLOR=") + value).LastFontColor, "0,0,0") << value;
+    EXPECT_EQ(ReadOptions(std::string("LAST_TEXTBOX_FONTCOLOR=") + value).LastTextBoxFontColor, "0,0,0")
+        << value;
+    EXPECT_EQ(ReadOptions(std::string("LAST_TEXTBOX_BACKFONTCOLOR=") + value).LastTextBoxBackColor,
+              "255,255,255")
+        << value;
+  }
 }
 
 TEST_F(OptionsFile, EachRunCountsOneMore) {
@@ -166,6 +200,47 @@ TEST_F(OptionsFile, EachRunCountsOneMore) {
   test::WriteBytes(path, "nonsense");
   EXPECT_EQ(NextSession(path), 1);
   EXPECT_EQ(NextSession((folder_ / "missing/SN.DAT")), 1);
+}
+
+TEST_F(OptionsFile, BehindTheHighestNumberTheSessionsStartAgain) {
+  const std::string path = (folder_ / "SN.DAT");
+  test::WriteBytes(path, "SESSID=2147483646");
+  EXPECT_EQ(NextSession(path), 2147483647);
+  EXPECT_EQ(NextSession(path), 1);
+  // Nothing of the longer number stays behind.
+  EXPECT_EQ(*ReadWholeFile(path), "SESSID=1\r\n");
+  for (const char* number : {"-5", "1e300", "99999999999"}) {
+    test::WriteBytes(path, std::string("SESSID=") + number);
+    EXPECT_EQ(NextSession(path), 1) << number;
+  }
+}
+
+TEST_F(OptionsFile, SessionsThatStartTogetherGetNumbersOfTheirOwn) {
+  const std::string path = (folder_ / "SN.DAT");
+  constexpr int kRuns = 4, kEach = 25;
+  std::array<std::vector<int>, kRuns> numbers;
+  {
+    std::vector<std::jthread> runs;
+    for (std::vector<int>& own : numbers)
+      runs.emplace_back([&path, &own] {
+        for (int start = 0; start < kEach; ++start)
+          own.push_back(NextSession(path));
+      });
+  }
+  std::set<int> all;
+  for (const std::vector<int>& own : numbers)
+    all.insert(own.begin(), own.end());
+  EXPECT_EQ(all.size(), std::size_t{kRuns * kEach});
+  EXPECT_EQ(*all.rbegin(), kRuns * kEach);
+}
+
+TEST_F(OptionsFile, ACounterThatStaysLockedHoldsUpNoStart) {
+  const std::string path = (folder_ / "SN.DAT");
+  test::WriteBytes(path, "SESSID=6");
+  const int locked = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
+  ASSERT_EQ(::flock(locked, LOCK_EX), 0);
+  EXPECT_EQ(NextSession(path), 7);
+  ::close(locked);
 }
 
 }  // namespace

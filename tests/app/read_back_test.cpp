@@ -57,7 +57,8 @@ TEST_F(ReadingBack, AChangedValueNamesItsFieldAndItsRow) {
   const ReadBack back = CompareReadBack(page_, file_);
   ASSERT_EQ(back.Findings.size(), 1U);
   EXPECT_EQ(back.Findings[0].Row, 1);
-  EXPECT_EQ(back.Findings[0].Text, "LABEL Strikethrough: -1 becomes 0");
+  EXPECT_EQ(back.Findings[0].Text, "LABEL Strikethrough: -1 -> 0");
+  EXPECT_EQ(back.Findings[0].Kind, FindingKind::ValueChanges);
   EXPECT_FALSE(back.Structure);
 }
 
@@ -76,14 +77,31 @@ TEST_F(ReadingBack, LostAndNewObjectsAreStructure) {
   EXPECT_EQ(back.Findings[0].Row, lost);
   EXPECT_TRUE(back.Structure);
   Add(file_, ObjectKind::Label, "new", 500);
-  EXPECT_EQ(CompareReadBack(page_, file_).Findings.size(), 2U);
+  const ReadBack both = CompareReadBack(page_, file_);
+  ASSERT_EQ(both.Findings.size(), 2U);
+  EXPECT_EQ(both.Findings[0].Kind, FindingKind::ObjectLost);
+  EXPECT_EQ(both.Findings[0].Text, "CIRCLE");
+  EXPECT_EQ(both.Findings[1].Kind, FindingKind::ObjectAppears);
+  EXPECT_EQ(both.Findings[1].Text, "LABEL: new");
+}
+
+TEST_F(ReadingBack, ColumnsAreNamedWithTheirPlaces) {
+  page_.Columns[1] = {"$Left", 500, ""};
+  file_.Columns[1] = {"$Right", 900, ""};
+  const ReadBack back = CompareReadBack(page_, file_);
+  ASSERT_EQ(back.Findings.size(), 2U);
+  EXPECT_EQ(back.Findings[0].Kind, FindingKind::ColumnLost);
+  EXPECT_EQ(back.Findings[0].Text, "$Left=500");
+  EXPECT_EQ(back.Findings[1].Kind, FindingKind::ColumnAppears);
+  EXPECT_EQ(back.Findings[1].Text, "$Right=900");
 }
 
 TEST_F(ReadingBack, AnObjectThatComesBackAsAnotherKindIsStructure) {
   file_.Objects[1].Kind = ObjectKind::Barcode;
   const ReadBack back = CompareReadBack(page_, file_);
   ASSERT_EQ(back.Findings.size(), 1U);
-  EXPECT_EQ(back.Findings[0].Text, "LABEL becomes BARCODE");
+  EXPECT_EQ(back.Findings[0].Text, "LABEL -> BARCODE");
+  EXPECT_EQ(back.Findings[0].Kind, FindingKind::KindChanges);
   EXPECT_TRUE(back.Structure);
 }
 
@@ -105,7 +123,7 @@ TEST_F(ReadingBack, ChartValuesAreCompared) {
   page_.Objects[chart].ChartValues = {"a", "b"};
   file_.Objects[3].ChartValues = {"a", "c"};
   EXPECT_EQ(CompareReadBack(page_, file_).Findings.at(0).Text,
-            "CHART " + std::string(ChartKeys()[1].key) + ": b becomes c");
+            "CHART " + std::string(ChartKeys()[1].key) + ": b -> c");
 }
 
 TEST_F(ReadingBack, TheListOfFindingsHasAnEnd) {

@@ -42,6 +42,15 @@ TEST_F(StartUp, WithoutTheLanguageFileTheProgramEnds) {
   EXPECT_EQ(host_.Messages[0].Text, "Kev.lng file doesn't exist or is corrupted. Program won't start.");
 }
 
+TEST_F(StartUp, AnEmptyLanguageFileEndsTheProgramToo) {
+  std::filesystem::remove(root_ / "program/Kev.lng");
+  test::WriteBytes(root_ / "program/Kev.lng", "");
+  const auto designer = Make();
+  EXPECT_FALSE(designer->Load());
+  ASSERT_EQ(host_.Messages.size(), 1U);
+  EXPECT_EQ(host_.Messages[0].Title, "Error loading");
+}
+
 TEST_F(StartUp, EachStartCountsOneMoreSession) {
   EXPECT_EQ(Start()->SessionNumber(), 1);
   EXPECT_EQ(Start()->SessionNumber(), 2);
@@ -110,6 +119,30 @@ TEST_F(StartUp, WithoutChecksThePathIsOpenedAsItStands) {
   EXPECT_EQ(missing->DocumentTitle(), "Noname.kev");
 }
 
+TEST_F(StartUp, OnlyTheTemplateOfTheCommandLineGoesWithoutChecks) {
+  const std::string file = Made("plain.kev", "Hello\r\n");
+  const auto designer = Start({file, "/%%!/"});
+  ASSERT_TRUE(host_.Messages.empty());
+  EXPECT_FALSE(designer->OpenTemplate(Made("other.kev", "Hello\r\n")));
+  EXPECT_EQ(host_.Messages.at(0).Detail, Work("other.kev"));
+  EXPECT_TRUE(host_.Messages.at(0).Text.ends_with(": "));
+  ExpectMessage(*designer, kTextNotATemplate);
+  EXPECT_EQ(designer->DocumentPath(), file);
+}
+
+TEST_F(StartUp, ALinkToAMissingFileIsToldInTheStatusLine) {
+  const auto designer = Start({"EDITKEVTEMPLATE:file://localhost" + Work("no%20such%C3%A9.kev")});
+  EXPECT_TRUE(host_.Messages.empty());
+  EXPECT_EQ(designer->DocumentTitle(), "Noname.kev");
+  EXPECT_TRUE(host_.Status.starts_with(designer->Text(kTextFileMissing)));
+  EXPECT_EQ(host_.StatusDetail, Work("no such\xC3\xA9.kev"));
+}
+
+TEST_F(StartUp, ANameWithBlanksAtItsEndsOpens) {
+  const std::string file = Made("a.kev ", TemplateWith(""));
+  EXPECT_EQ(Start({file})->DocumentPath(), file);
+}
+
 TEST_F(StartUp, AFolderIsUnreadable) {
   const auto designer = Start({Work("")});
   ASSERT_EQ(host_.Messages.size(), 1U);
@@ -126,6 +159,9 @@ TEST_F(StartUp, MissingFoldersAreToldOnceAndTheProgramGoesOn) {
   ASSERT_EQ(host_.Messages.size(), 1U);
   for (const char* name : {"temp/Kev", "temp/Kev/Cache", "temp/Kev/Temp", "data/Kev", "data/Kev/temp"})
     EXPECT_NE(host_.Messages[0].Detail.find(root_ / name), std::string::npos) << name;
+  EXPECT_NE(
+      host_.Messages[0].Detail.find("/temp/Kev/Cache: " + designer->Text(kTextFolderRoleCache) + "\r\n"),
+      std::string::npos);
   EXPECT_EQ(host_.Messages[0].Icon, BoxIcon::Warning);
   ExpectMessage(*designer, kTextFolderMissing);
   EXPECT_EQ(CountOf(*designer, ObjectKind::Subsection), 3);
@@ -142,6 +178,28 @@ TEST_F(StartUp, TheUsersFileTellsCodePageAndPaper) {
   EXPECT_EQ(designer->OpenDocument().Settings[Setting::PAPERSIZE], "A5");
   EXPECT_EQ(designer->OpenDocument().Settings[Setting::PAGEWIDTH], "8390");
   EXPECT_EQ(designer->Settings().DefaultEditor, "notepad");
+}
+
+TEST_F(StartUp, UnknownSettingsOfTheUserGiveOneMessage) {
+  test::WriteBytes(Data("KEV.INI"), "CODEPAGE=ebcdic\r\nDEFAULT_PAPERSIZE=Gro\xDF\r\n");
+  const auto designer = Start();
+  ASSERT_EQ(host_.Messages.size(), 1U);
+  EXPECT_EQ(host_.Messages[0].Detail, "\r\nDEFAULT_PAPERSIZE=Gro\xC3\x9F\r\nCODEPAGE=ebcdic");
+  EXPECT_EQ(host_.Messages[0].Icon, BoxIcon::Warning);
+  ExpectMessage(*designer, kTextUnknownSettings);
+  EXPECT_EQ(designer->OpenDocument().Page->Name(), "windows-1252");
+  EXPECT_EQ(designer->OpenDocument().Settings[Setting::PAPERSIZE], "A4");
+}
+
+TEST_F(StartUp, TheLanguageFileIsOfItsOwnPageWhateverTheTemplatesAre) {
+  test::WriteBytes(Data("KEV.INI"), "CODEPAGE=windows-1251\r\n");
+  test::WriteBytes(root_ / "program/activelang", "ACTIVELANG=P\r\n");
+  std::filesystem::remove(root_ / "temp/Kev/Cache");
+  const auto designer = Start();
+  ASSERT_EQ(designer->OpenDocument().Page->Name(), "windows-1251");
+  EXPECT_EQ(designer->Text(kTextMenuSubsection), "Subse\xE7\xE3o");
+  ASSERT_EQ(host_.Messages.size(), 1U);
+  EXPECT_NE(host_.Messages[0].Detail.find("n\xC3\xA3o salvo"), std::string::npos) << host_.Messages[0].Detail;
 }
 
 TEST_F(StartUp, TheLanguageFollowsTheUsersChoice) {

@@ -9,9 +9,10 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   for (const char language : {'E', 'S', '\0'}) {
-    const kev::LanguageTexts texts = kev::LoadLanguageBytes(bytes, language);
+    const kev::Result<kev::LanguageTexts> texts = kev::LoadLanguageBytes(bytes, language);
+    if (!texts) continue;
     for (int number = 0; number <= kev::kHighestTextNumber; ++number) {
-      if (texts.Text(number).size() > size) std::abort();
+      if (texts->Text(number).size() > size) std::abort();
     }
   }
   return 0;

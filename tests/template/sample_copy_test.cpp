@@ -40,13 +40,42 @@ TEST(SampleCopy, ReplacesTheOneMadeBefore) {
   EXPECT_TRUE(FileExists(copy.SampleCopyBase() + ".ked"));
 }
 
+TEST(SampleCopy, IsMadeAnewInTheSameSecond) {
+  const test::TemporaryFolder folder;
+  test::WriteBytes(folder / "data.ked", "@a=1\r\n");
+  test::WriteBytes(folder / "data.kex", "|A|\r\n");
+  SampleCopy copy;
+  EXPECT_FALSE(copy.Renew(folder / "", {1, 2, 3}, folder / "data.ked", "/t.kev"));
+  test::WriteBytes(folder / "data.ked", "@a=2\r\n");
+  EXPECT_FALSE(copy.Renew(folder / "", {1, 2, 3}, folder / "data.ked", "/t.kev"));
+  EXPECT_EQ(test::ReadBytes(copy.SampleCopyBase() + ".ked"), "TEMPLATE=/t.kev\r\n@a=2\r\n");
+  // Data of the other kind replaces it as well.
+  EXPECT_FALSE(copy.Renew(folder / "", {1, 2, 3}, folder / "data.kex", "/t.kev"));
+  EXPECT_FALSE(FileExists(copy.SampleCopyBase() + ".ked"));
+  EXPECT_TRUE(FileExists(copy.SampleCopyBase() + ".kex"));
+}
+
+TEST(SampleCopy, TellsWhyItCannotBeMade) {
+  const test::TemporaryFolder folder;
+  SampleCopy copy;
+  const auto missing = copy.Renew(folder / "", {1, 2, 3}, folder / "none.ked", "/t.kev");
+  ASSERT_TRUE(missing);
+  EXPECT_EQ(missing->path, folder / "none.ked");
+  EXPECT_EQ(missing->reason, "No such file or directory");
+  test::WriteBytes(folder / "data.ked", "@a=1\r\n");
+  const auto noFolder = copy.Renew(folder / "no", {1, 2, 3}, folder / "data.ked", "/t.kev");
+  ASSERT_TRUE(noFolder);
+  EXPECT_EQ(noFolder->path, folder / "no/Sampledata123.ked");
+  EXPECT_FALSE(copy.Renew(folder / "", {1, 2, 3}, "", "/t.kev"));
+}
+
 TEST(SampleCopy, IsMadeOfDataFilesAlone) {
   const test::TemporaryFolder folder;
   const std::string temp = folder / "";
   const std::string sample = JoinPath(temp, "data.txt");
   ASSERT_FALSE(WritePlainFile(sample, "x"));
   SampleCopy copy;
-  copy.Renew(temp, {1, 2, 3}, sample, "/t.kev");
+  EXPECT_FALSE(copy.Renew(temp, {1, 2, 3}, sample, "/t.kev"));
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(temp), {}), 1);
 }
 

@@ -6,6 +6,7 @@
 #include <QStackedWidget>
 #include <QTreeWidget>
 
+#include "app/message_texts.h"
 #include "app/text_numbers.h"
 #include "platform/text_bridge.h"
 
@@ -66,8 +67,9 @@ void FindingsDock::Show(std::span<const Finding> findings, const CodePage& page)
   const QString lineWord = ToQString(texts_.Text(kTextLineWord));
   QList<QTreeWidgetItem*> items;
   for (const Finding& finding : findings) {
-    auto* item = new QTreeWidgetItem(
-        {PlaceOf(finding, lineWord), ToQString(FindingText(finding.Kind)), Quoted(finding, page)});
+    auto* item =
+        new QTreeWidgetItem({PlaceOf(finding, lineWord),
+                             ToQString(texts_.Text(FindingTextNumber(finding.Kind))), Quoted(finding, page)});
     item->setData(kPlace, Qt::UserRole, finding.Row);
     item->setToolTip(kText, item->text(kText));
     items.append(item);
