@@ -25,18 +25,6 @@ std::vector<std::int32_t> Places(const ObjectTable& objects) {
   return places;
 }
 
-// One level more for as long as it lives.
-class Deeper {
- public:
-  explicit Deeper(int& depth) : depth_(depth) { ++depth_; }
-  ~Deeper() { --depth_; }
-  Deeper(const Deeper&) = delete;
-  Deeper& operator=(const Deeper&) = delete;
-
- private:
-  int& depth_;
-};
-
 // The size that a picture gives to the sides that its template leaves open.
 void FitPicture(ObjectRecord& record, const TextExtent& own) {
   const bool fixedWidth = record.PictureFixedWidth != kFalse;
@@ -117,16 +105,7 @@ void Designer::DeriveGeometryAndRedraw() {
 }
 
 bool Designer::Guarded(const GuardedWork& work, const std::function<void()>& body) {
-  bool done = false;
-  {
-    const Deeper deeper(guardDepth_);
-    done = RunGuarded(work, body);
-  }
-  TakeArrivals();
-  return done;
-}
-
-bool Designer::RunGuarded(const GuardedWork& work, const std::function<void()>& body) {
+  const HeldArrivals held(*this);
   std::optional<Kept> kept;
   const std::optional<std::string> failure = FailureOf([&] {
     kept.emplace(document_);
@@ -140,6 +119,7 @@ bool Designer::RunGuarded(const GuardedWork& work, const std::function<void()>& 
 
 bool Designer::GuardedView(const GuardedWork& work, const std::function<void()>& body,
                            const std::function<void()>& takeBack) {
+  const HeldArrivals held(*this);
   const std::optional<std::string> failure = FailureOf(body);
   if (!failure) return true;
   // The first failure is the one to be told.
@@ -222,24 +202,24 @@ void Designer::SetFindings(std::vector<Finding> findings) {
   if (view_ != nullptr) view_->FindingsChanged();
 }
 
-// The window goes on while a file is read, and a picture of it may be there before its record is.
-void Designer::TakeArrivals() {
-  while (guardDepth_ == 0 && !arrivals_.empty()) {
-    const auto [pictureFile, there] = arrivals_.front();
+// Runs behind work of any kind, also behind one that failed.
+void Designer::TakeArrivals() noexcept {
+  while (holds_ == 0 && !arrivals_.empty()) {
+    const auto [pictureFile, there] = std::move(arrivals_.front());
     arrivals_.erase(arrivals_.begin());
     PictureArrived(pictureFile, there);
   }
 }
 
 void Designer::PictureArrived(const std::string& pictureFile, bool there) {
-  const std::optional<std::string> file = there ? PictureFileOnDisk(pictureFile) : std::nullopt;
-  const std::optional<TextExtent> own = file ? ImageSizeOfFile(*file) : std::nullopt;
   Guarded([&] {
+    const std::optional<std::string> file = there ? PictureFileOnDisk(pictureFile) : std::nullopt;
+    const TextExtent own = file ? ImageSizeOfFile(*file).value_or(TextExtent{}) : TextExtent{};
     for (int row = 1; row <= document_.Objects.LastScanned(); ++row) {
       ObjectRecord& record = document_.Objects[row];
       if (record.Kind != ObjectKind::Picture || record.PictureFile != pictureFile) continue;
       if (!file) record.PictureFile = kMissingPicture;
-      if (own) FitPicture(record, *own);
+      if (own.Width > 0 && own.Height > 0) FitPicture(record, own);
     }
     DeriveGeometryAndRedraw();
   });

@@ -184,6 +184,20 @@ class Designer {
  private:
   // What a failed command gives back.
   struct Kept;
+  // For as long as it lives, a picture that arrives waits.
+  class HeldArrivals {
+   public:
+    explicit HeldArrivals(Designer& designer) : designer_(designer) { ++designer_.holds_; }
+    ~HeldArrivals() {
+      --designer_.holds_;
+      designer_.TakeArrivals();
+    }
+    HeldArrivals(const HeldArrivals&) = delete;
+    HeldArrivals& operator=(const HeldArrivals&) = delete;
+
+   private:
+    Designer& designer_;
+  };
 
   void DecideTemplate();
   void TellMissingFolders();
@@ -202,8 +216,7 @@ class Designer {
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);
-  void TakeArrivals();
-  bool RunGuarded(const GuardedWork& work, const std::function<void()>& body);
+  void TakeArrivals() noexcept;
   void PutBack(Kept kept) noexcept;
   void TellFailure(const GuardedWork& work, const std::string& reason);
   void SetFindings(std::vector<Finding> findings);
@@ -230,7 +243,7 @@ class Designer {
   std::vector<Finding> findings_;
   // Pictures that came while something else was under way, and whether they are there.
   std::vector<std::pair<std::string, bool>> arrivals_;
-  int guardDepth_ = 0;
+  int holds_ = 0;
   double zoomPercent_ = 100;
   DisplayFilter filter_ = DisplayFilter::All;
   int session_ = 0;

@@ -103,6 +103,8 @@ bool Designer::Refuse(const std::string& path, std::string_view bytes) {
 }
 
 bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes) {
+  // A picture of the new document may be there before its record is.
+  const HeldArrivals held(*this);
   pictures_.SetTemplateFolder(path.empty() ? folders_.TempFolder : FolderOf(path));
   bool adopted = false;
   std::vector<Finding> findings;

@@ -221,12 +221,15 @@ TEST_F(Arrival, APictureThatArrivesDuringTheReadBelongsToTheNewDocument) {
     test::WriteBytes(host_.Fetches[0].File, Gif());
     host_.Fetches[static_cast<std::size_t>(arrived++)].Done(true);
   };
+  bool paintedBefore = false;
+  view_.OnRedraw = [&] { paintedBefore = paintedBefore || view_.Replaced == 0; };
   // Long enough for steps behind the picture.
   std::string data = "{Pic=http://example.org/logo.gif,100,,}\r\n";
   for (int line = 0; line < 300; ++line)
     data += "{Spacing=10;\\n}\r\n";
   const auto designer = Start({Made("a.kev", test::TemplateWith(data))});
   ASSERT_EQ(arrived, 1);
+  EXPECT_FALSE(paintedBefore) << "the view was shown rows that it was not told of";
   EXPECT_EQ(PictureOf(*designer).Width, 300);
   EXPECT_EQ(PictureOf(*designer).Height, 150);
 }
