@@ -56,10 +56,12 @@ FindingsDock::FindingsDock(const LanguageTexts& texts, QWidget* parent)
   pages_->addWidget(nothing_);
   pages_->addWidget(list_);
   setWidget(pages_);
-  connect(list_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
+  const auto want = [this](QTreeWidgetItem* item) {
     const int row = item->data(kPlace, Qt::UserRole).toInt();
     if (row > 0) Q_EMIT ObjectWanted(row);
-  });
+  };
+  connect(list_, &QTreeWidget::itemClicked, this, want);
+  connect(list_, &QTreeWidget::itemActivated, this, want);
 }
 
 void FindingsDock::Show(std::span<const Finding> findings, const CodePage& page) {

@@ -317,11 +317,15 @@ void KavEdit01::OpenDocumentation() {
 }
 
 void KavEdit01::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DroppedTemplate(*event->mimeData()).empty()) event->acceptProposedAction();
+  if (DroppedTemplate(*event->mimeData()).empty()) return;
+  // Never a move: the program that the file comes from would delete it.
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
 }
 
 void KavEdit01::dropEvent(QDropEvent* event) {
-  event->acceptProposedAction();
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
   // The program that the file was dragged from waits for this event to end; a question would hold it up.
   QTimer::singleShot(0, this, [this, path = DroppedTemplate(*event->mimeData())] {
     designer_.GuardedView([&] { designer_.AskAndOpen(path); });
