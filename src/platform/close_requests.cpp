@@ -16,8 +16,10 @@ struct FreeReply {
   void operator()(void* reply) const { std::free(reply); }
 };
 
-// 0 where there is no X server.
+// 0 where there is no X server. The platform without a display offers the interface as well, with nothing
+// behind it.
 std::uint32_t AtomOf(std::string_view name) {
+  if (QGuiApplication::platformName() != QLatin1String("xcb")) return 0;
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   if (x11 == nullptr) return 0;
   const auto cookie =
