@@ -10,6 +10,7 @@
 #include "base/text.h"
 #include "chart/definition.h"
 #include "document/object_fields.h"
+#include "document/position.h"
 
 namespace kev {
 namespace {
@@ -67,6 +68,7 @@ constexpr std::string_view kTextBoxFields[] = {"XValue",
                                                "AlignToGrid",
                                                "Content",
                                                "Width",
+                                               "ValueType",
                                                "FontName",
                                                "FontSize",
                                                "Bold",
@@ -136,7 +138,8 @@ struct Printer {
 std::string ComparablePosition(const std::string& text) {
   const std::string_view trimmed = Trim(text);
   if (trimmed.find('$') != std::string_view::npos) return std::string(trimmed);
-  const double number = NumericPrefix(trimmed);
+  // Where it lies, not what it begins with: a label keeps only the number at the start of "100 + 50".
+  const double number = PositionOrZero(trimmed, ColumnTable());
   return std::abs(number) < 0.01 ? "0" : FormatNumber(number);
 }
 
@@ -211,7 +214,7 @@ Item ItemOf(const ObjectRecord& record, int row, const CodePage& page) {
 
 // The preamble's own bar has no line of its own in a file.
 bool IsCompared(const ObjectRecord& record, const CodePage& page) {
-  return !FieldsOf(record.Kind).empty() && !page.EqualsIgnoringCase(record.SectionName, "[CONFIGURATION]");
+  return !FieldsOf(record.Kind).empty() && !page.EqualsIgnoringCase(record.SectionOwner, kConfigurationSection);
 }
 
 std::vector<Item> ItemsOf(const Document& document) {

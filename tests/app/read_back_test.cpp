@@ -52,6 +52,19 @@ TEST_F(ReadingBack, FormsThatMeanTheSameAreNoDifference) {
   EXPECT_TRUE(CompareReadBack(page_, file_).Same());
 }
 
+TEST_F(ReadingBack, APositionThatLosesItsStepIsFound) {
+  page_.Objects[1].XValue = "100 + 50";
+  ASSERT_EQ(CompareReadBack(page_, file_).Findings.size(), 1U);
+  EXPECT_EQ(CompareReadBack(page_, file_).Findings[0].Text, "LABEL XValue: 150 -> 100");
+}
+
+TEST_F(ReadingBack, TheBarAboveTheHeaderIsNotComparedWithItsBody) {
+  const int row = Add(page_, ObjectKind::Subsection, "", 0);
+  page_.Objects[row].SectionOwner = "[CONFIGURATION]";
+  page_.Objects[row].SectionName = "CONFIGURATION]";
+  EXPECT_TRUE(CompareReadBack(page_, file_).Same());
+}
+
 TEST_F(ReadingBack, AChangedValueNamesItsFieldAndItsRow) {
   page_.Objects[1].Strikethrough = kTrue;
   const ReadBack back = CompareReadBack(page_, file_);
