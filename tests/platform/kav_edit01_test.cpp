@@ -118,6 +118,11 @@ class KavEdit01Test : public testing::Test {
     closer.start(1);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !window->windowTitle().isEmpty(); }));
   }
+  // The end of a loop that was never begun would end the loops of later tests.
+  void EndInItsLoop() {
+    QTimer::singleShot(0, qApp, [this] { window->EndWithoutAsking(); });
+    EXPECT_EQ(QApplication::exec(), 0);
+  }
   // Types a path into the file dialog that the next call opens.
   static void WhenFileDialog(const std::string& path) {
     QTimer::singleShot(0, qApp, [path] {
@@ -341,7 +346,7 @@ TEST_F(KavEdit01Test, EndingTheSessionAsksNothing) {
   Start();
   designer->MarkModified();
   const BoxAnswers answers(QMessageBox::Cancel);
-  window->EndWithoutAsking();
+  EndInItsLoop();
   EXPECT_TRUE(answers.texts.isEmpty());
   EXPECT_TRUE(window->close());
 }
@@ -352,7 +357,7 @@ TEST_F(KavEdit01Test, EndingTheSessionShowsNoMessageWhenTheOptionsCannotBeWritte
   std::filesystem::create_directory(home.Path("data/Kev/LASTRV.DAT"));
   const BoxAnswers answers(QMessageBox::Ok);
   testing::internal::CaptureStderr();
-  window->EndWithoutAsking();
+  EndInItsLoop();
   EXPECT_NE(testing::internal::GetCapturedStderr().find("LASTRV.DAT"), std::string::npos);
   EXPECT_TRUE(answers.texts.isEmpty());
 }
