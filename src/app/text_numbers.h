@@ -489,4 +489,10 @@ inline constexpr int kTextFolderRoleRecent = 1264;
 // Settings of the user
 inline constexpr int kTextUnknownSettings = 1265;
 
+// Accessible names of what has no caption
+inline constexpr int kTextPage = 1267;
+inline constexpr int kTextScrollVertical = 1268;
+inline constexpr int kTextScrollHorizontal = 1269;
+inline constexpr int kTextTools = 1270;
+
 }  // namespace kev

@@ -185,7 +185,8 @@ TEST_F(KavEdit01Test, EveryControlHasANameAndAnAccessibleName) {
                            "statusselection", "statustext", "findings", "combozoom", "progresswindow"}) {
     EXPECT_NE(window->findChild<QWidget*>(QString::fromLatin1(name)), nullptr) << name;
   }
-  for (const char* name : {"p1", "findings", "findingslist", "combozoom", "findingsbutton"}) {
+  for (const char* name : {"p1", "toolbar1", "vscrollbar", "hscrollbar", "findings", "findingslist",
+                           "combozoom", "findingsbutton"}) {
     EXPECT_FALSE(Find<QWidget>(name).accessibleName().isEmpty()) << name;
   }
 }

@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QUrl>
@@ -112,9 +113,11 @@ QString KavEdit01::MenuCaption(int text) const {
 void KavEdit01::BuildToolRow() {
   auto* bar = new QToolBar(this);
   bar->setObjectName(QStringLiteral("toolbar1"));
+  bar->setAccessibleName(ToQString(designer_.Text(kTextTools)));
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   auto* label = new QLabel(MenuCaption(kTextMenuZoom), bar);
+  label->setObjectName(QStringLiteral("zoomlabel"));
   label->setContentsMargins(8, 0, 6, 0);
   zoomBox_ = new ZoomBox(bar);
   zoomBox_->setAccessibleName(ToQString(designer_.Text(kTextMenuZoom)));
@@ -128,8 +131,11 @@ void KavEdit01::BuildToolRow() {
 
 void KavEdit01::BuildPage() {
   setCentralWidget(&page_.Canvas());
-  page_.Canvas().setAccessibleName(ToQString(designer_.Text(kTextProgramTitle)));
-  connect(&page_.Canvas(), &PageCanvas::ZoomRequested, this, &KavEdit01::OnZoomWheel);
+  PageCanvas& canvas = page_.Canvas();
+  canvas.setAccessibleName(ToQString(designer_.Text(kTextPage)));
+  canvas.verticalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollVertical)));
+  canvas.horizontalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollHorizontal)));
+  connect(&canvas, &PageCanvas::ZoomRequested, this, &KavEdit01::OnZoomWheel);
 }
 
 void KavEdit01::BuildPanels() {

@@ -29,14 +29,15 @@ StatusPanels::StatusPanels(const QString& idleText, const QString& findingsWord,
       findingsWord_(findingsWord),
       selection_(AddPanel(*this, QStringLiteral("statusselection"), 0)),
       text_(AddPanel(*this, QStringLiteral("statustext"), 1)),
+      divider_(new QFrame(this)),
       findings_(new QToolButton(this)) {
   setObjectName(QStringLiteral("statusbar"));
   setSizeGripEnabled(false);
-  auto* divider = new QFrame(this);
-  divider->setFrameShape(QFrame::VLine);
-  divider->setForegroundRole(QPalette::Mid);
-  divider->setFrameShadow(QFrame::Plain);
-  insertWidget(1, divider);
+  divider_->setObjectName(QStringLiteral("statusdivider"));
+  divider_->setFrameShape(QFrame::VLine);
+  divider_->setForegroundRole(QPalette::Mid);
+  divider_->setFrameShadow(QFrame::Plain);
+  insertWidget(1, divider_);
   selection_->setMinimumWidth(kSelectionWidth);
   // A long message is cut at the window's edge instead of widening the window.
   text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -44,6 +45,7 @@ StatusPanels::StatusPanels(const QString& idleText, const QString& findingsWord,
   findings_->setAutoRaise(true);
   findings_->setAccessibleName(findingsWord);
   findings_->hide();
+  ShowSelection(QString());
   ShowText(QString());
   addPermanentWidget(findings_);
   connect(findings_, &QToolButton::clicked, this, &StatusPanels::FindingsWanted);
@@ -51,6 +53,9 @@ StatusPanels::StatusPanels(const QString& idleText, const QString& findingsWord,
 
 void StatusPanels::ShowSelection(const QString& text) {
   selection_->setText(text);
+  // An empty box beside a line would only look unfinished.
+  selection_->setVisible(!text.isEmpty());
+  divider_->setVisible(!text.isEmpty());
 }
 
 void StatusPanels::ShowText(const QString& text) {

@@ -4,6 +4,7 @@
 
 #include <QStatusBar>
 
+class QFrame;
 class QLabel;
 class QToolButton;
 
@@ -28,6 +29,7 @@ class StatusPanels final : public QStatusBar {
   QString findingsWord_;
   QLabel* selection_;
   QLabel* text_;
+  QFrame* divider_;
   QToolButton* findings_;
 };
 
