@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "template/object_writer.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/numbers.h"
@@ -272,7 +273,9 @@ void ObjectWriter::Barcode(const ObjectRecord& record) {
   for (const SymbologyWord& row : kSymbologyWords) {
     if (row.code == record.BarcodeKind) word = row.word;
   }
-  if (word.empty()) report_.UnnamedSymbologies.push_back(record.BarcodeKind);
+  std::vector<std::string>& unnamed = report_.UnnamedSymbologies;
+  if (word.empty() && std::find(unnamed.begin(), unnamed.end(), record.BarcodeKind) == unnamed.end())
+    unnamed.push_back(record.BarcodeKind);
   items += word;
   TextLine(items, record.Content, "NoBar");
 }

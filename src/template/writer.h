@@ -21,7 +21,7 @@ struct WriteReport {
   std::optional<FileFailure> Failure;
   // Why there is no copy of the sample data; a save does without, the test run shows it.
   std::optional<FileFailure> SampleFailure;
-  // The symbologies that have no word in a template; each is shown once the file is written.
+  // The symbologies that have no word in a template, each once, to be shown when the file is written.
   std::vector<std::string> UnnamedSymbologies;
 };
 

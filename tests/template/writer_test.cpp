@@ -358,8 +358,9 @@ TEST(Writer, PrintsTheCharsetForTheStrikethroughOfATextBox) {
               ElementsAre("{DEF}", "{CS=2;ST=2;TBProps=285,Arial,0,,,,0,0,0,0,0,0,;TextBox=1,,2,,t}"));
 }
 
-TEST(Writer, TellsOfEachSymbologyWithoutAWord) {
-  ReadOutcome outcome = ReadLayout({"{DEF}", "{10;BarHeight=5;B32}a{NoBar}", "{10;BEan128}b{NoBar}"});
+TEST(Writer, TellsOnceOfEachSymbologyWithoutAWord) {
+  ReadOutcome outcome =
+      ReadLayout({"{DEF}", "{10;BarHeight=5;B32}a{NoBar}", "{10;BEan128}b{NoBar}", "{10;B32}c{NoBar}"});
   WriteReport report;
   const std::string text = TemplateText(outcome.Read, {}, report);
   EXPECT_THAT(report.UnnamedSymbologies, ElementsAre("32", "12821"));
