@@ -299,10 +299,6 @@ std::optional<std::string> NotEmpty(std::string_view text) {
   return text.empty() ? std::nullopt : std::optional(std::string(text));
 }
 
-bool IsYes(std::string_view text) {
-  return text == "Y" || text == "y" || text == "1";
-}
-
 void RowFiller::TextBox() {
   const AttributeState& state = attributes();
   record_.Content = object_.text;
@@ -356,6 +352,10 @@ void MeasureText(ObjectRecord& record, const TextMeasurer& measurer) {
   const TextExtent extent = measurer.Measure(FontOf(record), record.Content);
   record.Width = ToInt32(extent.Width);
   record.Height = ToInt32(extent.Height);
+}
+
+bool IsYes(std::string_view text) {
+  return text == "Y" || text == "y" || text == "1";
 }
 
 std::string_view SampleForKind(int symbology) {

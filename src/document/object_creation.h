@@ -74,6 +74,9 @@ int AddObject(CreationContext& context, const NewObject& object);
 FontSpec FontOf(const ObjectRecord& record);
 void MeasureText(ObjectRecord& record, const TextMeasurer& measurer);
 
+// Whether the value of a template's item says yes; anything but "y", in any case, and "1" says no.
+bool IsYes(std::string_view text);
+
 // The specimen that stands for a bar code on the page.
 std::string_view SampleForKind(int symbology);
 

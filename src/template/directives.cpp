@@ -57,10 +57,6 @@ constexpr auto kYesStores = std::to_array<std::pair<Action, Flag AttributeState:
     {Action::Trim, &AttributeState::AttrTrim},
 });
 
-bool IsYes(std::string_view value) {
-  return value == "Y" || value == "y" || value == "1";
-}
-
 // One item of a block: its key, and the value behind the first "=".
 class Item {
  public:
@@ -347,8 +343,8 @@ void Item::SetColour() {
   const bool isIndex = value_.find(',') == std::string::npos;
   for (std::size_t n = 1; n <= 3; ++n)
     NoteIfAbove(kLargest16, Part(n));
-  colour = {Int16Of(Part(1)), Int16Of(Part(2)), Int16Of(Part(3))};
-  if (isIndex) colour = {Int16Of(value_), -1, -1};
+  colour = isIndex ? Colour{Int16Of(value_), -1, -1}
+                   : Colour{Int16Of(Part(1)), Int16Of(Part(2)), Int16Of(Part(3))};
 }
 
 void Item::SetAlign() {

@@ -176,13 +176,18 @@ TEST_F(Sections, DoNotMoveOnceTheyAreLaidOut) {
 
 TEST_F(Sections, OfAbsurdHeightsStayInsideTheirFields) {
   constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+  std::vector<int> bars;
   for (int n = 0; n < 4; ++n) {
     const PlacedBar bar = PutSubsection(document, "[A]", n, 0);
+    bars.push_back(bar.bar);
     at(bar.bar).EndsAt = n % 2 == 0 ? kMost : std::numeric_limits<std::int32_t>::min();
   }
   at(PutBox(document, kMost)).Height = kMost;
   DeriveGeometry(document);
-  SUCCEED();
+  EXPECT_EQ(at(bars[0]).AbsoluteY, 0);
+  EXPECT_EQ(at(at(bars[0]).EndRow).AbsoluteY, 0) << "400 + the largest number does not fit";
+  EXPECT_EQ(at(bars[1]).AbsoluteY, 0) << "nor does the place behind it";
+  EXPECT_EQ(at(bars[2]).AbsoluteY, 2 * (400 + 200) - 1) << "the two heights add up to -1";
 }
 
 }  // namespace
