@@ -5,7 +5,7 @@
 #include <array>
 #include <set>
 
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/code_page.h"
 
 namespace kev {
@@ -14,7 +14,10 @@ namespace {
 
 constexpr std::array kMenus = {
     MenuRow{MenuId::File, "menfile", kTextMenuFile},
+    MenuRow{MenuId::Edit, "edit", kTextMenuEdit},
+    MenuRow{MenuId::Insert, "meninsert", kTextMenuInsert},
     MenuRow{MenuId::View, "menview", kTextMenuView},
+    MenuRow{MenuId::Columns, "mencolumns", kTextMenuColumns},
     MenuRow{MenuId::Help, "menhelp", kTextMenuHelp},
 };
 
@@ -31,6 +34,25 @@ constexpr std::array kCommands = {
                kDialog},
     CommandRow{Command::Exit, MenuId::File, "exitmen", kTextMenuExit, "Ctrl+Q", CommandKind::Plain, kNoDialog,
                kGroup},
+    CommandRow{Command::Undo, MenuId::Edit, "undochanges_", kTextMenuUndo, "Ctrl+Z"},
+    CommandRow{Command::Redo, MenuId::Edit, "redochanges", kTextMenuRedo, "Ctrl+Y"},
+    CommandRow{Command::DeleteObject, MenuId::Edit, "deleteobject", kTextMenuDelete, "Del",
+               CommandKind::Plain, kNoDialog, kGroup},
+    CommandRow{Command::SelectAll, MenuId::Edit, "selectall", kTextMenuSelectAll, "Ctrl+A",
+               CommandKind::Plain, kNoDialog, kGroup},
+    CommandRow{Command::MoveUp, MenuId::Edit, "moveup", kTextMenuMoveUp, "", CommandKind::Plain, kNoDialog,
+               kGroup},
+    CommandRow{Command::MoveDown, MenuId::Edit, "movedown", kTextMenuMoveDown, ""},
+    CommandRow{Command::NewSubsection, MenuId::Insert, "newsubsection", kTextMenuSubsection, "",
+               CommandKind::Plain, kDialog},
+    CommandRow{Command::SetColumns, MenuId::Columns, "inscol", kTextMenuSetColumns, "", CommandKind::Plain,
+               kDialog},
+    CommandRow{Command::InsertColumnHere, MenuId::None, "insertcolumnhere", kTextMenuInsertColumnHere, ""},
+    CommandRow{Command::RemoveColumn, MenuId::None, "removecolumn", kTextMenuRemoveColumn, ""},
+    CommandRow{Command::SetColumn, MenuId::None, "setcolumn", kTextMenuSetColumn, "", CommandKind::Plain,
+               kDialog},
+    CommandRow{Command::OrganizeColumns, MenuId::Columns, "organizecolumns", kTextMenuOrganizeColumns, ""},
+    CommandRow{Command::Properties, MenuId::None, "Properties", kTextMenuProperties, ""},
     CommandRow{Command::SeeAll, MenuId::View, "seeall", kTextFilterAll, "", CommandKind::Exclusive, kNoDialog,
                kGroup},
     CommandRow{Command::SeeModifiable, MenuId::View, "see_ebeu", kTextFilterEndUser, "",
@@ -79,6 +101,35 @@ std::span<const CommandRow> CommandRows() {
 const CommandRow& RowOf(Command id) {
   return *std::find_if(kCommands.begin(), kCommands.end(),
                        [id](const CommandRow& row) { return row.id == id; });
+}
+
+bool IsPageCommand(Command id) {
+  return id >= Command::Undo && id <= Command::Properties;
+}
+
+std::span<const std::optional<Command>> ContextMenuRows(ContextMenu menu) {
+  using Row = std::optional<Command>;
+  static constexpr std::array kObject = {Row(Command::DeleteObject), Row(), Row(Command::MoveUp),
+                                         Row(Command::MoveDown),     Row(), Row(Command::Properties)};
+  static constexpr std::array kEdit = {Row(Command::Undo), Row(Command::Redo), Row(),
+                                       Row(Command::SelectAll)};
+  static constexpr std::array kRuler = {Row(Command::InsertColumnHere), Row(Command::SetColumns)};
+  static constexpr std::array kColumn = {Row(Command::SetColumn), Row(Command::RemoveColumn), Row(),
+                                         Row(Command::OrganizeColumns)};
+  static constexpr std::array kGroupMenu = {Row(Command::DeleteObject), Row(), Row(Command::SelectAll)};
+  switch (menu) {
+    case ContextMenu::Edit:
+      return kEdit;
+    case ContextMenu::Object:
+      return kObject;
+    case ContextMenu::Ruler:
+      return kRuler;
+    case ContextMenu::ColumnLine:
+      return kColumn;
+    case ContextMenu::Group:
+      return kGroupMenu;
+  }
+  return {};
 }
 
 std::string CommandCaption(const CommandRow& row, std::string_view text) {

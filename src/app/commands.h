@@ -4,10 +4,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "surface/page_work.h"
 
 namespace kev {
 
@@ -17,6 +20,19 @@ enum class Command : std::uint8_t {
   Save,
   SaveAs,
   Exit,
+  Undo,
+  Redo,
+  DeleteObject,
+  SelectAll,
+  MoveUp,
+  MoveDown,
+  NewSubsection,
+  SetColumns,
+  InsertColumnHere,
+  RemoveColumn,
+  SetColumn,
+  OrganizeColumns,
+  Properties,
   SeeAll,
   SeeModifiable,
   SeePrinted,
@@ -25,8 +41,9 @@ enum class Command : std::uint8_t {
   Documentation
 };
 
-enum class MenuId : std::uint8_t { File, View, Help };
+enum class MenuId : std::uint8_t { File, Edit, Insert, View, Columns, Help, None };
 
+// None: the command stands in context menus alone.
 struct MenuRow {
   MenuId id;
   std::string_view name;  // the window system's name of the menu
@@ -51,6 +68,11 @@ struct CommandRow {
 std::span<const MenuRow> MenuRows();
 std::span<const CommandRow> CommandRows();
 const CommandRow& RowOf(Command id);
+
+// Whether the page that is worked on runs it; the others are the window's and the designer's.
+bool IsPageCommand(Command id);
+// The entries of a context menu, in order. Nothing stands for a separator.
+std::span<const std::optional<Command>> ContextMenuRows(ContextMenu menu);
 
 // The entry's caption from its text.
 std::string CommandCaption(const CommandRow& row, std::string_view text);

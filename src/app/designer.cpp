@@ -9,7 +9,7 @@
 
 #include "app/image_size.h"
 #include "app/message_texts.h"
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "document/sections.h"
@@ -97,11 +97,11 @@ ReadServices Designer::Services(ReadProgress* progress) {
 
 void Designer::DeriveGeometryAndRedraw() {
   DeriveGeometry(document_);
-  if (view_ != nullptr) view_->RedrawDocument();
+  surface_.Redraw();
   const std::vector<std::int32_t> painted = Places(document_.Objects);
   DeriveGeometry(document_);
   // What painting measured can move what was painted before it.
-  if (view_ != nullptr && Places(document_.Objects) != painted) view_->RedrawDocument();
+  if (Places(document_.Objects) != painted) surface_.Redraw();
 }
 
 bool Designer::Guarded(const GuardedWork& work, const std::function<void()>& body) {
@@ -144,7 +144,7 @@ void Designer::PutBack(Kept kept) noexcept {
 
 void Designer::TellFailure(const GuardedWork& work, const std::string& reason) {
   try {
-    if (view_ != nullptr) view_->RedrawDocument();
+    surface_.FullRepaint();
   } catch (const std::exception&) {
     // Painting may be what failed; the message below is about that then.
   }
@@ -178,7 +178,7 @@ bool Designer::SetZoom(std::string_view text) {
   const auto change = [&] {
     if (good) zoomPercent_ = percent;
     show();
-    if (view_ != nullptr && zoomPercent_ != before) view_->RedrawDocument();
+    if (zoomPercent_ != before) surface_.ZoomChanged(before / 100);
   };
   return GuardedView(change,
                      [&] {
@@ -190,11 +190,23 @@ bool Designer::SetZoom(std::string_view text) {
 
 bool Designer::SetFilter(DisplayFilter filter) {
   const DisplayFilter before = std::exchange(filter_, filter);
-  return GuardedView(
-      [this] {
-        if (view_ != nullptr) view_->RedrawDocument();
-      },
-      [&] { filter_ = before; });
+  return GuardedView([this] { surface_.FilterChanged(); }, [&] { filter_ = before; });
+}
+
+void Designer::PageShown() {
+  if (view_ != nullptr) view_->PageShown();
+}
+
+void Designer::ShowRulers() {
+  if (view_ != nullptr) view_->ShowRulers();
+}
+
+void Designer::ShowArea(const CanvasArea& area) {
+  if (view_ != nullptr) view_->ShowArea(area);
+}
+
+void Designer::CommandsChanged() {
+  if (view_ != nullptr) view_->CommandsChanged();
 }
 
 void Designer::SetFindings(std::vector<Finding> findings) {

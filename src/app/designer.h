@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "app/command_line.h"
+#include "app/design_surface.h"
 #include "app/folders.h"
 #include "app/language.h"
 #include "app/options.h"
@@ -23,6 +24,8 @@
 #include "base/host.h"
 #include "document/document.h"
 #include "document/object_creation.h"
+#include "surface/null_surface.h"
+#include "surface/page_work.h"
 #include "surface/visuals.h"
 #include "template/reader.h"
 #include "template/sample_copy.h"
@@ -47,12 +50,25 @@ class DesignerView {
   virtual ~DesignerView() = default;
   // Another document stands in the tables: selection, pending tool and open cells of the old one are void.
   virtual void DocumentReplaced() = 0;
-  // Paints the whole page, rulers and sheets at the present zoom. Painting may store measured sizes in rows.
-  virtual void RedrawDocument() = 0;
+  // Where the page is painted and its widgets stand.
+  virtual SurfaceOps& Canvas() = 0;
+  // The canvas was painted anew.
+  virtual void PageShown() = 0;
+  // Rulers follow the page, its bands and the zoom.
+  virtual void ShowRulers() {}
+  // Scrolls so that the area can be seen; canvas units.
+  virtual void ShowArea(const CanvasArea&) {}
   // The zoom box shows this text ("100%") again.
   virtual void ShowZoom(std::string_view text) = 0;
   // The list of findings is another one.
   virtual void FindingsChanged() = 0;
+  // Menus and tools ask anew what can be used.
+  virtual void CommandsChanged() {}
+  virtual void OpenContextMenu(ContextMenu) {}
+  // The text box over a label; shown once more, it is moved and sized.
+  virtual void ShowFieldScreen(const FieldScreenLook&) {}
+  virtual void HideFieldScreen() {}
+  virtual void StartAllowTimer(int, std::function<void()>) {}
 };
 
 // What a process gives to its designer.
@@ -144,7 +160,12 @@ class Designer {
   // False when the page can't be painted with it: the old one is put back.
   bool SetFilter(DisplayFilter filter);
 
+  // Runs a command of the page; false when it is another's.
+  bool Run(Command command) { return surface_.Run(command); }
+  bool Enabled(Command command) const { return surface_.Enabled(command); }
+
   // --- What it owns ----------------------------------------------------------------------------------------
+  DesignSurface& Surface() { return surface_; }
   Document& OpenDocument() { return document_; }
   const Document& OpenDocument() const { return document_; }
   AttributeState& Attributes() { return attributes_; }
@@ -176,6 +197,17 @@ class Designer {
   DisplayFilter Filter() const { return filter_; }
   // Of the last read or save.
   const std::vector<Finding>& Findings() const { return findings_; }
+
+  // --- The window, for the page that is worked on ---------------------------------------------------------
+  DesignerView* View() const { return view_; }
+  // A surface that shows nothing while there is no window.
+  SurfaceOps& Canvas() { return view_ != nullptr ? view_->Canvas() : nowhere_; }
+  WorkImages Images() const { return {folders_.TempFolder, session_}; }
+  void PageShown();
+  void ShowRulers();
+  void ShowArea(const CanvasArea& area);
+  void CommandsChanged();
+  ClockTime Now() const { return input_.Clock(); }
 
   // A box under the program's title with one OK. `detail` is native bytes.
   void ShowText(int number, BoxIcon icon, std::string detail = {});
@@ -252,6 +284,8 @@ class Designer {
   bool firstActivation_ = false;
   bool documentShown_ = false;
   bool optionsRead_ = false;
+  NullSurface nowhere_;
+  DesignSurface surface_{*this};
 };
 
 }  // namespace kev

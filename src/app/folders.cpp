@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/code_page.h"
 #include "base/files.h"
 #include "base/key_file.h"

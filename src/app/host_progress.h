@@ -5,7 +5,7 @@
 #include <string>
 
 #include "app/language.h"
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/host.h"
 #include "template/reader.h"
 

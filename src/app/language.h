@@ -12,7 +12,7 @@ namespace kev {
 
 inline constexpr int kHighestTextNumber = 1300;
 
-// All words that the program shows, by number (see app/text_numbers.h), as bytes of Windows-1252 whatever the
+// All words that the program shows, by number (see base/text_numbers.h), as bytes of Windows-1252 whatever the
 // code page of the templates is. A number that the file does not give is an empty text.
 class LanguageTexts {
  public:

@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/code_page.h"
 #include "base/reasons.h"
 

@@ -7,7 +7,7 @@
 #include "app/host_progress.h"
 #include "app/message_texts.h"
 #include "app/read_back.h"
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/files.h"
 #include "base/text.h"
 #include "chart/definition.h"
@@ -141,9 +141,11 @@ void Designer::Adopt(ReadOutcome outcome, std::string path, std::string title) n
 
 void Designer::ShowAdopted(std::vector<Finding> findings) {
   ShowCaption();
+  surface_.DocumentReplaced();
   if (view_ != nullptr) view_->DocumentReplaced();
   SetFindings(std::move(findings));
   DeriveGeometryAndRedraw();
+  surface_.BuildRulers();
 }
 
 bool Designer::OpenFresh(std::string_view bytes) {

@@ -5,7 +5,7 @@
 
 #include "app/designer.h"
 #include "app/message_texts.h"
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/files.h"
 
 namespace kev {

@@ -325,4 +325,13 @@ void DisplayList::ShowWidget(std::string_view name, bool visible) {
   if (layer_) layer_->ShowWidget(name, visible);
 }
 
+SurfaceOps& DisplayList::SurfaceOf(std::string_view name) {
+  if (layer_ == nullptr) return nowhere_;
+  return layer_->SurfaceOf(name);
+}
+
+void DisplayList::SetWidgetText(std::string_view name, std::string_view text) {
+  if (layer_ != nullptr) layer_->SetWidgetText(name, text);
+}
+
 }  // namespace kev

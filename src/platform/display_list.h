@@ -13,6 +13,7 @@
 
 #include "platform/fonts.h"
 #include "platform/images.h"
+#include "surface/null_surface.h"
 #include "surface/surface_ops.h"
 
 class QPainter;
@@ -28,6 +29,8 @@ class WidgetLayer {
   virtual ~WidgetLayer() = default;
   virtual void PlaceWidget(std::string_view name, double left, double top, double width, double height) = 0;
   virtual void ShowWidget(std::string_view name, bool visible) = 0;
+  virtual SurfaceOps& SurfaceOf(std::string_view name) = 0;
+  virtual void SetWidgetText(std::string_view name, std::string_view text) = 0;
 };
 
 class DisplayList final : public SurfaceOps {
@@ -62,6 +65,8 @@ class DisplayList final : public SurfaceOps {
   void DrawDots(double left, double top, double right, double bottom, double step) override;
   void PlaceWidget(std::string_view name, double left, double top, double width, double height) override;
   void ShowWidget(std::string_view name, bool visible) override;
+  SurfaceOps& SurfaceOf(std::string_view name) override;
+  void SetWidgetText(std::string_view name, std::string_view text) override;
 
  private:
   struct Pen {
@@ -111,6 +116,7 @@ class DisplayList final : public SurfaceOps {
   FontCache& fonts_;
   ImageCache& images_;
   WidgetLayer* layer_ = nullptr;
+  NullSurface nowhere_;
   double scaleLeft_ = 0, width_ = 0, height_ = 0;
   Pen pen_{0, 1, PenStyle::Solid};
   Rgb foreground_ = 0;

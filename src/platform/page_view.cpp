@@ -3,10 +3,7 @@
 
 #include <QScrollBar>
 
-#include "app/text_numbers.h"
-#include "document/sort_keys.h"
 #include "platform/text_bridge.h"
-#include "surface/page_background.h"
 
 namespace kev {
 
@@ -26,18 +23,7 @@ PageView::PageView(Designer& designer, FontCache& fonts, ImageCache& images, QWi
   });
 }
 
-void PageView::Redraw() {
-  Document& document = designer_.OpenDocument();
-  PaintContext context{document,
-                       list_,
-                       designer_.Measurer(),
-                       designer_.ZoomFactor(),
-                       designer_.Filter(),
-                       0,
-                       WorkImages{designer_.Folders().TempFolder, designer_.SessionNumber()}};
-  const PaintResult painted = PaintPage(context, drawGrid_, SetSortKeys(document));
-  designer_.TheHost().ShowSelectionStatus(
-      SelectionStatus(painted.SelectionCount, designer_.Text(kTextObjectsSelected)));
+void PageView::Shown() {
   canvas_->ShowList();
 }
 

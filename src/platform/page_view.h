@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The open document's page in the window: fills the display list and keeps the view's place.
+// The open document's page in the window: shows the display list and keeps the view's place.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,6 @@
 #include "app/designer.h"
 #include "platform/display_list.h"
 #include "platform/page_canvas.h"
-#include "surface/visuals.h"
 
 namespace kev {
 
@@ -18,13 +17,12 @@ class PageView {
 
   PageCanvas& Canvas() { return *canvas_; }
 
-  // Paints the page anew at the designer's zoom and filter.
-  void Redraw();
+  // Where the page is painted.
+  SurfaceOps& Surface() { return list_; }
+  // It was painted anew.
+  void Shown();
   // The names on the page and its bytes are those of another document.
   void DocumentReplaced();
-
-  bool DrawGrid() const { return drawGrid_; }
-  void SetDrawGrid(bool draw) { drawGrid_ = draw; }
 
   // Changes the zoom; the point of the page below `anchor` (pixels of the viewport) stays where it is.
   void SetZoom(const QString& text, const QPointF& anchor);
@@ -37,7 +35,6 @@ class PageView {
   DisplayList list_;
   // Before the list that it shows, wherever it stands in the window.
   std::unique_ptr<PageCanvas> canvas_;
-  bool drawGrid_ = false;
 };
 
 }  // namespace kev

@@ -6,7 +6,7 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "platform/qt_host.h"
 #include "platform/text_bridge.h"
 

@@ -55,11 +55,15 @@ double LeftMarginOf(const DocumentSettings& settings) {
   return settings.Number(Setting::LM);
 }
 
+double CanvasHeightOf(const SortedRows& sorted) {
+  return sorted.BottomMost + kRoomBelow;
+}
+
 void DrawPageBackground(PaintContext& context, const PageBackground& background, const SortedRows& sorted) {
   const double zoom = context.ZoomFactor;
   const double pageWidth = PageSizeOf(context.document.Settings).Width;
   const double leftMargin = LeftMarginOf(context.document.Settings);
-  const double height = (sorted.BottomMost + kRoomBelow) * zoom;
+  const double height = CanvasHeightOf(sorted) * zoom;
   context.canvasWidth = (leftMargin + pageWidth) * zoom;
   context.surface.SetCanvasSize(context.canvasWidth, height);
   context.surface.SetScaleLeft(-leftMargin * zoom);

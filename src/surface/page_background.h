@@ -19,6 +19,8 @@ PageSize PageSizeOf(const DocumentSettings& settings);
 
 // Twips.
 double LeftMarginOf(const DocumentSettings& settings);
+// Twips: what stands lowest, and room below it.
+double CanvasHeightOf(const SortedRows& sorted);
 
 struct PageBackground {
   double GridStep = 200;  // twips; 0 and less count as 200

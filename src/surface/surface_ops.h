@@ -42,9 +42,16 @@ class SurfaceOps {
   // Many equal dots at once (the drawn grid): a dot of the pen's colour at each multiple of `step` inside.
   virtual void DrawDots(double left, double top, double right, double bottom, double step) = 0;
 
-  // The upper layer: the widgets that show the one current object.
+  // The upper layer: the widgets that show the one current object ("lblob(1)" to "lblob(4)", "dot_1" to
+  // "dot_8", "ObjL1", "ObjL2", "Lineaviva"), frames ("lnh01", "LineSelectHor01" and their like), column lines
+  // ("linecolumn(7)") and guides. A widget is made when it is first named.
   virtual void PlaceWidget(std::string_view name, double left, double top, double width, double height) = 0;
   virtual void ShowWidget(std::string_view name, bool visible) = 0;
+  // Where a widget is painted, in the canvas units of the page as it stands at that time; what is painted
+  // moves with the widget from then on. ClearCanvas empties it. Good until the next call.
+  virtual SurfaceOps& SurfaceOf(std::string_view name) = 0;
+  // The words that a widget shows: the tooltip of a grip, the caption of a guide.
+  virtual void SetWidgetText(std::string_view name, std::string_view text) = 0;
 };
 
 }  // namespace kev

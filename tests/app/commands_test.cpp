@@ -37,7 +37,7 @@ TEST(Commands, EachStandsInAMenuOfTheBar) {
   for (const MenuRow& row : MenuRows())
     menus.insert(row.id);
   for (const CommandRow& row : CommandRows())
-    EXPECT_TRUE(menus.contains(row.menu)) << row.name;
+    EXPECT_TRUE(row.menu == MenuId::None || menus.contains(row.menu)) << row.name;
 }
 
 TEST(Commands, ARowIsFoundByItsCommand) {

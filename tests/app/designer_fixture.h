@@ -11,8 +11,9 @@
 #include <vector>
 
 #include "app/designer.h"
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "document/text_measurer.h"
+#include "support/recording_surface.h"
 #include "support/run_tool.h"
 #include "support/scripted_host.h"
 
@@ -22,10 +23,12 @@ class CountingView final : public DesignerView {
  public:
   int Replaced = 0, Redrawn = 0, FindingLists = 0;
   std::string Zoom;
+  RecordingSurface Page;
   std::function<void()> OnRedraw;
 
   void DocumentReplaced() override { ++Replaced; }
-  void RedrawDocument() override {
+  SurfaceOps& Canvas() override { return Page; }
+  void PageShown() override {
     ++Redrawn;
     if (OnRedraw) OnRedraw();
   }

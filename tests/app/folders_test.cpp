@@ -5,7 +5,7 @@
 
 #include <map>
 
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/files.h"
 #include "support/run_tool.h"
 

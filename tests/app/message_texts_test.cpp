@@ -6,7 +6,7 @@
 
 #include <set>
 
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/files.h"
 #include "base/reasons.h"
 #include "base/text.h"

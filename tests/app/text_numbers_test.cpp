@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The language file of the build against the names of its numbers.
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ LanguageTexts TextsOf(char letter) {
 
 // Every constant of the header, so that none can be forgotten in a list.
 std::map<std::string, int> NamedNumbers() {
-  std::istringstream header(test::ReadBytes(KEV_TEST_DATA_DIR "/../src/app/text_numbers.h"));
+  std::istringstream header(test::ReadBytes(KEV_TEST_DATA_DIR "/../src/base/text_numbers.h"));
   const std::string start = "inline constexpr int ";
   std::map<std::string, int> numbers;
   for (std::string line; std::getline(header, line);) {

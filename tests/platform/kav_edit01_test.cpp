@@ -25,7 +25,7 @@
 #include <fstream>
 #include <new>
 
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "base/files.h"
 #include "platform/file_dialog.h"
 #include "platform/forms/kavsplash.h"

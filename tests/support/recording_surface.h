@@ -80,6 +80,14 @@ class RecordingSurface : public SurfaceOps {
   void ShowWidget(std::string_view name, bool visible) override {
     Lines.push_back((visible ? "show " : "hide ") + std::string(name));
   }
+  // What follows goes to the widget; the surface is the same.
+  SurfaceOps& SurfaceOf(std::string_view name) override {
+    Lines.push_back("on " + std::string(name));
+    return *this;
+  }
+  void SetWidgetText(std::string_view name, std::string_view text) override {
+    Lines.push_back("say " + std::string(name) + " " + std::string(text));
+  }
 
  private:
   static std::string Hex(Rgb colour) {

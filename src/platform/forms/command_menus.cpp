@@ -15,6 +15,9 @@ CommandMenus::CommandMenus(QMenuBar& bar, const LanguageTexts& texts, std::funct
   AddMenus(bar, texts);
   for (const MenuRow& row : MenuRows())
     AddEntries(row.id, texts);
+  // Commands of context menus alone are actions of the bar, which shows none of them.
+  menus_[MenuId::None] = new QMenu(&bar);
+  AddEntries(MenuId::None, texts);
 }
 
 void CommandMenus::AddMenus(QMenuBar& bar, const LanguageTexts& texts) {

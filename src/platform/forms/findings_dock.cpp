@@ -7,7 +7,7 @@
 #include <QTreeWidget>
 
 #include "app/message_texts.h"
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "platform/text_bridge.h"
 
 namespace kev {

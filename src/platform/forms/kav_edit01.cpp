@@ -20,7 +20,7 @@
 #include <utility>
 
 #include "app/documentation.h"
-#include "app/text_numbers.h"
+#include "base/text_numbers.h"
 #include "app/zoom_steps.h"
 #include "base/numbers.h"
 #include "platform/app_style.h"
@@ -242,6 +242,7 @@ void KavEdit01::Run(Command command) {
 }
 
 void KavEdit01::Dispatch(Command command) {
+  if (designer_.Run(command)) return;
   switch (command) {
     case Command::New:
       designer_.AskAndNew();
@@ -268,13 +269,16 @@ void KavEdit01::Dispatch(Command command) {
       ShowFilter(DisplayFilter::Print);
       break;
     case Command::DrawGrid:
-      ToggleGrid();
+      designer_.Surface().ToggleDrawGrid();
+      menus_->ActionOf(Command::DrawGrid).setChecked(designer_.Surface().DrawGrid());
       break;
     case Command::ShowFindings:
       findings_->setVisible(findings_->isHidden());
       break;
     case Command::Documentation:
       OpenDocumentation();
+      break;
+    default:
       break;
   }
 }
@@ -283,16 +287,6 @@ void KavEdit01::ShowFilter(DisplayFilter filter) {
   if (designer_.SetFilter(filter)) return;
   for (const auto& [shown, command] : kFilterCommands)
     menus_->ActionOf(command).setChecked(shown == designer_.Filter());
-}
-
-void KavEdit01::ToggleGrid() {
-  const bool before = page_.DrawGrid();
-  page_.SetDrawGrid(!before);
-  designer_.GuardedView([this] { RedrawDocument(); },
-                        [&] {
-                          page_.SetDrawGrid(before);
-                          menus_->ActionOf(Command::DrawGrid).setChecked(before);
-                        });
 }
 
 void KavEdit01::SetZoom(const QString& text) {
@@ -344,8 +338,8 @@ void KavEdit01::DocumentReplaced() {
   page_.DocumentReplaced();
 }
 
-void KavEdit01::RedrawDocument() {
-  page_.Redraw();
+void KavEdit01::ShowArea(const CanvasArea& area) {
+  page_.Canvas().EnsureVisible(QRectF(QPointF(area.Left, area.Top), QPointF(area.Right, area.Bottom)));
 }
 
 void KavEdit01::ShowZoom(std::string_view text) {

@@ -36,7 +36,9 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void EndWithoutAsking();
 
   void DocumentReplaced() override;
-  void RedrawDocument() override;
+  SurfaceOps& Canvas() override { return page_.Surface(); }
+  void PageShown() override { page_.Shown(); }
+  void ShowArea(const CanvasArea& area) override;
   void ShowZoom(std::string_view text) override;
   void FindingsChanged() override;
 
@@ -64,7 +66,6 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowSplash();
   void Dispatch(Command command);
   void ShowFilter(DisplayFilter filter);
-  void ToggleGrid();
   void SetZoom(const QString& text);
   bool DelayClose();
   void CloseIfWanted();

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "app/design_surface.h"
+
+#include <utility>
+
+#include "app/designer.h"
+#include "base/text_numbers.h"
+#include "document/sections.h"
+#include "surface/null_surface.h"
+#include "surface/page_background.h"
+#include "surface/selection.h"
+
+namespace kev {
+
+DesignSurface::DesignSurface(Designer& designer) : designer_(designer) {}
+
+DesignSurface::~DesignSurface() = default;
+
+PageWork DesignSurface::Work() {
+  return {designer_.OpenDocument(),
+          pointer_,
+          designer_.Canvas(),
+          *this,
+          designer_.Measurer(),
+          designer_.ZoomFactor(),
+          designer_.Filter(),
+          designer_.Images(),
+          canvasWidth_,
+          canvasHeight_};
+}
+
+// --- Painting -----------------------------------------------------------------------------------------------
+
+void DesignSurface::Redraw() {
+  Document& document = designer_.OpenDocument();
+  PaintContext context{
+      document,           designer_.Canvas(), designer_.Measurer(), designer_.ZoomFactor(),
+      designer_.Filter(), 0,                  designer_.Images()};
+  const SortedRows sorted = SetSortKeys(document);
+  painted_ = PaintPage(context, drawGrid_, sorted);
+  canvasWidth_ = context.canvasWidth;
+  canvasHeight_ = CanvasHeightOf(sorted) * designer_.ZoomFactor();
+  document.Objects.SelectionCount = painted_.SelectionCount;
+  pointer_.MultiSelected = painted_.MultiSelected();
+  pointer_.Bounds = painted_.SelectionBounds;
+  designer_.PageShown();
+}
+
+void DesignSurface::FullRepaint() {
+  designer_.DeriveGeometryAndRedraw();
+  PageWork work = Work();
+  ShowCurrentAgain(work);
+  SelectionChanged();
+}
+
+void DesignSurface::BandsChanged() {
+  Document& document = designer_.OpenDocument();
+  NormaliseSubsections(document, SetSortKeys(document));
+  FullRepaint();
+  BuildRulers();
+}
+
+void DesignSurface::BuildRulers() {
+  designer_.ShowRulers();
+}
+
+void DesignSurface::ToggleDrawGrid() {
+  drawGrid_ = !drawGrid_;
+  designer_.GuardedView([this] { Redraw(); }, [this] { drawGrid_ = !drawGrid_; });
+}
+
+// --- What the designer tells ----------------------------------------------------------------------------------
+
+void DesignSurface::DocumentReplaced() {
+  PageWork work = Work();
+  CancelTextEdit(work, edit_);
+  tracker_.Reset();
+  HideHandles(work);
+  HideOverlay(work);
+  pointer_ = PointerState();
+  work.document.Objects.CurrentObject = 0;
+  undo_.Clear();
+  SelectionChanged();
+}
+
+void DesignSurface::ZoomChanged(double before) {
+  const double scale = designer_.ZoomFactor() / before;
+  if (pointer_.HasPosition()) {
+    pointer_.LastX *= scale;
+    pointer_.LastY *= scale;
+  }
+  PageWork old = Work();
+  HideHandles(old);
+  HideOverlay(old);
+  Redraw();
+  BuildRulers();
+  PageWork work = Work();
+  ShowCurrentAgain(work);
+}
+
+void DesignSurface::FilterChanged() {
+  Redraw();
+  PageWork work = Work();
+  ShowCurrentAgain(work);
+  SelectionChanged();
+}
+
+void DesignSurface::GoToObject(int row) {
+  PageWork work = Work();
+  SelectObject(work, row);
+  Redraw();
+  designer_.ShowArea(AreaOf(work.document.Objects[row], work.document, work.ZoomFactor));
+  SelectionChanged();
+}
+
+// --- Selection and words ----------------------------------------------------------------------------------------
+
+void DesignSurface::SelectionChanged() {
+  designer_.TheHost().ShowSelectionStatus(SelectionText(Work()));
+  CommandsChanged();
+}
+
+void DesignSurface::CommandsChanged() {
+  designer_.CommandsChanged();
+}
+
+const std::string& DesignSurface::Text(int number) const {
+  return designer_.Text(number);
+}
+
+BoxAnswer DesignSurface::ShowBox(int textNumber, BoxIcon icon, BoxButtons buttons) {
+  return designer_.TheHost().ShowMessage(
+      {designer_.Text(kTextProgramTitle), designer_.Text(textNumber), {}, icon, buttons});
+}
+
+// --- The window ---------------------------------------------------------------------------------------------------
+
+void DesignSurface::OpenContextMenu(ContextMenu menu) {
+  if (DesignerView* view = designer_.View()) view->OpenContextMenu(menu);
+}
+
+void DesignSurface::OpenProperties(int) {}
+
+void DesignSurface::ShowFieldScreen(const FieldScreenLook& look) {
+  if (DesignerView* view = designer_.View()) view->ShowFieldScreen(look);
+}
+
+void DesignSurface::HideFieldScreen() {
+  if (DesignerView* view = designer_.View()) view->HideFieldScreen();
+}
+
+void DesignSurface::StartAllowTimer(int milliseconds, std::function<void()> done) {
+  if (DesignerView* view = designer_.View()) view->StartAllowTimer(milliseconds, std::move(done));
+}
+
+void DesignSurface::RunPendingTool() {
+  pointer_.PendingTool.clear();
+}
+
+}  // namespace kev

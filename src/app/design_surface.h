@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+// The page that is worked on: pointer, selection, undo and what is under way. The designer owns it; the window
+// sends it what the user does, each in a guard of its own, and shows what it says.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "app/commands.h"
+#include "app/recovery.h"
+#include "surface/page_keys.h"
+#include "surface/page_work.h"
+#include "surface/pointer_tracker.h"
+#include "surface/undo.h"
+#include "surface/visuals.h"
+
+namespace kev {
+
+class Designer;
+
+class DesignSurface final : public PageServices {
+ public:
+  explicit DesignSurface(Designer& designer);
+  ~DesignSurface() override;
+
+  // --- What the user does ------------------------------------------------------------------------------------
+  void PointerPress(const PointerInput& input);
+  void PointerMove(const PointerInput& input);
+  void PointerRelease(const PointerInput& input);
+  void DoubleClick(const PointerInput& input);
+  // Whether the key was meant for the page. `text` is what it types, if anything.
+  bool KeyDown(int code, int shift, std::string_view text);
+  // Escape, another window, an opening dialog: what is under way changes nothing.
+  void CancelGesture();
+  // The cell or text box that is open is committed before anything else happens.
+  void CommitOpenEdits();
+  void FieldTextChanged(std::string text);
+  // The text box is left: its text is stored, or given up.
+  void EndFieldScreen(bool keep);
+  // False when the command is not one of the page's.
+  bool Run(Command command);
+  bool Enabled(Command command) const;
+  // A row from the findings: selected and shown.
+  void GoToObject(int row);
+
+  // --- What the designer tells it ----------------------------------------------------------------------------
+  void DocumentReplaced();
+  // The page was zoomed: places of the pointer follow.
+  void ZoomChanged(double before);
+  void FilterChanged();
+  // Paints the page. Painting may store measured sizes in rows.
+  void Redraw();
+
+  // --- What is shown -----------------------------------------------------------------------------------------
+  bool DrawGrid() const { return drawGrid_; }
+  void ToggleDrawGrid();
+  CursorShape Cursor(const PointerInput& input);
+  const PointerState& Pointer() const { return pointer_; }
+  PointerState& Pointer() { return pointer_; }
+  const UndoStore& Undo() const { return undo_; }
+  const TextEdit& Edit() const { return edit_; }
+  Recovery& TheRecovery() { return recovery_; }
+  bool Busy() const { return tracker_.Busy(); }
+  PageWork Work();
+
+  // --- PageServices ------------------------------------------------------------------------------------------
+  void PushUndo() override;
+  void MarkChanged() override;
+  void FullRepaint() override;
+  void BandsChanged() override;
+  void BuildRulers() override;
+  void SelectionChanged() override;
+  void CommandsChanged() override;
+  const std::string& Text(int number) const override;
+  BoxAnswer ShowBox(int textNumber, BoxIcon icon, BoxButtons buttons) override;
+  void OpenContextMenu(ContextMenu menu) override;
+  void OpenProperties(int row) override;
+  void ShowFieldScreen(const FieldScreenLook& look) override;
+  void HideFieldScreen() override;
+  void StartAllowTimer(int milliseconds, std::function<void()> done) override;
+  void RunPendingTool() override;
+
+ private:
+  void DoUndo();
+  void DoRedo();
+  // Behind another level: no selection, everything shown anew.
+  void ShowLevel();
+
+  Designer& designer_;
+  PointerState pointer_;
+  PointerTracker tracker_;
+  UndoStore undo_;
+  Recovery recovery_;
+  TextEdit edit_;
+  PaintResult painted_;
+  double canvasWidth_ = 0, canvasHeight_ = 0;
+  bool drawGrid_ = false;
+};
+
+}  // namespace kev

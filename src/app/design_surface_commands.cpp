@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// The page's commands, each in one guard.
+#include "app/design_surface.h"
+#include "app/designer.h"
+#include "surface/selection.h"
+
+namespace kev {
+
+bool DesignSurface::Run(Command command) {
+  // Nothing runs in the middle of a gesture.
+  if (!IsPageCommand(command)) return false;
+  if (tracker_.Busy() || !Enabled(command)) return true;
+  CommitOpenEdits();
+  designer_.Guarded([&] {
+    PageWork work = Work();
+    switch (command) {
+      case Command::Undo:
+        return DoUndo();
+      case Command::Redo:
+        return DoRedo();
+      case Command::DeleteObject:
+        return DeleteSelected(work);
+      case Command::SelectAll:
+        return SelectAll(work);
+      case Command::MoveUp:
+        return MoveSubsectionUp(work);
+      case Command::MoveDown:
+        return MoveSubsectionDown(work);
+      default:
+        return;
+    }
+  });
+  return true;
+}
+
+bool DesignSurface::Enabled(Command command) const {
+  const ObjectTable& objects = designer_.OpenDocument().Objects;
+  const bool current = objects.CurrentObject != 0;
+  switch (command) {
+    case Command::Undo:
+      return undo_.CanUndo();
+    case Command::Redo:
+      return undo_.CanRedo();
+    case Command::DeleteObject:
+      return current || pointer_.MultiSelected;
+    case Command::MoveUp:
+    case Command::MoveDown:
+      return current && objects[objects.CurrentObject].Kind == ObjectKind::Subsection;
+    default:
+      return true;
+  }
+}
+
+}  // namespace kev
