@@ -5,20 +5,17 @@
 #include <array>
 #include <set>
 
-#include "base/text_numbers.h"
 #include "base/code_page.h"
+#include "base/text_numbers.h"
 
 namespace kev {
 
 namespace {
 
 constexpr std::array kMenus = {
-    MenuRow{MenuId::File, "menfile", kTextMenuFile},
-    MenuRow{MenuId::Edit, "edit", kTextMenuEdit},
-    MenuRow{MenuId::Insert, "meninsert", kTextMenuInsert},
-    MenuRow{MenuId::View, "menview", kTextMenuView},
-    MenuRow{MenuId::Columns, "mencolumns", kTextMenuColumns},
-    MenuRow{MenuId::Help, "menhelp", kTextMenuHelp},
+    MenuRow{MenuId::File, "menfile", kTextMenuFile},          MenuRow{MenuId::Edit, "edit", kTextMenuEdit},
+    MenuRow{MenuId::Insert, "meninsert", kTextMenuInsert},    MenuRow{MenuId::View, "menview", kTextMenuView},
+    MenuRow{MenuId::Columns, "mencolumns", kTextMenuColumns}, MenuRow{MenuId::Help, "menhelp", kTextMenuHelp},
 };
 
 constexpr bool kDialog = true;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The page that is worked on: pointer, selection, undo and what is under way. The designer owns it; the window
-// sends it what the user does, each in a guard of its own, and shows what it says.
+// The page that is worked on: pointer, selection, undo and what is under way. The designer owns it; the
+// window sends it what the user does, each in a guard of its own, and shows what it says.
 #pragma once
 
 #include <functional>
@@ -25,7 +25,8 @@ class DesignSurface final : public PageServices {
   explicit DesignSurface(Designer& designer);
   ~DesignSurface() override;
 
-  // --- What the user does ------------------------------------------------------------------------------------
+  // --- What the user does
+  // ------------------------------------------------------------------------------------
   void PointerPress(const PointerInput& input);
   void PointerMove(const PointerInput& input);
   void PointerRelease(const PointerInput& input);
@@ -45,7 +46,8 @@ class DesignSurface final : public PageServices {
   // A row from the findings: selected and shown.
   void GoToObject(int row);
 
-  // --- What the designer tells it ----------------------------------------------------------------------------
+  // --- What the designer tells it
+  // ----------------------------------------------------------------------------
   void DocumentReplaced();
   // The page was zoomed: places of the pointer follow.
   void ZoomChanged(double before);
@@ -53,7 +55,8 @@ class DesignSurface final : public PageServices {
   // Paints the page. Painting may store measured sizes in rows.
   void Redraw();
 
-  // --- What is shown -----------------------------------------------------------------------------------------
+  // --- What is shown
+  // -----------------------------------------------------------------------------------------
   bool DrawGrid() const { return drawGrid_; }
   void ToggleDrawGrid();
   CursorShape Cursor(const PointerInput& input);
@@ -65,7 +68,8 @@ class DesignSurface final : public PageServices {
   bool Busy() const { return tracker_.Busy(); }
   PageWork Work();
 
-  // --- PageServices ------------------------------------------------------------------------------------------
+  // --- PageServices
+  // ------------------------------------------------------------------------------------------
   void PushUndo() override;
   void MarkChanged() override;
   void FullRepaint() override;

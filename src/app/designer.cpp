@@ -9,9 +9,9 @@
 
 #include "app/image_size.h"
 #include "app/message_texts.h"
-#include "base/text_numbers.h"
 #include "base/files.h"
 #include "base/numbers.h"
+#include "base/text_numbers.h"
 #include "document/sections.h"
 
 namespace kev {

@@ -5,11 +5,11 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "base/text_numbers.h"
 #include "base/code_page.h"
 #include "base/files.h"
 #include "base/key_file.h"
 #include "base/text.h"
+#include "base/text_numbers.h"
 
 namespace kev {
 namespace {

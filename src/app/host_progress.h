@@ -5,8 +5,8 @@
 #include <string>
 
 #include "app/language.h"
-#include "base/text_numbers.h"
 #include "base/host.h"
+#include "base/text_numbers.h"
 #include "template/reader.h"
 
 namespace kev {

@@ -12,8 +12,8 @@ namespace kev {
 
 inline constexpr int kHighestTextNumber = 1300;
 
-// All words that the program shows, by number (see base/text_numbers.h), as bytes of Windows-1252 whatever the
-// code page of the templates is. A number that the file does not give is an empty text.
+// All words that the program shows, by number (see base/text_numbers.h), as bytes of Windows-1252 whatever
+// the code page of the templates is. A number that the file does not give is an empty text.
 class LanguageTexts {
  public:
   LanguageTexts() : texts_(kHighestTextNumber + 1) {}

@@ -4,9 +4,9 @@
 #include <array>
 #include <utility>
 
-#include "base/text_numbers.h"
 #include "base/code_page.h"
 #include "base/reasons.h"
+#include "base/text_numbers.h"
 
 namespace kev {
 namespace {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The recovery file of the open document: written at each change, deleted when the document is saved, read anew
-// or closed. What a crash leaves behind is offered at the next start.
+// The recovery file of the open document: written at each change, deleted when the document is saved, read
+// anew or closed. What a crash leaves behind is offered at the next start.
 #pragma once
 
 #include <functional>

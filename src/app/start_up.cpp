@@ -5,8 +5,8 @@
 
 #include "app/designer.h"
 #include "app/message_texts.h"
-#include "base/text_numbers.h"
 #include "base/files.h"
+#include "base/text_numbers.h"
 
 namespace kev {
 namespace {

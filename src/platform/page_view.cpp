@@ -12,7 +12,9 @@ PageView::PageView(Designer& designer, FontCache& fonts, ImageCache& images, QWi
       fonts_(fonts),
       images_(images),
       list_(fonts, images),
-      canvas_(std::make_unique<PageCanvas>(list_, parent)) {
+      canvas_(std::make_unique<PageCanvas>(list_, parent)),
+      layer_(std::make_unique<UpperLayer>(*canvas_, fonts, images)) {
+  list_.SetWidgetLayer(layer_.get());
   canvas_->setObjectName(QStringLiteral("p1"));
   canvas_->verticalScrollBar()->setObjectName(QStringLiteral("vscrollbar"));
   canvas_->horizontalScrollBar()->setObjectName(QStringLiteral("hscrollbar"));

@@ -7,6 +7,7 @@
 #include "app/designer.h"
 #include "platform/display_list.h"
 #include "platform/page_canvas.h"
+#include "platform/upper_layer.h"
 
 namespace kev {
 
@@ -16,6 +17,7 @@ class PageView {
   PageView(Designer& designer, FontCache& fonts, ImageCache& images, QWidget* parent);
 
   PageCanvas& Canvas() { return *canvas_; }
+  UpperLayer& Layer() { return *layer_; }
 
   // Where the page is painted.
   SurfaceOps& Surface() { return list_; }
@@ -35,6 +37,7 @@ class PageView {
   DisplayList list_;
   // Before the list that it shows, wherever it stands in the window.
   std::unique_ptr<PageCanvas> canvas_;
+  std::unique_ptr<UpperLayer> layer_;
 };
 
 }  // namespace kev

@@ -26,7 +26,7 @@ struct PointerInput {
 
 enum class CursorShape : std::uint8_t {
   Arrow,
-  Cross,       // a tool waits
+  Cross,  // a tool waits
   Move,
   SizeWidth,   // a sizing handle, and column lines
   SizeHeight,  // a sizing handle, and end bars

@@ -61,4 +61,26 @@ void CommandMenus::AddEntry(QMenu& menu, const CommandRow& row, const std::strin
   actions_[row.id] = action;
 }
 
+QMenu& CommandMenus::ContextMenuOf(ContextMenu menu) {
+  QMenu*& made = contextMenus_[menu];
+  if (made != nullptr) return *made;
+  made = new QMenu(menus_.at(MenuId::None));
+  for (const std::optional<Command>& row : ContextMenuRows(menu)) {
+    if (row) {
+      made->addAction(actions_.at(*row));
+    } else {
+      made->addSeparator();
+    }
+  }
+  return *made;
+}
+
+void CommandMenus::ShowEnabled(const std::function<bool(Command)>& enabled) {
+  for (const auto& [command, action] : actions_) {
+    const bool can = enabled(command);
+    action->setEnabled(can);
+    if (command == Command::MoveUp || command == Command::MoveDown) action->setVisible(can);
+  }
+}
+
 }  // namespace kev

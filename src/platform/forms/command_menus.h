@@ -24,6 +24,9 @@ class CommandMenus final : public QObject {
 
   QAction& ActionOf(Command id) const { return *actions_.at(id); }
   QMenu& MenuOf(MenuId id) const { return *menus_.at(id); }
+  QMenu& ContextMenuOf(ContextMenu menu);
+  // Enables what can be used; commands that belong to one kind of object alone are hidden for the others.
+  void ShowEnabled(const std::function<bool(Command)>& enabled);
 
  private:
   void AddMenus(QMenuBar& bar, const LanguageTexts& texts);
@@ -33,6 +36,7 @@ class CommandMenus final : public QObject {
   std::function<void(Command)> run_;
   std::map<MenuId, QMenu*> menus_;
   std::map<Command, QAction*> actions_;
+  std::map<ContextMenu, QMenu*> contextMenus_;
 };
 
 }  // namespace kev

@@ -20,9 +20,9 @@
 #include <utility>
 
 #include "app/documentation.h"
-#include "base/text_numbers.h"
 #include "app/zoom_steps.h"
 #include "base/numbers.h"
+#include "base/text_numbers.h"
 #include "platform/app_style.h"
 #include "platform/forms/command_menus.h"
 #include "platform/forms/findings_dock.h"
@@ -60,7 +60,10 @@ std::string DroppedTemplate(const QMimeData& data) {
 }  // namespace
 
 KavEdit01::KavEdit01(Designer& designer, QtHost& host, FontCache& fonts, ImageCache& images)
-    : designer_(designer), host_(host), page_(designer, fonts, images, this) {
+    : designer_(designer),
+      host_(host),
+      page_(designer, fonts, images, this),
+      input_(designer, page_.Canvas(), page_.Layer(), fonts) {
   setObjectName(QStringLiteral("KavEdit01"));
   setAcceptDrops(true);
   BuildMenus();
@@ -149,7 +152,8 @@ void KavEdit01::BuildPanels() {
   QAction& toggle = menus_->ActionOf(Command::ShowFindings);
   connect(findings_, &QDockWidget::visibilityChanged, &toggle,
           [this, &toggle] { toggle.setChecked(!findings_->isHidden()); });
-  connect(findings_, &FindingsDock::ObjectWanted, this, &KavEdit01::ObjectWanted);
+  connect(findings_, &FindingsDock::ObjectWanted, this,
+          [this](int row) { designer_.GuardedView([&] { designer_.Surface().GoToObject(row); }); });
   connect(status_, &StatusPanels::FindingsWanted, this, [this] { findings_->show(); });
 }
 
@@ -238,6 +242,9 @@ void KavEdit01::EndWithoutAsking() {
 // --- Commands ---------------------------------------------------------------------------------------------
 
 void KavEdit01::Run(Command command) {
+  // Nothing runs in the middle of a gesture, and nothing passes an open text box by.
+  if (designer_.Surface().Busy()) return;
+  designer_.Surface().CommitOpenEdits();
   designer_.GuardedView([&] { Dispatch(command); });
 }
 
@@ -290,10 +297,12 @@ void KavEdit01::ShowFilter(DisplayFilter filter) {
 }
 
 void KavEdit01::SetZoom(const QString& text) {
+  if (designer_.Surface().Busy()) return ShowZoom(FormatNumber(designer_.ZoomFactor() * 100) + "%");
   designer_.GuardedView([&] { page_.SetZoom(text); });
 }
 
 void KavEdit01::OnZoomWheel(int steps, const QPointF& viewportPoint) {
+  if (designer_.Surface().Busy()) return;
   double percent = designer_.ZoomFactor() * 100;
   for (int step = 0; step < steps; ++step)
     percent = ZoomStepUp(percent);
@@ -350,6 +359,21 @@ void KavEdit01::ShowZoom(std::string_view text) {
 void KavEdit01::FindingsChanged() {
   findings_->Show(designer_.Findings(), *designer_.OpenDocument().Page);
   status_->ShowFindingCount(static_cast<int>(designer_.Findings().size()));
+}
+
+void KavEdit01::CommandsChanged() {
+  menus_->ShowEnabled([this](Command command) { return designer_.Enabled(command); });
+  input_.RefreshCursor();
+}
+
+void KavEdit01::OpenContextMenu(ContextMenu menu) {
+  QMenu& popup = menus_->ContextMenuOf(menu);
+  // Opened behind the event that asked for it, or the pointer's release would go to the menu.
+  QTimer::singleShot(0, &popup, [&popup] { popup.popup(QCursor::pos()); });
+}
+
+void KavEdit01::StartAllowTimer(int milliseconds, std::function<void()> done) {
+  input_.StartAllowTimer(milliseconds, std::move(done));
 }
 
 }  // namespace kev

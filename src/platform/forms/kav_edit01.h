@@ -8,6 +8,7 @@
 #include "app/commands.h"
 #include "app/designer.h"
 #include "platform/close_requests.h"
+#include "platform/page_input.h"
 #include "platform/page_view.h"
 #include "platform/qt_host.h"
 
@@ -41,10 +42,11 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowArea(const CanvasArea& area) override;
   void ShowZoom(std::string_view text) override;
   void FindingsChanged() override;
-
- Q_SIGNALS:
-  // A finding's object was chosen in the list.
-  void ObjectWanted(int row);
+  void CommandsChanged() override;
+  void OpenContextMenu(ContextMenu menu) override;
+  void ShowFieldScreen(const FieldScreenLook& look) override { input_.ShowFieldScreen(look); }
+  void HideFieldScreen() override { input_.HideFieldScreen(); }
+  void StartAllowTimer(int milliseconds, std::function<void()> done) override;
 
  protected:
   bool event(QEvent* event) override;
@@ -75,6 +77,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   Designer& designer_;
   QtHost& host_;
   PageView page_;
+  PageInput input_;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "platform/upper_layer.h"
+
+#include <algorithm>
+
+#include "platform/layer_widget.h"
+#include "platform/text_bridge.h"
+
+namespace kev {
+namespace {
+
+constexpr double kCaptionRoom = 20 * kUnitsPerPixel;
+
+}  // namespace
+
+UpperLayer::UpperLayer(PageCanvas& canvas, FontCache& fonts, ImageCache& images)
+    : canvas_(canvas), fonts_(fonts), images_(images) {}
+
+UpperLayer::~UpperLayer() = default;
+
+// Made when it is first named, below all that stand above its kind.
+LayerWidget& UpperLayer::Widget(std::string_view name) {
+  const auto known = widgets_.find(name);
+  if (known != widgets_.end()) return *known->second;
+  auto* made = new LayerWidget(name, fonts_, images_, canvas_.viewport());
+  LayerWidget* above = nullptr;
+  for (const auto& [other, widget] : widgets_) {
+    if (widget->Row().level <= made->Row().level) continue;
+    if (above == nullptr || widget->Row().level < above->Row().level) above = widget;
+  }
+  if (above != nullptr) {
+    // Of several of one level it must go below the lowest.
+    for (const auto& [other, widget] : widgets_)
+      if (widget->Row().level > made->Row().level) made->stackUnder(widget);
+  }
+  widgets_.emplace(name, made);
+  return *made;
+}
+
+void UpperLayer::PlaceWidget(std::string_view name, double left, double top, double width, double height) {
+  LayerWidget& widget = Widget(name);
+  QRectF place(left, top, width, height);
+  if (widget.Row().look == LayerLook::Caption) {
+    const double words = widget.fontMetrics().horizontalAdvance(widget.Text().trimmed());
+    place.setWidth(std::max(width, words * kUnitsPerPixel + kCaptionRoom));
+    place.setHeight(std::max(height, kCaptionRoom));
+  }
+  widget.SetPlace(place);
+  canvas_.PlaceOverlay(&widget, widget.Room());
+}
+
+void UpperLayer::ShowWidget(std::string_view name, bool visible) {
+  Widget(name).setVisible(visible);
+}
+
+SurfaceOps& UpperLayer::SurfaceOf(std::string_view name) {
+  return Widget(name).BeginPainting();
+}
+
+void UpperLayer::SetWidgetText(std::string_view name, std::string_view text) {
+  LayerWidget& widget = Widget(name);
+  widget.SetText(ToQString(text));
+  const QRectF place = widget.Place();
+  if (widget.Row().look == LayerLook::Caption)
+    PlaceWidget(name, place.left(), place.top(), 0, place.height());
+}
+
+const LayerWidget* UpperLayer::Topmost(const QPointF& canvasPoint) const {
+  const LayerWidget* best = nullptr;
+  for (const auto& [name, widget] : widgets_) {
+    if (widget->isHidden() || !widget->Row().held || !widget->Holds(canvasPoint)) continue;
+    if (best == nullptr || widget->Row().level > best->Row().level) best = widget;
+  }
+  return best;
+}
+
+PointerInput UpperLayer::At(const QPointF& canvasPoint) const {
+  PointerInput input;
+  input.X = canvasPoint.x();
+  input.Y = canvasPoint.y();
+  if (const LayerWidget* widget = Topmost(canvasPoint)) {
+    input.Source = widget->Row().source;
+    input.Index = widget->Index();
+  }
+  return input;
+}
+
+QString UpperLayer::TipAt(const QPointF& canvasPoint) const {
+  const LayerWidget* widget = Topmost(canvasPoint);
+  return widget == nullptr ? QString() : widget->Text();
+}
+
+}  // namespace kev
