@@ -94,9 +94,10 @@ void DesignSurface::ZoomChanged(double before) {
 }
 
 void DesignSurface::FilterChanged() {
-  Redraw();
   PageWork work = Work();
-  ShowCurrentAgain(work);
+  EndGroup(work);
+  Deselect(work);
+  Redraw();
   SelectionChanged();
 }
 
