@@ -603,7 +603,7 @@ TEST_F(SubsectionDialogTest, NothingChangedLeavesNoLevel) {
 // -------------------------------------------------------------------------------------
 
 TEST_F(SubsectionDialogTest, ANewSubsectionComesBackFromTheFile) {
-  for (const char* start : {"", "0", "2500"}) {
+  for (const char* start : {"", "0", "2500", "-200"}) {
     ReadPage();
     for (const BaseSection section : {BaseSection::Header, BaseSection::Data, BaseSection::Footer}) {
       SubsectionDialog dialog = New(section);
