@@ -141,6 +141,21 @@ TEST_F(SubSectionpropertTest, AnEntryOfTheListChoosesItsSection) {
   EXPECT_EQ(Entries().currentItem()->text().trimmed(), QStringLiteral("Insert section"));
 }
 
+TEST_F(SubSectionpropertTest, TheArrowKeysTakeTheNewOneFromSectionToSection) {
+  OpenNew();
+  Entries().setFocus();
+  for (int n = 0; n < 3; ++n) {
+    EXPECT_EQ(dialog.Section, BaseSection::Data);
+    QTest::keyClick(&Entries(), Qt::Key_Up);
+    QCoreApplication::processEvents();
+  }
+  EXPECT_EQ(dialog.Section, BaseSection::Header);
+  EXPECT_EQ(Entries().currentRow(), 2);
+  QTest::keyClick(&Entries(), Qt::Key_Down);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dialog.Section, BaseSection::Data);
+}
+
 TEST_F(SubSectionpropertTest, TheConfigurationCannotBeChosen) {
   OpenNew();
   EXPECT_EQ(Section().itemText(0), QStringLiteral("[Configuration]"));

@@ -276,19 +276,34 @@ void SubSectionpropert::Connect() {
     ShowStart();
   });
   if (dialog_.ShortForm) return;
-  const auto choose = [this](int section) {
-    ChooseSection(dialog_, static_cast<BaseSection>(section));
-    section_->setCurrentIndex(static_cast<int>(dialog_.Section));
-    ShowEntries();
-  };
-  connect(section_, &QComboBox::activated, this, choose);
+  ConnectSections();
+  ConnectNameAndFields();
+}
+
+void SubSectionpropert::ConnectSections() {
+  connect(section_, &QComboBox::activated, this, &SubSectionpropert::Choose);
   // The list is filled anew, which must not happen while it is still telling of the change.
   connect(
-      entries_, &QListWidget::currentItemChanged, this,
-      [choose](const QListWidgetItem* item) {
-        if (item != nullptr) choose(item->data(Qt::UserRole).toInt());
+      entries_, &QListWidget::currentRowChanged, this,
+      [this] {
+        if (const QListWidgetItem* item = entries_->currentItem()) ChooseEntry(*item);
       },
       Qt::QueuedConnection);
+}
+
+void SubSectionpropert::Choose(int section) {
+  ChooseSection(dialog_, static_cast<BaseSection>(section));
+  section_->setCurrentIndex(static_cast<int>(dialog_.Section));
+  ShowEntries();
+}
+
+// Within the section of the new one the arrow keys go on; at its ends they take the new one along.
+void SubSectionpropert::ChooseEntry(const QListWidgetItem& item) {
+  const int section = item.data(Qt::UserRole).toInt();
+  if (dialog_.Row != 0 || section != static_cast<int>(dialog_.Section)) Choose(section);
+}
+
+void SubSectionpropert::ConnectNameAndFields() {
   connect(name_, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (const auto bytes = Bytes(text))
       dialog_.Name = *bytes;

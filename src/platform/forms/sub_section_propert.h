@@ -18,6 +18,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 class QPlainTextEdit;
 class QPushButton;
 class QTableWidget;
@@ -59,6 +60,10 @@ class SubSectionpropert final : public QDialog {
   void ShowNameAndFields();
   void ShowStart();
   void Connect();
+  void ConnectSections();
+  void ConnectNameAndFields();
+  void Choose(int section);
+  void ChooseEntry(const QListWidgetItem& item);
   // Nothing, and the message, when the document can't hold a character of the text.
   std::optional<std::string> Bytes(const QString& text);
 
