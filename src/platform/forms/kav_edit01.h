@@ -36,12 +36,12 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void EndWithoutAsking();
 
   void DocumentReplaced() override;
+  void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override;
   SurfaceOps& Canvas() override { return page_.Surface(); }
   void PageShown() override { page_.Shown(); }
   void ShowArea(const CanvasArea& area) override;
   void ShowZoom(std::string_view text) override;
   void FindingsChanged() override;
-  void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override;
 
  Q_SIGNALS:
   // A finding's object was chosen in the list.
