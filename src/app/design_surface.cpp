@@ -137,7 +137,9 @@ void DesignSurface::OpenContextMenu(ContextMenu menu) {
   if (DesignerView* view = designer_.View()) view->OpenContextMenu(menu);
 }
 
-void DesignSurface::OpenProperties(int) {}
+void DesignSurface::OpenProperties(int row) {
+  if (designer_.OpenDocument().Objects[row].Kind == ObjectKind::Subsection) OpenSubsection(row);
+}
 
 void DesignSurface::ShowFieldScreen(const FieldScreenLook& look) {
   if (DesignerView* view = designer_.View()) view->ShowFieldScreen(look);

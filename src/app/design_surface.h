@@ -87,6 +87,8 @@ class DesignSurface final : public PageServices {
   void RunPendingTool() override;
 
  private:
+  // For a bar, or for a new one where the row is 0. Until the dialog is closed.
+  void OpenSubsection(int row);
   void DoUndo();
   void DoRedo();
   // Behind another level: no selection, everything shown anew.

@@ -11,6 +11,10 @@ bool DesignSurface::Run(Command command) {
   if (!IsPageCommand(command)) return false;
   if (tracker_.Busy() || !Enabled(command)) return true;
   CommitOpenEdits();
+  if (command == Command::NewSubsection) {
+    OpenSubsection(0);
+    return true;
+  }
   designer_.Guarded([&] {
     PageWork work = Work();
     switch (command) {

@@ -33,6 +33,8 @@
 
 namespace kev {
 
+struct SubsectionDialog;
+
 // In the order of the list. Any other number may be typed.
 inline constexpr auto kZoomList =
     std::to_array<std::string_view>({"25%", "50%", "75%", "80%", "100%", "120%", "150%", "180%", "200%"});
@@ -69,6 +71,8 @@ class DesignerView {
   virtual void ShowFieldScreen(const FieldScreenLook&) {}
   virtual void HideFieldScreen() {}
   virtual void StartAllowTimer(int, std::function<void()>) {}
+  // The dialog of a subsection, until it is closed. OK calls `accept`; where that is false, it stays open.
+  virtual void OpenSubsectionDialog(SubsectionDialog&, const std::function<bool()>&) {}
 };
 
 // What a process gives to its designer.
@@ -189,6 +193,8 @@ class Designer {
   const std::string& DocumentTitle() const { return documentTitle_; }
   // Relative paths inside the template start here; native bytes.
   std::string TemplateFolder() const;
+  // The sample file that the template names, where it is or where it should be; empty when it names none.
+  std::string SampleDataPath() const;
   // The file that a record's PictureFile means; nothing when there is none.
   std::optional<std::string> PictureFileOnDisk(std::string_view pictureFile) const;
   bool Modified() const { return modified_; }
@@ -244,7 +250,6 @@ class Designer {
   void ShowAdopted(std::vector<Finding> findings);
   bool SaveTo(const std::string& path);
   std::optional<std::string> ChooseTarget();
-  std::string SampleDataPath() const;
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);

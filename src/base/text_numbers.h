@@ -495,4 +495,12 @@ inline constexpr int kTextScrollVertical = 1268;
 inline constexpr int kTextScrollHorizontal = 1269;
 inline constexpr int kTextTools = 1270;
 
+// The dialog of a subsection, beside 180 to 188 and 1227
+inline constexpr int kTextSubsectionInsert = 1284;
+inline constexpr int kTextSubsectionNameMissing = 1285;
+inline constexpr int kTextSubsectionNameUsed = 1286;
+inline constexpr int kTextSubsectionFieldRefused = 1287;
+inline constexpr int kTextSubsectionTooManyFields = 1288;
+inline constexpr int kTextSubsectionNoRecordTypes = 1289;
+
 }  // namespace kev

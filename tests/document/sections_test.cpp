@@ -138,6 +138,31 @@ TEST_F(Sections, OfOneNameEachKeepTheObjectsOfTheirOwnBody) {
   EXPECT_EQ(at(above).AbsoluteY, 500);
 }
 
+TEST_F(Sections, OfOneNameGiveAnObjectOfTheSecondToTheFirstWhereItIsMovedThere) {
+  const PlacedBar first = PutSubsection(document, "[ITEMS:@a]", 0, 600);
+  const PlacedBar second = PutSubsection(document, "[ITEMS:@b]", 1200, 600);
+  EXPECT_EQ(at(first.bar).SectionName, at(second.bar).SectionName);
+  const int box = PutBox(document, 1700);
+  AssignObjects(document);
+  EXPECT_EQ(OwnerIndex(document).OwnerOf(box), second.bar);
+  at(box).AbsoluteY = 650;
+  AssignObjects(document);
+  EXPECT_EQ(at(box).OwnerName, "ITEMS");
+  EXPECT_EQ(at(box).Y, 250);
+  EXPECT_EQ(OwnerIndex(document).OwnerOf(box), first.bar);
+}
+
+TEST_F(Sections, WithTheirEndAtAnObjectHoldItAndOneTwipLessDoesNot) {
+  const PlacedBar bar = PutSubsection(document, "[A]", 0, 600);
+  const int box = PutBox(document, 1000);
+  DeriveGeometry(document);
+  EXPECT_EQ(at(box).OwnerName, "A]");
+  at(box).OwnerName = "old";
+  at(bar.bar).EndsAt = 599;
+  AssignObjects(document);
+  EXPECT_EQ(at(box).OwnerName, "old");
+}
+
 TEST_F(Sections, OfOneNameGiveAStrayObjectToTheFirst) {
   const PlacedBar first = PutSubsection(document, "[ITEMS]", 0, 600);
   PutSubsection(document, "[ITEMS]", 1200, 600);

@@ -30,6 +30,7 @@
 #include "platform/forms/language_menu.h"
 #include "platform/forms/progress_window.h"
 #include "platform/forms/status_panels.h"
+#include "platform/forms/sub_section_propert.h"
 #include "platform/forms/zoom_box.h"
 #include "platform/forms/zoom_menu.h"
 #include "platform/text_bridge.h"
@@ -354,6 +355,10 @@ void KavEdit01::ShowArea(const CanvasArea& area) {
 void KavEdit01::ShowZoom(std::string_view text) {
   zoomBox_->ShowZoom(ToQString(text));
   zoomMenu_->ShowZoom(ToQString(text));
+}
+
+void KavEdit01::OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) {
+  SubSectionpropert(dialog, {designer_.Texts(), *designer_.OpenDocument().Page, host_, accept}, this).exec();
 }
 
 void KavEdit01::FindingsChanged() {

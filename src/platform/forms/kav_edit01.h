@@ -37,6 +37,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void EndWithoutAsking();
 
   void DocumentReplaced() override;
+  void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override;
   SurfaceOps& Canvas() override { return page_.Surface(); }
   void PageShown() override { page_.Shown(); }
   void ShowArea(const CanvasArea& area) override;
