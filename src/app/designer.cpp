@@ -25,14 +25,6 @@ std::vector<std::int32_t> Places(const ObjectTable& objects) {
   return places;
 }
 
-// The size that a picture gives to the sides that its template leaves open.
-void FitPicture(ObjectRecord& record, const TextExtent& own) {
-  const bool fixedWidth = record.PictureFixedWidth != kFalse;
-  const bool fixedHeight = record.PictureFixedHeight != kFalse;
-  if (!fixedWidth) record.Width = ToInt32(fixedHeight ? record.Height * own.Width / own.Height : own.Width);
-  if (!fixedHeight) record.Height = ToInt32(fixedWidth ? record.Width * own.Height / own.Width : own.Height);
-}
-
 // Why the work failed; nothing when it did not.
 std::optional<std::string> FailureOf(const std::function<void()>& work) {
   try {
