@@ -17,25 +17,19 @@ DesignSurface::DesignSurface(Designer& designer) : designer_(designer) {}
 DesignSurface::~DesignSurface() = default;
 
 PageWork DesignSurface::Work() {
-  return {designer_.OpenDocument(),
-          pointer_,
-          designer_.Canvas(),
-          *this,
-          designer_.Measurer(),
-          designer_.ZoomFactor(),
-          designer_.Filter(),
-          designer_.Images(),
-          canvasWidth_,
-          canvasHeight_};
+  return {
+      designer_.OpenDocument(), pointer_,           designer_.Canvas(), *this,        designer_.Measurer(),
+      designer_.ZoomFactor(),   designer_.Filter(), designer_.Images(), canvasWidth_, canvasHeight_};
 }
 
-// --- Painting -----------------------------------------------------------------------------------------------
+// --- Painting
+// -----------------------------------------------------------------------------------------------
 
 void DesignSurface::Redraw() {
   Document& document = designer_.OpenDocument();
   PaintContext context{
-      document,           designer_.Canvas(), designer_.Measurer(), designer_.ZoomFactor(),
-      designer_.Filter(), 0,                  designer_.Images()};
+      document, designer_.Canvas(), designer_.Measurer(), designer_.ZoomFactor(), designer_.Filter(),
+      0,        designer_.Images()};
   const SortedRows sorted = SetSortKeys(document);
   painted_ = PaintPage(context, drawGrid_, sorted);
   canvasWidth_ = context.canvasWidth;
@@ -64,12 +58,19 @@ void DesignSurface::BuildRulers() {
   designer_.ShowRulers();
 }
 
+void DesignSurface::NextRulerMode() {
+  const int before = rulerMode_;
+  rulerMode_ = kev::NextRulerMode(before);
+  designer_.GuardedView([this] { BuildRulers(); }, [&] { rulerMode_ = before; });
+}
+
 void DesignSurface::ToggleDrawGrid() {
   drawGrid_ = !drawGrid_;
   designer_.GuardedView([this] { Redraw(); }, [this] { drawGrid_ = !drawGrid_; });
 }
 
-// --- What the designer tells ----------------------------------------------------------------------------------
+// --- What the designer tells
+// ----------------------------------------------------------------------------------
 
 void DesignSurface::DocumentReplaced() {
   PageWork work = Work();
@@ -113,7 +114,8 @@ void DesignSurface::GoToObject(int row) {
   SelectionChanged();
 }
 
-// --- Selection and words ----------------------------------------------------------------------------------------
+// --- Selection and words
+// ----------------------------------------------------------------------------------------
 
 void DesignSurface::SelectionChanged() {
   designer_.TheHost().ShowSelectionStatus(SelectionText(Work()));
@@ -133,7 +135,8 @@ BoxAnswer DesignSurface::ShowBox(int textNumber, BoxIcon icon, BoxButtons button
       {designer_.Text(kTextProgramTitle), designer_.Text(textNumber), {}, icon, buttons});
 }
 
-// --- The window ---------------------------------------------------------------------------------------------------
+// --- The window
+// ---------------------------------------------------------------------------------------------------
 
 void DesignSurface::OpenContextMenu(ContextMenu menu) {
   if (DesignerView* view = designer_.View()) view->OpenContextMenu(menu);

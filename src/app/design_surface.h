@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The page that is worked on: pointer, selection, undo and what is under way. The designer owns it; the window
-// sends it what the user does, each in a guard of its own, and shows what it says.
+// The page that is worked on: pointer, selection, undo and what is under way. The designer owns it; the
+// window sends it what the user does, each in a guard of its own, and shows what it says.
 #pragma once
 
 #include <functional>
@@ -13,6 +13,7 @@
 #include "surface/page_keys.h"
 #include "surface/page_work.h"
 #include "surface/pointer_tracker.h"
+#include "surface/rulers.h"
 #include "surface/undo.h"
 #include "surface/visuals.h"
 
@@ -25,7 +26,8 @@ class DesignSurface final : public PageServices {
   explicit DesignSurface(Designer& designer);
   ~DesignSurface() override;
 
-  // --- What the user does ------------------------------------------------------------------------------------
+  // --- What the user does
+  // ------------------------------------------------------------------------------------
   void PointerPress(const PointerInput& input);
   void PointerMove(const PointerInput& input);
   void PointerRelease(const PointerInput& input);
@@ -45,7 +47,8 @@ class DesignSurface final : public PageServices {
   // A row from the findings: selected and shown.
   void GoToObject(int row);
 
-  // --- What the designer tells it ----------------------------------------------------------------------------
+  // --- What the designer tells it
+  // ----------------------------------------------------------------------------
   void DocumentReplaced();
   // The page was zoomed: places of the pointer follow.
   void ZoomChanged(double before);
@@ -53,9 +56,13 @@ class DesignSurface final : public PageServices {
   // Paints the page. Painting may store measured sizes in rows.
   void Redraw();
 
-  // --- What is shown -----------------------------------------------------------------------------------------
+  // --- What is shown
+  // -----------------------------------------------------------------------------------------
   bool DrawGrid() const { return drawGrid_; }
   void ToggleDrawGrid();
+  // The unit of the rulers, see surface/rulers.h.
+  int RulerMode() const { return rulerMode_; }
+  void NextRulerMode();
   CursorShape Cursor(const PointerInput& input);
   const PointerState& Pointer() const { return pointer_; }
   PointerState& Pointer() { return pointer_; }
@@ -65,7 +72,8 @@ class DesignSurface final : public PageServices {
   bool Busy() const { return tracker_.Busy(); }
   PageWork Work();
 
-  // --- PageServices ------------------------------------------------------------------------------------------
+  // --- PageServices
+  // ------------------------------------------------------------------------------------------
   void PushUndo() override;
   void MarkChanged() override;
   void FullRepaint() override;
@@ -97,6 +105,7 @@ class DesignSurface final : public PageServices {
   PaintResult painted_;
   double canvasWidth_ = 0, canvasHeight_ = 0;
   bool drawGrid_ = false;
+  int rulerMode_ = kFirstRulerMode;
 };
 
 }  // namespace kev

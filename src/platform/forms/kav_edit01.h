@@ -17,6 +17,7 @@ namespace kev {
 
 class CommandMenus;
 class FindingsDock;
+class PageFrame;
 class ProgressWindow;
 class StatusPanels;
 class ZoomBox;
@@ -37,7 +38,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
 
   void DocumentReplaced() override;
   SurfaceOps& Canvas() override { return page_.Surface(); }
-  void PageShown() override { page_.Shown(); }
+  void PageShown() override;
+  void ShowRulers() override;
   void ShowArea(const CanvasArea& area) override;
   void ShowZoom(std::string_view text) override;
   void FindingsChanged() override;
@@ -58,7 +60,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void BuildLanguageMenu();
   QString MenuCaption(int text) const;
   void BuildToolRow();
-  void BuildPage();
+  void BuildPage(FontCache& fonts);
+  void ConnectPageFrame();
   void BuildPanels();
   void ConnectHost();
   void PlaceOnScreen();
@@ -75,6 +78,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   Designer& designer_;
   QtHost& host_;
   PageView page_;
+  PageFrame* frame_ = nullptr;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;
