@@ -58,6 +58,12 @@ void DesignSurface::BuildRulers() {
   designer_.ShowRulers();
 }
 
+void DesignSurface::NextRulerMode() {
+  const int before = rulerMode_;
+  rulerMode_ = kev::NextRulerMode(before);
+  designer_.GuardedView([this] { BuildRulers(); }, [&] { rulerMode_ = before; });
+}
+
 void DesignSurface::ToggleDrawGrid() {
   drawGrid_ = !drawGrid_;
   designer_.GuardedView([this] { Redraw(); }, [this] { drawGrid_ = !drawGrid_; });

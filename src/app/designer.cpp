@@ -163,7 +163,8 @@ void Designer::ShowCaption() {
 bool Designer::SetZoom(std::string_view text) {
   const double percent = NumericPrefix(text);
   const double before = zoomPercent_;
-  const bool good = percent >= kSmallestZoom && percent <= kLargestZoom;
+  // What is dragged has its place in the zoom of its beginning.
+  const bool good = percent >= kSmallestZoom && percent <= kLargestZoom && !surface_.Busy();
   const auto show = [this] {
     if (view_ != nullptr) view_->ShowZoom(FormatNumber(zoomPercent_) + "%");
   };

@@ -494,5 +494,11 @@ inline constexpr int kTextPage = 1267;
 inline constexpr int kTextScrollVertical = 1268;
 inline constexpr int kTextScrollHorizontal = 1269;
 inline constexpr int kTextTools = 1270;
+inline constexpr int kTextRulerHorizontal = 1280;
+inline constexpr int kTextRulerVertical = 1281;
+inline constexpr int kTextPanelDivider = 1282;
+
+// Tooltip of the horizontal ruler
+inline constexpr int kTextRulerNextUnit = 1283;
 
 }  // namespace kev

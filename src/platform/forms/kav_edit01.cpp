@@ -28,6 +28,7 @@
 #include "platform/forms/findings_dock.h"
 #include "platform/forms/kavsplash.h"
 #include "platform/forms/language_menu.h"
+#include "platform/forms/page_frame.h"
 #include "platform/forms/progress_window.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/zoom_box.h"
@@ -68,7 +69,7 @@ KavEdit01::KavEdit01(Designer& designer, QtHost& host, FontCache& fonts, ImageCa
   setAcceptDrops(true);
   BuildMenus();
   BuildToolRow();
-  BuildPage();
+  BuildPage(fonts);
   BuildPanels();
   ConnectHost();
   PlaceOnScreen();
@@ -132,13 +133,31 @@ void KavEdit01::BuildToolRow() {
   connect(zoomBox_, &ZoomBox::ZoomChosen, this, &KavEdit01::SetZoom);
 }
 
-void KavEdit01::BuildPage() {
-  setCentralWidget(&page_.Canvas());
+void KavEdit01::BuildPage(FontCache& fonts) {
   PageCanvas& canvas = page_.Canvas();
+  frame_ = new PageFrame(canvas, fonts, designer_.Options(), designer_.Texts(), this);
+  setCentralWidget(frame_);
+  ConnectPageFrame();
   canvas.setAccessibleName(ToQString(designer_.Text(kTextPage)));
   canvas.verticalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollVertical)));
   canvas.horizontalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollHorizontal)));
   connect(&canvas, &PageCanvas::ZoomRequested, this, &KavEdit01::OnZoomWheel);
+}
+
+void KavEdit01::ConnectPageFrame() {
+  connect(frame_, &PageFrame::NextRulerModeWanted, this, [this] { designer_.Surface().NextRulerMode(); });
+  connect(frame_, &PageFrame::ZoomStepWanted, this,
+          [this](int steps) { OnZoomWheel(steps, QRectF(page_.Canvas().viewport()->rect()).center()); });
+  connect(frame_, &PageFrame::RulerPointer, this, [this](const PagePointer& pointer) {
+    const PointerInput input{.Source = PointerSource::Ruler,
+                             .Button = PointerButton::Right,
+                             .X = pointer.canvas.x(),
+                             .Y = pointer.canvas.y()};
+    if (pointer.action == PagePointer::Action::Press)
+      designer_.Surface().PointerPress(input);
+    else
+      designer_.Surface().PointerRelease(input);
+  });
 }
 
 void KavEdit01::BuildPanels() {
@@ -345,6 +364,16 @@ void KavEdit01::dropEvent(QDropEvent* event) {
 
 void KavEdit01::DocumentReplaced() {
   page_.DocumentReplaced();
+}
+
+void KavEdit01::PageShown() {
+  page_.Shown();
+  ShowRulers();
+}
+
+void KavEdit01::ShowRulers() {
+  frame_->ShowRulers(PlanRulers(designer_.OpenDocument(), designer_.ZoomFactor(), designer_.Measurer()),
+                     designer_.Surface().RulerMode());
 }
 
 void KavEdit01::ShowArea(const CanvasArea& area) {

@@ -18,6 +18,7 @@ namespace kev {
 
 class CommandMenus;
 class FindingsDock;
+class PageFrame;
 class ProgressWindow;
 class StatusPanels;
 class ZoomBox;
@@ -38,7 +39,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
 
   void DocumentReplaced() override;
   SurfaceOps& Canvas() override { return page_.Surface(); }
-  void PageShown() override { page_.Shown(); }
+  void PageShown() override;
+  void ShowRulers() override;
   void ShowArea(const CanvasArea& area) override;
   void ShowZoom(std::string_view text) override;
   void FindingsChanged() override;
@@ -60,7 +62,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void BuildLanguageMenu();
   QString MenuCaption(int text) const;
   void BuildToolRow();
-  void BuildPage();
+  void BuildPage(FontCache& fonts);
+  void ConnectPageFrame();
   void BuildPanels();
   void ConnectHost();
   void PlaceOnScreen();
@@ -78,6 +81,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   QtHost& host_;
   PageView page_;
   PageInput input_;
+  PageFrame* frame_ = nullptr;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;
