@@ -119,6 +119,7 @@ void DesignSurface::GoToObject(int row) {
 
 void DesignSurface::SelectionChanged() {
   designer_.TheHost().ShowSelectionStatus(SelectionText(Work()));
+  designer_.Sheets().Refresh();
   CommandsChanged();
 }
 
@@ -142,7 +143,9 @@ void DesignSurface::OpenContextMenu(ContextMenu menu) {
   if (DesignerView* view = designer_.View()) view->OpenContextMenu(menu);
 }
 
-void DesignSurface::OpenProperties(int) {}
+void DesignSurface::OpenProperties(int) {
+  designer_.Sheets().Properties();
+}
 
 void DesignSurface::ShowFieldScreen(const FieldScreenLook& look) {
   if (DesignerView* view = designer_.View()) view->ShowFieldScreen(look);

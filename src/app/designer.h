@@ -18,6 +18,7 @@
 #include "app/language.h"
 #include "app/options.h"
 #include "app/picture_source.h"
+#include "app/property_sheets.h"
 #include "app/read_back.h"
 #include "app/theme.h"
 #include "base/finding.h"
@@ -69,6 +70,12 @@ class DesignerView {
   virtual void ShowFieldScreen(const FieldScreenLook&) {}
   virtual void HideFieldScreen() {}
   virtual void StartAllowTimer(int, std::function<void()>) {}
+  // The property panel: its sheet, the row to go to (0 stays), and its place (`PROPFIX`).
+  virtual void ShowSheet(const Sheet&, const std::string& /*title*/, int /*selectRow*/) {}
+  virtual void ShowPanel(std::int32_t) {}
+  virtual void FocusPanel() {}
+  // A cell that is open is told as edited before this returns.
+  virtual void CommitOpenCell() {}
 };
 
 // What a process gives to its designer.
@@ -167,6 +174,7 @@ class Designer {
 
   // --- What it owns ----------------------------------------------------------------------------------------
   DesignSurface& Surface() { return surface_; }
+  PropertySheets& Sheets() { return sheets_; }
   Document& OpenDocument() { return document_; }
   const Document& OpenDocument() const { return document_; }
   AttributeState& Attributes() { return attributes_; }
@@ -287,6 +295,7 @@ class Designer {
   bool optionsRead_ = false;
   NullSurface nowhere_;
   DesignSurface surface_{*this};
+  PropertySheets sheets_{*this};
 };
 
 }  // namespace kev

@@ -494,6 +494,7 @@ inline constexpr int kTextPage = 1267;
 inline constexpr int kTextScrollVertical = 1268;
 inline constexpr int kTextScrollHorizontal = 1269;
 inline constexpr int kTextTools = 1270;
+inline constexpr int kTextClosePanel = 1299;
 inline constexpr int kTextRulerHorizontal = 1280;
 inline constexpr int kTextRulerVertical = 1281;
 inline constexpr int kTextPanelDivider = 1282;

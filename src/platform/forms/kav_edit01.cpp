@@ -29,6 +29,7 @@
 #include "platform/forms/kavsplash.h"
 #include "platform/forms/language_menu.h"
 #include "platform/forms/page_frame.h"
+#include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/zoom_box.h"
@@ -168,6 +169,8 @@ void KavEdit01::BuildPanels() {
   addDockWidget(Qt::BottomDockWidgetArea, findings_);
   findings_->hide();
   progress_ = new ProgressWindow(this);
+  panel_ = new PanelPlace(designer_, frame_->Properties(), *this);
+  connect(&panel_->Panel(), &PropertyPanel::FilterWanted, this, &KavEdit01::ShowFilter);
   QAction& toggle = menus_->ActionOf(Command::ShowFindings);
   connect(findings_, &QDockWidget::visibilityChanged, &toggle,
           [this, &toggle] { toggle.setChecked(!findings_->isHidden()); });
@@ -309,8 +312,10 @@ void KavEdit01::Dispatch(Command command) {
   }
 }
 
+// Menu and panel both show what holds now.
 void KavEdit01::ShowFilter(DisplayFilter filter) {
-  if (designer_.SetFilter(filter)) return;
+  designer_.SetFilter(filter);
+  panel_->Panel().ShowFilter(designer_.Filter());
   for (const auto& [shown, command] : kFilterCommands)
     menus_->ActionOf(command).setChecked(shown == designer_.Filter());
 }
@@ -403,6 +408,23 @@ void KavEdit01::OpenContextMenu(ContextMenu menu) {
 
 void KavEdit01::StartAllowTimer(int milliseconds, std::function<void()> done) {
   input_.StartAllowTimer(milliseconds, std::move(done));
+}
+
+void KavEdit01::ShowSheet(const Sheet& sheet, const std::string& title, int selectRow) {
+  panel_->Panel().ShowSheet(sheet, title, selectRow);
+}
+
+// Behind the event that asked for it, which may be one of the panel itself.
+void KavEdit01::ShowPanel(std::int32_t state) {
+  QTimer::singleShot(0, this, [this, state] { panel_->Show(state); });
+}
+
+void KavEdit01::FocusPanel() {
+  panel_->Panel().FocusGrid();
+}
+
+void KavEdit01::CommitOpenCell() {
+  panel_->Panel().CommitOpenCell();
 }
 
 }  // namespace kev

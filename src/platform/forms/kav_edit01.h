@@ -18,6 +18,7 @@ namespace kev {
 
 class CommandMenus;
 class FindingsDock;
+class PanelPlace;
 class PageFrame;
 class ProgressWindow;
 class StatusPanels;
@@ -47,6 +48,10 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void CommandsChanged() override;
   void OpenContextMenu(ContextMenu menu) override;
   void ShowFieldScreen(const FieldScreenLook& look) override { input_.ShowFieldScreen(look); }
+  void ShowSheet(const Sheet& sheet, const std::string& title, int selectRow) override;
+  void ShowPanel(std::int32_t state) override;
+  void FocusPanel() override;
+  void CommitOpenCell() override;
   void HideFieldScreen() override { input_.HideFieldScreen(); }
   void StartAllowTimer(int milliseconds, std::function<void()> done) override;
 
@@ -82,6 +87,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   PageView page_;
   PageInput input_;
   PageFrame* frame_ = nullptr;
+  PanelPlace* panel_ = nullptr;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;

@@ -25,6 +25,13 @@ void PropertyArea::SetContent(QWidget* content) {
   layout()->addWidget(content_);
 }
 
+void PropertyArea::ReleaseContent() {
+  if (content_ == nullptr) return;
+  layout()->removeWidget(content_);
+  content_->setParent(nullptr);
+  content_ = nullptr;
+}
+
 void PropertyArea::ShowArea(bool visible) {
   const bool show = visible && content_ != nullptr;
   if (show == shown_) return;

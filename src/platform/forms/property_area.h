@@ -17,6 +17,8 @@ class PropertyArea final : public QWidget {
   // Takes the widget in; one that was there before is deleted. Shows nothing by itself.
   void SetContent(QWidget* content);
   QWidget* Content() const { return content_; }
+  // The widget is the caller's again.
+  void ReleaseContent();
   // Without content it stays hidden.
   void ShowArea(bool visible);
   bool IsShown() const { return shown_; }
