@@ -49,7 +49,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::SetColumn, MenuId::None, "setcolumn", kTextMenuSetColumn, "", CommandKind::Plain,
                kDialog},
     CommandRow{Command::OrganizeColumns, MenuId::Columns, "organizecolumns", kTextMenuOrganizeColumns, ""},
-    CommandRow{Command::Properties, MenuId::None, "Properties", kTextMenuProperties, ""},
+    CommandRow{Command::Properties, MenuId::View, "Properties", kTextMenuProperties, "F4"},
     CommandRow{Command::SeeAll, MenuId::View, "seeall", kTextFilterAll, "", CommandKind::Exclusive, kNoDialog,
                kGroup},
     CommandRow{Command::SeeModifiable, MenuId::View, "see_ebeu", kTextFilterEndUser, "",

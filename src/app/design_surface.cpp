@@ -58,6 +58,12 @@ void DesignSurface::BuildRulers() {
   designer_.ShowRulers();
 }
 
+void DesignSurface::NextRulerMode() {
+  const int before = rulerMode_;
+  rulerMode_ = kev::NextRulerMode(before);
+  designer_.GuardedView([this] { BuildRulers(); }, [&] { rulerMode_ = before; });
+}
+
 void DesignSurface::ToggleDrawGrid() {
   drawGrid_ = !drawGrid_;
   designer_.GuardedView([this] { Redraw(); }, [this] { drawGrid_ = !drawGrid_; });
@@ -114,6 +120,7 @@ void DesignSurface::GoToObject(int row) {
 
 void DesignSurface::SelectionChanged() {
   designer_.TheHost().ShowSelectionStatus(SelectionText(Work()));
+  designer_.Sheets().Refresh();
   CommandsChanged();
 }
 
@@ -137,8 +144,10 @@ void DesignSurface::OpenContextMenu(ContextMenu menu) {
   if (DesignerView* view = designer_.View()) view->OpenContextMenu(menu);
 }
 
+// A subsection has a dialog; everything else is in its sheet.
 void DesignSurface::OpenProperties(int row) {
-  if (designer_.OpenDocument().Objects[row].Kind == ObjectKind::Subsection) OpenSubsection(row);
+  if (designer_.OpenDocument().Objects[row].Kind == ObjectKind::Subsection) return OpenSubsection(row);
+  designer_.Sheets().Properties();
 }
 
 void DesignSurface::ShowFieldScreen(const FieldScreenLook& look) {

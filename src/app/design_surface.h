@@ -13,6 +13,7 @@
 #include "surface/page_keys.h"
 #include "surface/page_work.h"
 #include "surface/pointer_tracker.h"
+#include "surface/rulers.h"
 #include "surface/undo.h"
 #include "surface/visuals.h"
 
@@ -59,6 +60,9 @@ class DesignSurface final : public PageServices {
   // -----------------------------------------------------------------------------------------
   bool DrawGrid() const { return drawGrid_; }
   void ToggleDrawGrid();
+  // The unit of the rulers, see surface/rulers.h.
+  int RulerMode() const { return rulerMode_; }
+  void NextRulerMode();
   CursorShape Cursor(const PointerInput& input);
   const PointerState& Pointer() const { return pointer_; }
   PointerState& Pointer() { return pointer_; }
@@ -103,6 +107,7 @@ class DesignSurface final : public PageServices {
   PaintResult painted_;
   double canvasWidth_ = 0, canvasHeight_ = 0;
   bool drawGrid_ = false;
+  int rulerMode_ = kFirstRulerMode;
 };
 
 }  // namespace kev

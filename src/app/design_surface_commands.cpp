@@ -26,6 +26,8 @@ bool DesignSurface::Run(Command command) {
         return DeleteSelected(work);
       case Command::SelectAll:
         return SelectAll(work);
+      case Command::Properties:
+        return designer_.Sheets().Properties();
       case Command::MoveUp:
         return MoveSubsectionUp(work);
       case Command::MoveDown:

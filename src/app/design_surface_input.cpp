@@ -95,6 +95,7 @@ bool DesignSurface::KeyDown(int code, int shift, std::string_view text) {
 }
 
 void DesignSurface::CommitOpenEdits() {
+  if (DesignerView* view = designer_.View()) view->CommitOpenCell();
   EndFieldScreen(true);
 }
 

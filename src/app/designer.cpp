@@ -25,14 +25,6 @@ std::vector<std::int32_t> Places(const ObjectTable& objects) {
   return places;
 }
 
-// The size that a picture gives to the sides that its template leaves open.
-void FitPicture(ObjectRecord& record, const TextExtent& own) {
-  const bool fixedWidth = record.PictureFixedWidth != kFalse;
-  const bool fixedHeight = record.PictureFixedHeight != kFalse;
-  if (!fixedWidth) record.Width = ToInt32(fixedHeight ? record.Height * own.Width / own.Height : own.Width);
-  if (!fixedHeight) record.Height = ToInt32(fixedWidth ? record.Width * own.Height / own.Width : own.Height);
-}
-
 // Why the work failed; nothing when it did not.
 std::optional<std::string> FailureOf(const std::function<void()>& work) {
   try {
@@ -171,7 +163,8 @@ void Designer::ShowCaption() {
 bool Designer::SetZoom(std::string_view text) {
   const double percent = NumericPrefix(text);
   const double before = zoomPercent_;
-  const bool good = percent >= kSmallestZoom && percent <= kLargestZoom;
+  // What is dragged has its place in the zoom of its beginning.
+  const bool good = percent >= kSmallestZoom && percent <= kLargestZoom && !surface_.Busy();
   const auto show = [this] {
     if (view_ != nullptr) view_->ShowZoom(FormatNumber(zoomPercent_) + "%");
   };

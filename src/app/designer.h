@@ -18,6 +18,7 @@
 #include "app/language.h"
 #include "app/options.h"
 #include "app/picture_source.h"
+#include "app/property_sheets.h"
 #include "app/read_back.h"
 #include "app/theme.h"
 #include "base/finding.h"
@@ -73,6 +74,12 @@ class DesignerView {
   virtual void StartAllowTimer(int, std::function<void()>) {}
   // The dialog of a subsection, until it is closed. OK calls `accept`; where that is false, it stays open.
   virtual void OpenSubsectionDialog(SubsectionDialog&, const std::function<bool()>&) {}
+  // The property panel: its sheet, the row to go to (0 stays), and its place (`PROPFIX`).
+  virtual void ShowSheet(const Sheet&, const std::string& /*title*/, int /*selectRow*/) {}
+  virtual void ShowPanel(std::int32_t) {}
+  virtual void FocusPanel() {}
+  // A cell that is open is told as edited before this returns.
+  virtual void CommitOpenCell() {}
 };
 
 // What a process gives to its designer.
@@ -158,8 +165,9 @@ class Designer {
   }
   // Sets `Modified` and the caption.
   void MarkModified();
-  // A typed or chosen percentage. Below 10 or above 800, or where the page can't be painted with it, the old
-  // one is put back and the result is false. The one in force is taken without painting.
+  // A typed or chosen percentage. Below 10 or above 800, while something is dragged, or where the page can't
+  // be painted with it, the old one is put back and the result is false. The one in force is taken without
+  // painting.
   bool SetZoom(std::string_view text);
   // False when the page can't be painted with it: the old one is put back.
   bool SetFilter(DisplayFilter filter);
@@ -170,6 +178,7 @@ class Designer {
 
   // --- What it owns ----------------------------------------------------------------------------------------
   DesignSurface& Surface() { return surface_; }
+  PropertySheets& Sheets() { return sheets_; }
   Document& OpenDocument() { return document_; }
   const Document& OpenDocument() const { return document_; }
   AttributeState& Attributes() { return attributes_; }
@@ -291,6 +300,7 @@ class Designer {
   bool optionsRead_ = false;
   NullSurface nowhere_;
   DesignSurface surface_{*this};
+  PropertySheets sheets_{*this};
 };
 
 }  // namespace kev

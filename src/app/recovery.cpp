@@ -3,8 +3,12 @@
 
 namespace kev {
 
-std::string RecoveryName(const ClockTime&, std::string_view) { return {}; }
-std::string RecoveredTitle(std::string_view) { return {}; }
+std::string RecoveryName(const ClockTime&, std::string_view) {
+  return {};
+}
+std::string RecoveredTitle(std::string_view) {
+  return {};
+}
 Recovery::Recovery() = default;
 Recovery::~Recovery() = default;
 std::optional<FileFailure> Recovery::Write(const std::string&, const ClockTime&, const std::string&,
@@ -13,6 +17,8 @@ std::optional<FileFailure> Recovery::Write(const std::string&, const ClockTime&,
 }
 void Recovery::Delete() {}
 void Recovery::LeaveBehind() {}
-std::vector<std::string> RecoveryFilesIn(const std::string&) { return {}; }
+std::vector<std::string> RecoveryFilesIn(const std::string&) {
+  return {};
+}
 
 }  // namespace kev

@@ -73,6 +73,7 @@ void Designer::SplashLoad() {
 }
 
 void Designer::AfterSplash() {
+  sheets_.Start();
   TellMissingFolders();
   TellUnknownSettings();
   DecideTemplate();

@@ -494,6 +494,13 @@ inline constexpr int kTextPage = 1267;
 inline constexpr int kTextScrollVertical = 1268;
 inline constexpr int kTextScrollHorizontal = 1269;
 inline constexpr int kTextTools = 1270;
+inline constexpr int kTextClosePanel = 1299;
+inline constexpr int kTextRulerHorizontal = 1280;
+inline constexpr int kTextRulerVertical = 1281;
+inline constexpr int kTextPanelDivider = 1282;
+
+// Tooltip of the horizontal ruler
+inline constexpr int kTextRulerNextUnit = 1283;
 
 // The dialog of a subsection, beside 180 to 188 and 1227
 inline constexpr int kTextSubsectionInsert = 1284;

@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "document/kind_defaults.h"
 #include "document/position.h"
+#include "document/symbologies.h"
 
 namespace kev {
 namespace {
@@ -359,25 +360,16 @@ bool IsYes(std::string_view text) {
 }
 
 std::string_view SampleForKind(int symbology) {
-  switch (symbology) {
-    case 1:
-      return "ABCDEF";
-    case 8:
-      return "12345678";
-    case 13:
-      return "1234567890123";
-    case 250:
-    case 251:
-    case 252:
-      return "1234567890";
-    case 1282:
-    case 1283:
-      return "123456";
-    case 12821:
-      return "(01)12345678";
-    default:
-      return "";
-  }
+  const Symbology* row = SymbologyOfKind(symbology);
+  return row == nullptr ? std::string_view{} : row->specimen;
+}
+
+void FitPicture(ObjectRecord& record, const TextExtent& own) {
+  if (!(own.Width > 0 && own.Height > 0)) return;
+  const bool fixedWidth = record.PictureFixedWidth != kFalse;
+  const bool fixedHeight = record.PictureFixedHeight != kFalse;
+  if (!fixedWidth) record.Width = ToInt32(fixedHeight ? record.Height * own.Width / own.Height : own.Width);
+  if (!fixedHeight) record.Height = ToInt32(fixedWidth ? record.Width * own.Height / own.Width : own.Height);
 }
 
 std::string SectionNameOf(std::string_view headLine, const CodePage& page) {

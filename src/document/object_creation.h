@@ -74,6 +74,10 @@ int AddObject(CreationContext& context, const NewObject& object);
 FontSpec FontOf(const ObjectRecord& record);
 void MeasureText(ObjectRecord& record, const TextMeasurer& measurer);
 
+// Gives the sides that a template leaves open the size of the picture, in its own proportion. Nothing changes
+// for a picture without a size. Twips.
+void FitPicture(ObjectRecord& record, const TextExtent& own);
+
 // Whether the value of a template's item says yes; anything but "y", in any case, and "1" says no.
 bool IsYes(std::string_view text);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/page_canvas.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -164,12 +165,24 @@ void PageCanvas::scrollContentsBy(int dx, int dy) {
 }
 
 void PageCanvas::wheelEvent(QWheelEvent* event) {
-  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QAbstractScrollArea::wheelEvent(event);
+  const Qt::KeyboardModifiers held = event->modifiers();
+  if (!held.testFlag(Qt::ControlModifier))
+    return held.testFlag(Qt::ShiftModifier) ? ScrollSideways(*event) : QAbstractScrollArea::wheelEvent(event);
   zoomWheel_ += event->angleDelta().y();
   const int steps = zoomWheel_ / kWheelStep;
   zoomWheel_ -= steps * kWheelStep;
   if (steps != 0) Q_EMIT ZoomRequested(steps, event->position());
   event->accept();
+}
+
+// A wheel that only turns up and down scrolls sideways with Shift.
+void PageCanvas::ScrollSideways(QWheelEvent& event) {
+  const QPoint turned = event.angleDelta();
+  QWheelEvent sideways(event.position(), event.globalPosition(), {},
+                       {turned.x() != 0 ? turned.x() : turned.y(), 0}, event.buttons(), Qt::NoModifier,
+                       event.phase(), event.inverted());
+  QCoreApplication::sendEvent(horizontalScrollBar(), &sideways);
+  event.accept();
 }
 
 // Arrow keys belong to what stands on the page, not to the view.

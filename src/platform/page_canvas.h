@@ -73,6 +73,7 @@ class PageCanvas : public QAbstractScrollArea {
   void MoveOverlays();
   void MoveOverlay(QWidget* overlay, const QRectF& canvasArea) const;
   void PaintDesk(QPainter& painter, const QRectF& exposed, const QRectF& page) const;
+  void ScrollSideways(QWheelEvent& event);
   void Tell(PagePointer::Action action, const QMouseEvent& event);
 
   const DisplayList& list_;

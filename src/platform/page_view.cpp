@@ -36,9 +36,11 @@ void PageView::DocumentReplaced() {
 
 void PageView::SetZoom(const QString& text, const QPointF& anchor) {
   const QPointF place = canvas_->ToCanvas(anchor) / designer_.ZoomFactor();
+  const QPointF onScreen = canvas_->viewport()->mapToGlobal(anchor);
   // A character that no code page holds is no part of a number: the designer then puts the old zoom back.
   if (!designer_.SetZoom(FromQString(text, CodePage::Default()).value_or(std::string()))) return;
-  canvas_->ScrollTo(place * designer_.ZoomFactor(), anchor);
+  // Rulers that became thicker have moved the viewport.
+  canvas_->ScrollTo(place * designer_.ZoomFactor(), canvas_->viewport()->mapFromGlobal(onScreen));
 }
 
 void PageView::SetZoom(const QString& text) {

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "base/numbers.h"
+#include "document/symbologies.h"
 #include "surface/paint_kinds.h"
 
 namespace kev {
@@ -16,29 +17,9 @@ constexpr double kCaptionPoints = 8;
 constexpr std::size_t kLongestCaption = 100;
 constexpr std::array kCode128 = {1282, 1283, 12821};
 
-struct SymbologyName {
-  int kind;
-  std::string_view name;
-};
-
-constexpr auto kSymbologyNames = std::to_array<SymbologyName>({
-    {1, "STANDARD 3-9"},
-    {8, "EAN-8"},
-    {13, "EAN-13"},
-    {32, "CODE 32"},
-    {250, "2 OF 5 STANDARD"},
-    {251, "2 OF 5 INTERLEAVE"},
-    {252, "2 OF 5 INDUSTRIAL"},
-    {1282, "128 B"},
-    {1283, "128 C"},
-    {12821, "UCC EAN 128"},
-});
-
 std::string_view SymbologyNameOf(const ObjectRecord& record) {
-  const int kind = Int32Of(record.BarcodeKind);
-  for (const SymbologyName& row : kSymbologyNames)
-    if (row.kind == kind) return row.name;
-  return "BARCODE";
+  const Symbology* row = SymbologyOfKind(Int32Of(record.BarcodeKind));
+  return row == nullptr || row->name.empty() ? "BARCODE" : row->name;
 }
 
 std::string ChartCaption(const ObjectRecord& record) {

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "chart/definition.h"
 #include "document/colours.h"
+#include "document/symbologies.h"
 #include "template/line_text.h"
 #include "template/writer_tables.h"
 
@@ -269,10 +270,8 @@ void ObjectWriter::Barcode(const ObjectRecord& record) {
   items += Position(record.XValue) + ";BarHeight=" + Number(record.Height);
   if (record.BarWidth > 1 && record.BarWidth <= 10) items += ";BarWidth=" + Number(record.BarWidth);
   if (record.VerticalBar != 0) items += ";VertBar";
-  std::string_view word;
-  for (const SymbologyWord& row : kSymbologyWords) {
-    if (row.code == record.BarcodeKind) word = row.word;
-  }
+  const Symbology* symbology = SymbologyOfKind(Int32Of(record.BarcodeKind));
+  const std::string_view word = symbology == nullptr ? std::string_view{} : symbology->word;
   std::vector<std::string>& unnamed = report_.UnnamedSymbologies;
   if (word.empty() && std::find(unnamed.begin(), unnamed.end(), record.BarcodeKind) == unnamed.end())
     unnamed.push_back(record.BarcodeKind);

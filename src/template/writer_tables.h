@@ -30,20 +30,4 @@ inline constexpr auto kStepComments = std::to_array<CommentRow>({
     {ObjectKind::Label, "rem=modulo015", "rem=modulo016"},
 });
 
-struct SymbologyWord {
-  std::string_view code;
-  std::string_view word;
-};
-
-inline constexpr auto kSymbologyWords = std::to_array<SymbologyWord>({
-    {"1", ";Bar"},
-    {"8", ";Ean8"},
-    {"13", ";Ean13"},
-    {"251", ";B2Of5Int"},
-    {"252", ";B2Of5Ind"},
-    {"250", ";B2Of5Bar"},
-    {"1282", ";B128B"},
-    {"1283", ";B128C"},
-});
-
 }  // namespace kev

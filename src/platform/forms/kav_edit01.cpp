@@ -28,6 +28,8 @@
 #include "platform/forms/findings_dock.h"
 #include "platform/forms/kavsplash.h"
 #include "platform/forms/language_menu.h"
+#include "platform/forms/page_frame.h"
+#include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/sub_section_propert.h"
@@ -69,7 +71,7 @@ KavEdit01::KavEdit01(Designer& designer, QtHost& host, FontCache& fonts, ImageCa
   setAcceptDrops(true);
   BuildMenus();
   BuildToolRow();
-  BuildPage();
+  BuildPage(fonts);
   BuildPanels();
   ConnectHost();
   PlaceOnScreen();
@@ -133,13 +135,31 @@ void KavEdit01::BuildToolRow() {
   connect(zoomBox_, &ZoomBox::ZoomChosen, this, &KavEdit01::SetZoom);
 }
 
-void KavEdit01::BuildPage() {
-  setCentralWidget(&page_.Canvas());
+void KavEdit01::BuildPage(FontCache& fonts) {
   PageCanvas& canvas = page_.Canvas();
+  frame_ = new PageFrame(canvas, fonts, designer_.Options(), designer_.Texts(), this);
+  setCentralWidget(frame_);
+  ConnectPageFrame();
   canvas.setAccessibleName(ToQString(designer_.Text(kTextPage)));
   canvas.verticalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollVertical)));
   canvas.horizontalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollHorizontal)));
   connect(&canvas, &PageCanvas::ZoomRequested, this, &KavEdit01::OnZoomWheel);
+}
+
+void KavEdit01::ConnectPageFrame() {
+  connect(frame_, &PageFrame::NextRulerModeWanted, this, [this] { designer_.Surface().NextRulerMode(); });
+  connect(frame_, &PageFrame::ZoomStepWanted, this,
+          [this](int steps) { OnZoomWheel(steps, QRectF(page_.Canvas().viewport()->rect()).center()); });
+  connect(frame_, &PageFrame::RulerPointer, this, [this](const PagePointer& pointer) {
+    const PointerInput input{.Source = PointerSource::Ruler,
+                             .Button = PointerButton::Right,
+                             .X = pointer.canvas.x(),
+                             .Y = pointer.canvas.y()};
+    if (pointer.action == PagePointer::Action::Press)
+      designer_.Surface().PointerPress(input);
+    else
+      designer_.Surface().PointerRelease(input);
+  });
 }
 
 void KavEdit01::BuildPanels() {
@@ -150,6 +170,8 @@ void KavEdit01::BuildPanels() {
   addDockWidget(Qt::BottomDockWidgetArea, findings_);
   findings_->hide();
   progress_ = new ProgressWindow(this);
+  panel_ = new PanelPlace(designer_, frame_->Properties(), *this);
+  connect(&panel_->Panel(), &PropertyPanel::FilterWanted, this, &KavEdit01::ShowFilter);
   QAction& toggle = menus_->ActionOf(Command::ShowFindings);
   connect(findings_, &QDockWidget::visibilityChanged, &toggle,
           [this, &toggle] { toggle.setChecked(!findings_->isHidden()); });
@@ -291,8 +313,10 @@ void KavEdit01::Dispatch(Command command) {
   }
 }
 
+// Menu and panel both show what holds now.
 void KavEdit01::ShowFilter(DisplayFilter filter) {
-  if (designer_.SetFilter(filter)) return;
+  designer_.SetFilter(filter);
+  panel_->Panel().ShowFilter(designer_.Filter());
   for (const auto& [shown, command] : kFilterCommands)
     menus_->ActionOf(command).setChecked(shown == designer_.Filter());
 }
@@ -348,6 +372,16 @@ void KavEdit01::DocumentReplaced() {
   page_.DocumentReplaced();
 }
 
+void KavEdit01::PageShown() {
+  page_.Shown();
+  ShowRulers();
+}
+
+void KavEdit01::ShowRulers() {
+  frame_->ShowRulers(PlanRulers(designer_.OpenDocument(), designer_.ZoomFactor(), designer_.Measurer()),
+                     designer_.Surface().RulerMode());
+}
+
 void KavEdit01::ShowArea(const CanvasArea& area) {
   page_.Canvas().EnsureVisible(QRectF(QPointF(area.Left, area.Top), QPointF(area.Right, area.Bottom)));
 }
@@ -379,6 +413,23 @@ void KavEdit01::OpenContextMenu(ContextMenu menu) {
 
 void KavEdit01::StartAllowTimer(int milliseconds, std::function<void()> done) {
   input_.StartAllowTimer(milliseconds, std::move(done));
+}
+
+void KavEdit01::ShowSheet(const Sheet& sheet, const std::string& title, int selectRow) {
+  panel_->Panel().ShowSheet(sheet, title, selectRow);
+}
+
+// Behind the event that asked for it, which may be one of the panel itself.
+void KavEdit01::ShowPanel(std::int32_t state) {
+  QTimer::singleShot(0, this, [this, state] { panel_->Show(state); });
+}
+
+void KavEdit01::FocusPanel() {
+  panel_->Panel().FocusGrid();
+}
+
+void KavEdit01::CommitOpenCell() {
+  panel_->Panel().CommitOpenCell();
 }
 
 }  // namespace kev

@@ -18,6 +18,8 @@ namespace kev {
 
 class CommandMenus;
 class FindingsDock;
+class PanelPlace;
+class PageFrame;
 class ProgressWindow;
 class StatusPanels;
 class ZoomBox;
@@ -39,13 +41,18 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void DocumentReplaced() override;
   void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override;
   SurfaceOps& Canvas() override { return page_.Surface(); }
-  void PageShown() override { page_.Shown(); }
+  void PageShown() override;
+  void ShowRulers() override;
   void ShowArea(const CanvasArea& area) override;
   void ShowZoom(std::string_view text) override;
   void FindingsChanged() override;
   void CommandsChanged() override;
   void OpenContextMenu(ContextMenu menu) override;
   void ShowFieldScreen(const FieldScreenLook& look) override { input_.ShowFieldScreen(look); }
+  void ShowSheet(const Sheet& sheet, const std::string& title, int selectRow) override;
+  void ShowPanel(std::int32_t state) override;
+  void FocusPanel() override;
+  void CommitOpenCell() override;
   void HideFieldScreen() override { input_.HideFieldScreen(); }
   void StartAllowTimer(int milliseconds, std::function<void()> done) override;
 
@@ -61,7 +68,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void BuildLanguageMenu();
   QString MenuCaption(int text) const;
   void BuildToolRow();
-  void BuildPage();
+  void BuildPage(FontCache& fonts);
+  void ConnectPageFrame();
   void BuildPanels();
   void ConnectHost();
   void PlaceOnScreen();
@@ -79,6 +87,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   QtHost& host_;
   PageView page_;
   PageInput input_;
+  PageFrame* frame_ = nullptr;
+  PanelPlace* panel_ = nullptr;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "platform/forms/form_props.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "platform/display_list.h"
+#include "platform/forms/property_panel.h"
+
+namespace kev {
+namespace {
+
+constexpr QSize kLeast(200, 160);
+
+int Pixels(std::int32_t twips) {
+  return static_cast<int>(twips / kUnitsPerPixel);
+}
+
+std::int32_t Twips(int pixels) {
+  return static_cast<std::int32_t>(pixels * kUnitsPerPixel);
+}
+
+PanelArea AreaOfScreen(const QRect& screen) {
+  return {Twips(screen.left()), Twips(screen.top()), Twips(screen.width()), Twips(screen.height())};
+}
+
+}  // namespace
+
+FormPROPS::FormPROPS(const PanelArea& area, const QString& caption, QWidget* parent)
+    : QWidget(parent, Qt::Tool | Qt::WindowStaysOnTopHint) {
+  setObjectName(QStringLiteral("FormPROPS"));
+  setWindowTitle(caption);
+  setMinimumSize(kLeast);
+  PanelArea inside = area;
+  MovePanelIn(inside, AreaOfScreen(screen()->availableGeometry()));
+  setGeometry(Pixels(inside.Left), Pixels(inside.Top), Pixels(inside.Width), Pixels(inside.Height));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+}
+
+void FormPROPS::SetPanel(PropertyPanel* panel) {
+  layout()->addWidget(panel);
+  panel->show();
+  connect(&panel->Title(), &PanelTitle::DragBegun, this, [this](const QPoint& at) { grip_ = at - pos(); });
+  connect(&panel->Title(), &PanelTitle::Dragged, this, [this](const QPoint& at) { move(at - grip_); });
+}
+
+void FormPROPS::TellPlace() {
+  if (!isVisible()) return;
+  Q_EMIT Moved({Twips(x()), Twips(y()), Twips(width()), Twips(height())});
+}
+
+// The panel is closed, not the window: it comes back where it was.
+void FormPROPS::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  Q_EMIT CloseWanted();
+}
+
+void FormPROPS::moveEvent(QMoveEvent* event) {
+  QWidget::moveEvent(event);
+  TellPlace();
+}
+
+void FormPROPS::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  TellPlace();
+}
+
+}  // namespace kev

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// A grid of captions and values, each value with the editor that its row asks for. It can be worked with the
+// keyboard alone: arrows walk the rows, Enter, F2 or typing opens a cell, Enter or leaving it commits, Esc
+// puts the old value back. It stores nothing: what was typed is told, and the rows are then shown anew.
+#pragma once
+
+#include <QTableView>
+#include <string>
+#include <vector>
+
+#include "base/code_page.h"
+#include "properties/property_row.h"
+
+namespace kev {
+
+class PropGridModel;
+
+class PropGrid final : public QTableView {
+  Q_OBJECT
+
+ public:
+  explicit PropGrid(QWidget* parent = nullptr);
+
+  // The values are bytes of the page. The current row stays where the captions are the same.
+  void Show(const std::vector<PropertyRow>& rows, const CodePage& page);
+  // What the cells hold, row by row.
+  std::vector<std::string> Values() const;
+  // Rows count from 1; 0 is none.
+  int CurrentRow() const;
+  void SetCurrentRow(int row);
+  // An open cell is committed as if it had been left. False when its text was refused and the cell stays
+  // open.
+  bool CommitOpenCell();
+  // An open cell is closed with nothing told.
+  void DiscardOpenCell();
+
+ Q_SIGNALS:
+  // The cell of the row, counted from 1, now holds another value.
+  void Edited(int row);
+  void RowChanged(int row);
+  void ButtonPressed(int row);
+  // A character that the page does not hold was typed; the old value is back.
+  void Refused(const QString& character);
+  // The grid, or a cell of it, has the keyboard.
+  void FocusChanged(bool has);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  QSize sizeHint() const override { return {260, 400}; }
+
+ private:
+  void Open(const QModelIndex& index, const QString& typed = {});
+
+  PropGridModel* model_;
+};
+
+}  // namespace kev

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "platform/forms/prop_grid_model.h"
+
+#include <QColor>
+#include <QStringList>
+#include <algorithm>
+
+#include "platform/fonts.h"
+#include "platform/forms/prop_grid_editors.h"
+#include "platform/text_bridge.h"
+
+namespace kev {
+namespace {
+
+bool SameCaptions(const std::vector<PropertyRow>& a, const std::vector<PropertyRow>& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](const PropertyRow& x, const PropertyRow& y) { return x.Caption == y.Caption; });
+}
+
+}  // namespace
+
+// Where the rows are those of before, only their values are shown anew: the current row keeps its place.
+void PropGridModel::Show(const std::vector<PropertyRow>& rows, const CodePage& page) {
+  page_ = &page;
+  if (SameCaptions(rows, rows_)) {
+    rows_ = rows;
+    if (!rows_.empty()) Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kValue));
+    return;
+  }
+  beginResetModel();
+  rows_ = rows;
+  endResetModel();
+}
+
+QString PropGridModel::TextAt(const QModelIndex& index) const {
+  return ToQString(RowAt(index).Value, *page_);
+}
+
+QString PropGridModel::Shown(const PropertyRow& row) const {
+  if (row.Editor != EditorKind::Font) return ToQString(row.Value, *page_);
+  const std::optional<FontValue> font = ParseFontValue(row.Value);
+  if (!font) return ToQString(row.Value, *page_);
+  QString words = ToQString(font->Name, *page_) + QStringLiteral(", %1").arg(font->Size);
+  if (font->Bold) words += QStringLiteral(", bold");
+  if (font->Italic) words += QStringLiteral(", italic");
+  return words;
+}
+
+int PropGridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant PropGridModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const PropertyRow& row = RowAt(index);
+  const bool caption = index.column() == kCaption;
+  switch (role) {
+    case Qt::DisplayRole:
+      return caption ? ToQString(row.Caption) : Shown(row);
+    case Qt::EditRole:
+      return caption ? QVariant() : QVariant(TextAt(index));
+    case Qt::ToolTipRole:
+      return caption ? ToQString(row.Caption) : Shown(row);
+    case Qt::AccessibleTextRole:
+      return caption ? ToQString(row.Caption) : ToQString(row.Caption) + QStringLiteral(": ") + Shown(row);
+    case Qt::DecorationRole:
+      if (!caption && row.Editor == EditorKind::Colour) return Swatch(ColourOf(TextAt(index)));
+      return {};
+    default:
+      return {};
+  }
+}
+
+Qt::ItemFlags PropGridModel::flags(const QModelIndex& index) const {
+  if (!index.isValid()) return Qt::NoItemFlags;
+  Qt::ItemFlags flags = Qt::ItemIsSelectable;
+  if (RowAt(index).Enabled) flags |= Qt::ItemIsEnabled;
+  if (index.column() == kValue && RowAt(index).Enabled) flags |= Qt::ItemIsEditable;
+  return flags;
+}
+
+bool PropGridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  if (role != Qt::EditRole || !index.isValid() || index.column() != kValue) return false;
+  QString refused;
+  const std::optional<std::string> text = FromQString(value.toString(), *page_, &refused);
+  if (!text) {
+    Q_EMIT Refused(refused);
+    return false;
+  }
+  std::string& held = rows_[static_cast<std::size_t>(index.row())].Value;
+  if (*text == held) return false;
+  held = *text;
+  Q_EMIT dataChanged(index, index);
+  Q_EMIT Edited(index.row() + 1);
+  return true;
+}
+
+}  // namespace kev
