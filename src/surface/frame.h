@@ -19,7 +19,7 @@ inline constexpr FrameNames kMarchingFrame = {"lnh01", "lnh02", "lnv01", "lnv02"
 inline constexpr FrameNames kBandFrame = {"LineSelectHor01", "LineSelectHor02", "LineSelectVert01",
                                           "LineSelectVert02"};
 
-void ShowFrame(SurfaceOps& surface, const FrameNames& names, const CanvasArea& area, Rgb colour);
+void ShowFrame(SurfaceOps& surface, const FrameNames& names, const CanvasArea& area);
 void HideFrame(SurfaceOps& surface, const FrameNames& names);
 
 }  // namespace kev

@@ -11,8 +11,6 @@
 namespace kev {
 namespace {
 
-constexpr Rgb kFrameColour = 0x787878;
-
 // Whole twips.
 struct Delta {
   double X = 0, Y = 0;
@@ -35,7 +33,7 @@ class GroupDrag final : public Gesture {
     const double x = at.X - pointer.DragX0, y = at.Y - pointer.DragY0;
     const CanvasArea& bounds = pointer.Bounds;
     ShowFrame(work.surface, kMarchingFrame,
-              {bounds.Left + x, bounds.Top + y, bounds.Right + x, bounds.Bottom + y}, kFrameColour);
+              {bounds.Left + x, bounds.Top + y, bounds.Right + x, bounds.Bottom + y});
   }
 
   void End(PageWork& work, int) override {
@@ -65,7 +63,7 @@ std::unique_ptr<Gesture> BeginGroupDrag(PageWork& work, CanvasPoint at) {
   pointer.GroupDrag = true;
   pointer.DragX0 = at.X;
   pointer.DragY0 = at.Y;
-  ShowFrame(work.surface, kMarchingFrame, pointer.Bounds, kFrameColour);
+  ShowFrame(work.surface, kMarchingFrame, pointer.Bounds);
   return std::make_unique<GroupDrag>();
 }
 

@@ -17,7 +17,6 @@ constexpr auto kPanelNames =
     std::to_array<std::string_view>({"", "lblob(1)", "lblob(2)", "lblob(3)", "lblob(4)"});
 constexpr double kBarOffset = 25;
 constexpr double kUnderlineAbove = 5;
-constexpr double kUnitsPerPixel = 15;
 constexpr Rgb kBarFill = 0xE6E6E6;
 // The one symbology that has no picture beside that of the page.
 constexpr int kPageOnlySymbology = 12821;
@@ -69,13 +68,6 @@ void PlaceGrip(SurfaceOps& surface, std::string_view name, CanvasPoint centre) {
   surface.PlaceWidget(name, centre.X - kGripSide / 2, centre.Y - kGripSide / 2, kGripSide, kGripSide);
 }
 
-// Wide enough for the pen, also where the line is level or upright.
-CanvasArea RoomOfLine(CanvasPoint from, CanvasPoint to, double penWidth) {
-  const double half = penWidth * kUnitsPerPixel / 2;
-  return {std::min(from.X, to.X) - half, std::min(from.Y, to.Y) - half, std::max(from.X, to.X) + half,
-          std::max(from.Y, to.Y) + half};
-}
-
 void ShowGrips(PageWork& work, int row) {
   const Document& document = work.document;
   const ObjectRecord& record = document.Objects[row];
@@ -96,7 +88,7 @@ void PlaceLineGrips(PageWork& work, int row) {
   const ObjectRecord& record = std::as_const(work.document).Objects[row];
   const CanvasPoint from = work.pointer.LineStart, to = work.pointer.LineEnd;
   const double penWidth = std::max<int>(1, record.LineWidth);
-  Place(work.surface, "Lineaviva", RoomOfLine(from, to, penWidth));
+  work.surface.PlaceWidget("Lineaviva", from.X, from.Y, to.X - from.X, to.Y - from.Y);
   SurfaceOps& line = work.surface.SurfaceOf("Lineaviva");
   line.ClearCanvas();
   line.SetPen(ToRgb(TextColourOf(record)), penWidth,

@@ -13,7 +13,8 @@ inline constexpr double kGripSide = 90;
 // Painting it stores in the row what painting the page stores.
 void ShowOverlay(PageWork& work, int row);
 
-// `ObjL1` and `ObjL2` around LineStart and LineEnd, and `Lineaviva` between them in the pen of the row.
+// `ObjL1` and `ObjL2` around LineStart and LineEnd, and `Lineaviva` from one to the other in the pen of the
+// row: its sizes are negative where it runs up or to the left.
 void PlaceLineGrips(PageWork& work, int row);
 
 }  // namespace kev

@@ -12,7 +12,6 @@ namespace kev {
 namespace {
 
 constexpr double kLeastBand = 300;  // at any zoom
-constexpr Rgb kBandColour = 0x0000FF;
 
 bool Overlap(const CanvasArea& one, const CanvasArea& other) {
   return one.Left <= other.Right && one.Right >= other.Left && one.Top <= other.Bottom &&
@@ -22,7 +21,7 @@ bool Overlap(const CanvasArea& one, const CanvasArea& other) {
 class RubberBand final : public Gesture {
  public:
   void Move(PageWork& work, CanvasPoint at) override {
-    ShowFrame(work.surface, kBandFrame, AreaTo(work.pointer, at), kBandColour);
+    ShowFrame(work.surface, kBandFrame, AreaTo(work.pointer, at));
   }
 
   void End(PageWork& work, int) override {
