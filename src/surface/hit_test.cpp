@@ -21,6 +21,13 @@ bool Holds(const CanvasArea& area, CanvasPoint at) {
   return Within(at.X, area.Left, area.Right) && Within(at.Y, area.Top, area.Bottom);
 }
 
+// To find the left edge an expression must be read; most rows are passed over by their height alone.
+bool ReachesLevel(const ObjectRecord& record, double zoom, double y, double reach) {
+  const double top = record.AbsoluteY * zoom;
+  const double bottom = top + (IsVerticalBarcode(record) ? record.Width : record.Height) * zoom;
+  return Within(y, std::min(top, bottom) - reach, std::max(top, bottom) + reach);
+}
+
 template <class Visit>
 void ForEachShown(const PageWork& work, Visit visit) {
   const ObjectTable& objects = work.document.Objects;
@@ -34,6 +41,7 @@ int SmallestUnder(const PageWork& work, CanvasPoint at) {
   int winner = 0;
   double best = kNothing;
   ForEachShown(work, [&](int row, const ObjectRecord& record) {
+    if (!ReachesLevel(record, work.ZoomFactor, at.Y, 0)) return;
     if (!Holds(AreaOf(record, work.document, work.ZoomFactor), at)) return;
     const double size = std::abs(static_cast<double>(record.Height) * record.Width) * work.ZoomFactor;
     if (size >= best) return;
@@ -81,6 +89,7 @@ int FlatRowNear(const PageWork& work, CanvasPoint at) {
   int nearest = 0;
   double best = kNothing;
   ForEachShown(work, [&](int row, const ObjectRecord& record) {
+    if (!ReachesLevel(record, work.ZoomFactor, at.Y, kFlatReach)) return;
     const CanvasArea area = AreaOf(record, work.document, work.ZoomFactor);
     if (area.Width() >= kFlatReach && area.Height() >= kFlatReach) return;
     const double distance = DistanceTo(area, at);

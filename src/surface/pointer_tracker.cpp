@@ -25,13 +25,14 @@ bool DragsEndBar(const PageWork& work) {
 }
 
 // The page ends a gesture's reach. An end bar may go below it, and the page grows; a column line may be let
-// go over the ruler above it.
-CanvasPoint OnCanvas(const PageWork& work, CanvasPoint at) {
+// go over the ruler above it. What hangs over the edge and was pressed there does not jump onto the page.
+CanvasPoint OnCanvas(const PageWork& work, CanvasPoint at, CanvasPoint press) {
   constexpr double kFar = std::numeric_limits<double>::max();
   const double left = -LeftMarginOf(work.document.Settings) * work.ZoomFactor;
   const double top = work.pointer.ColumnDrag ? -kFar : 0;
   const double bottom = DragsEndBar(work) ? kFar : work.canvasHeight;
-  return {std::clamp(at.X, left, left + work.canvasWidth), std::clamp(at.Y, top, bottom)};
+  return {std::clamp(at.X, std::min(left, press.X), std::max(left + work.canvasWidth, press.X)),
+          std::clamp(at.Y, std::min(top, press.Y), std::max(bottom, press.Y))};
 }
 
 // A grip that was only clicked has done nothing.
@@ -64,7 +65,7 @@ void PointerTracker::Move(PageWork& work, const PointerInput& input) {
 void PointerTracker::Follow(PageWork& work, const PointerInput& input) {
   PointerState& pointer = work.pointer;
   const CanvasPoint at{input.X, input.Y};
-  pointer.KeepPosition(gesture_ != nullptr ? OnCanvas(work, at) : at);
+  pointer.KeepPosition(gesture_ != nullptr ? OnCanvas(work, at, {press_.X, press_.Y}) : at);
   pointer.OverRuler = input.Source == PointerSource::Ruler;
   if (gesture_ != nullptr) gesture_->Move(work, pointer.LastPoint());
 }

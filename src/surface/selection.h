@@ -19,8 +19,8 @@ int HitTest(const PageWork& work, CanvasPoint at);
 void SelectObject(PageWork& work, int row);
 // Picks what lies under LastX, LastY; with Shift the row joins or leaves the group.
 void SelectAtPointer(PageWork& work);
-// The overlay and handles of the current row once more, after a repaint; deselects a row that has gone or that
-// the filter hides. A group shows none.
+// The overlay and handles of the current row once more, after a repaint; deselects a row that has gone or
+// that the filter hides. A group shows none.
 void ShowCurrentAgain(PageWork& work);
 // Nothing is current any more.
 void Deselect(PageWork& work);

@@ -121,6 +121,15 @@ TEST_F(GroupDragTest, NeedsAPressStrictlyInsideTheBounds) {
   EXPECT_FALSE(Pointer().GroupDrag);
 }
 
+TEST_F(GroupDragTest, TakenHoldOfBesideThePageItDoesNotJump) {
+  const double edge = page_.canvasWidth;
+  const int wide = Add(ObjectKind::Picture, "5000", 5000, static_cast<int>(edge), 500);
+  Open();
+  Group({wide});
+  Drag({edge + 2000, 5200}, {edge + 1900, 5200});
+  EXPECT_EQ(Record(wide).XValue, "4900");
+}
+
 TEST_F(GroupDragTest, GivenUpChangesNothing) {
   Group({one_, two_});
   Press(2000, 2000);
