@@ -9,6 +9,7 @@
 #include "surface/click.h"
 #include "surface/page_background.h"
 #include "surface/press_rules.h"
+#include "surface/selection.h"
 
 namespace kev {
 namespace {
@@ -35,9 +36,11 @@ CanvasPoint OnCanvas(const PageWork& work, CanvasPoint at, CanvasPoint press) {
           std::clamp(at.Y, std::min(top, press.Y), std::max(bottom, press.Y))};
 }
 
-// A grip that was only clicked has done nothing.
-bool PassesClick(PointerSource source) {
-  return source != PointerSource::Handle && source != PointerSource::LineEnd;
+// A grip that was only clicked has done nothing. The sides of a box stand beside it: where nothing else lies
+// under them, they mean the box.
+bool PassesClick(const PageWork& work, PointerSource source) {
+  if (source == PointerSource::Handle || source == PointerSource::LineEnd) return false;
+  return source != PointerSource::Overlay || HitTest(work, work.pointer.LastPoint()) != 0;
 }
 
 }  // namespace
@@ -82,7 +85,7 @@ void PointerTracker::LeftUp(PageWork& work, const PointerInput& input) {
   work.pointer.LastShift = input.Shift;
   CountClick(work);
   if (gesture_ != nullptr && !Finish(work, input.Shift)) return;
-  if (PassesClick(press_.Source)) ClickOnPage(work);
+  if (PassesClick(work, press_.Source)) ClickOnPage(work);
 }
 
 bool PointerTracker::Finish(PageWork& work, int shift) {

@@ -210,6 +210,16 @@ TEST_F(ClickTest, HandleThatActsAndGripsKeepTheSelection) {
   EXPECT_EQ(Current(), big);
 }
 
+TEST_F(ClickTest, OnASideOfTheCurrentBoxKeepsItSelected) {
+  const int box = Add(ObjectKind::Box, "5000", 5000, 1000, 1000);
+  Open();
+  Select(box);
+  Click(4985, 5500, 0, PointerSource::Overlay, 4);
+  EXPECT_EQ(Current(), box);
+  DoubleClick(4985, 5500, PointerSource::Overlay, 4);
+  EXPECT_EQ(page_.TakeCalls(), "open " + std::to_string(box));
+}
+
 TEST_F(ClickTest, OnTheRulerIsNoneOnThePage) {
   Click(1100, 1100);
   Click(6000, 6000, 0, PointerSource::Ruler);
