@@ -28,6 +28,12 @@ struct CanvasPoint {
   bool operator==(const CanvasPoint&) const = default;
 };
 
+// What the menu that was opened last stands for.
+struct MenuPlace {
+  int Slot = 0;       // of the column line below `Contextmen3`
+  double RulerX = 0;  // canvas units; where `Contextmen2` was opened
+};
+
 struct PointerState {
   // At the last release and at each move of a gesture, not while hovering. They keep their place on the page
   // when the zoom changes.
@@ -45,6 +51,8 @@ struct PointerState {
   bool LineEndDrag = false;
   bool ColumnDrag = false;
   double NewLeft = 0, NewTop = 0;
+  // The pointer of the gesture was last over the horizontal ruler.
+  bool OverRuler = false;
 
   // A group exists; its members are the rows whose Selected is -1. Set by each redraw, with the box around
   // the group.
@@ -56,6 +64,7 @@ struct PointerState {
   bool FirstClick = true;  // the next click is the document's first
   // The insertion that waits for a click; empty when there is none.
   std::string PendingTool;
+  MenuPlace MenuAt;
 
   // Where the panels of the current object stand: 1 alone, or 1 to 4 for the sides of a box (top, right,
   // bottom, left). 0 is not used. Kept as real numbers; nothing is ever read back from a widget.
@@ -65,8 +74,16 @@ struct PointerState {
 
   bool HasPosition() const { return LastX != kNoPosition || LastY != kNoPosition; }
   void ForgetPosition() { LastX = LastY = kNoPosition; }
+  CanvasPoint LastPoint() const { return {LastX, LastY}; }
+  void KeepPosition(CanvasPoint at) {
+    LastX = at.X;
+    LastY = at.Y;
+  }
   bool InGesture() const {
     return BandActive || GroupDrag || BoxDrag || ObjectDrag || ResizeDrag || LineEndDrag || ColumnDrag;
+  }
+  void ForgetGestures() {
+    BandActive = GroupDrag = BoxDrag = ObjectDrag = ResizeDrag = LineEndDrag = ColumnDrag = false;
   }
 };
 

@@ -37,7 +37,8 @@ enum class CursorShape : std::uint8_t {
 class PointerTracker {
  public:
   // The window sends a press of either button; a move for each motion, held or not; a release wherever the
-  // button came up. After the release of a double click it sends DoubleClick.
+  // button came up. A move without a button ends a press like its release does, whichever comes first. Of a
+  // double click it sends no second press; after its release it sends DoubleClick.
   void Press(PageWork& work, const PointerInput& input);
   void Move(PageWork& work, const PointerInput& input);
   void Release(PageWork& work, const PointerInput& input);
@@ -52,13 +53,16 @@ class PointerTracker {
   void Reset();
 
  private:
-  std::unique_ptr<Gesture> Begin(PageWork& work);
-  void Click(PageWork& work, bool gestureWasOn);
+  void LeftUp(PageWork& work, const PointerInput& input);
   void RightUp(PageWork& work, const PointerInput& input);
+  void Follow(PageWork& work, const PointerInput& input);
+  // Whether the gesture was no more than a click.
+  bool Finish(PageWork& work, int shift);
 
   std::unique_ptr<Gesture> gesture_;
   PointerInput press_;
   bool pressed_ = false;
+  bool refused_ = false;  // this press begins no gesture
 };
 
 // What the pointer would do here.
