@@ -8,6 +8,7 @@
 
 #include "app/panel_width.h"
 #include "base/text_numbers.h"
+#include "platform/qt_measurer.h"
 #include "platform/text_bridge.h"
 
 namespace kev {
@@ -27,6 +28,7 @@ PageFrame::PageFrame(PageCanvas& canvas, FontCache& fonts, DesignerOptions& opti
                      const LanguageTexts& texts, QWidget* parent)
     : QWidget(parent),
       canvas_(&canvas),
+      fonts_(fonts),
       options_(options),
       corner_(new QWidget(this)),
       rhor_(new Ruler(Qt::Horizontal, canvas, fonts, this)),
@@ -67,7 +69,8 @@ void PageFrame::AddZoomKeys() {
 // --- Rulers
 // -------------------------------------------------------------------------------------------------
 
-void PageFrame::ShowRulers(const RulerPlan& plan, int mode) {
+void PageFrame::ShowRulers(const Document& document, double zoom, int mode) {
+  const RulerPlan plan = PlanRulers(document, zoom, QtMeasurer(fonts_));
   rhor_->setFixedHeight(std::max(1, ToPixels(plan.RowHeight)));
   rverint_->setFixedWidth(std::max(1, ToPixels(plan.ColumnWidth)));
   FitWindow();
