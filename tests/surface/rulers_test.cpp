@@ -244,6 +244,15 @@ TEST_F(RulersTest, MarksBelowAPixelAreLeftOut) {
 // --- Ends
 // -----------------------------------------------------------------------------------------------------
 
+TEST_F(RulersTest, ALastNumberStandsInsideOrNotAtAll) {
+  SetPage(6000, 0);
+  const double width = measurer_.Measure(RulerFont(1), "6K").Width;
+  EXPECT_TRUE(HasLine(Horizontal(1, 1), "text " + FormatNumber(6000 - width) + " 220 6K"));
+  // Beside the number before it there is no room for a whole one.
+  EXPECT_EQ(Labels(Horizontal(3, 0.5)), "0,2 cm,4 cm,6 cm,8 cm");
+  EXPECT_TRUE(HasLine(Horizontal(3, 0.5), "line 2835 50 2835 250"));
+}
+
 TEST_F(RulersTest, ThousandsEndAtThirtyOne) {
   SetPage(33000, 0);
   const RecordingSurface surface = Horizontal(1, 1);
