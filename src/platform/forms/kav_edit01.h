@@ -78,13 +78,13 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   Designer& designer_;
   QtHost& host_;
   PageView page_;
-  PageFrame* frame_ = nullptr;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;
   StatusPanels* status_ = nullptr;
   FindingsDock* findings_ = nullptr;
   ProgressWindow* progress_ = nullptr;
+  PageFrame* frame_ = nullptr;
   bool ended_ = false;
   // The question of a close is open.
   bool closing_ = false;
