@@ -48,7 +48,7 @@ class PageFrame final : public QWidget {
   // Pixels of the panel when the divider's left edge is there.
   int PanelWidthAt(int left) const;
   int PanelWidthFor(int wanted) const;
-  void FollowPointer(const QPointF& global);
+  void FollowPointer(const QPoint& viewportPoint);
 
   QPointer<PageCanvas> canvas_;
   FontCache& fonts_;
