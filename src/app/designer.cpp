@@ -9,9 +9,9 @@
 
 #include "app/image_size.h"
 #include "app/message_texts.h"
+#include "base/text_numbers.h"
 #include "base/files.h"
 #include "base/numbers.h"
-#include "base/text_numbers.h"
 #include "document/sections.h"
 
 namespace kev {
@@ -163,8 +163,7 @@ void Designer::ShowCaption() {
 bool Designer::SetZoom(std::string_view text) {
   const double percent = NumericPrefix(text);
   const double before = zoomPercent_;
-  // What is dragged has its place in the zoom of its beginning.
-  const bool good = percent >= kSmallestZoom && percent <= kLargestZoom && !surface_.Busy();
+  const bool good = percent >= kSmallestZoom && percent <= kLargestZoom;
   const auto show = [this] {
     if (view_ != nullptr) view_->ShowZoom(FormatNumber(zoomPercent_) + "%");
   };

@@ -165,9 +165,8 @@ class Designer {
   }
   // Sets `Modified` and the caption.
   void MarkModified();
-  // A typed or chosen percentage. Below 10 or above 800, while something is dragged, or where the page can't
-  // be painted with it, the old one is put back and the result is false. The one in force is taken without
-  // painting.
+  // A typed or chosen percentage. Below 10 or above 800, or where the page can't be painted with it, the old
+  // one is put back and the result is false. The one in force is taken without painting.
   bool SetZoom(std::string_view text);
   // False when the page can't be painted with it: the old one is put back.
   bool SetFilter(DisplayFilter filter);

@@ -32,6 +32,8 @@ class PageCanvas : public QAbstractScrollArea {
 
   // After the list was filled anew: scroll range, origin and pixels follow it.
   void ShowList();
+  // Canvas units, as the list has it now.
+  double ListHeight() const { return list_.Canvas().height(); }
 
   // The canvas point (0, 0) in pixels of the viewport; rulers beside the page follow it.
   QPointF Origin() const;

@@ -18,6 +18,7 @@ namespace {
 
 constexpr int kEdgeInterval = 30;  // milliseconds
 constexpr int kMostPerStep = 24;   // pixels
+constexpr int kSignKey = 186;
 
 constexpr std::array kKeys = {
     std::pair(Qt::Key_Shift, 16),    std::pair(Qt::Key_Control, 17), std::pair(Qt::Key_Alt, 18),
@@ -42,8 +43,11 @@ int KeyCode(const QKeyEvent& event) {
   for (const auto& [key, code] : kKeys)
     if (event.key() == key) return code;
   if (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F35) return 112 + event.key() - Qt::Key_F1;
-  if (event.key() >= Qt::Key_Space && event.key() <= Qt::Key_AsciiTilde) return event.key();
-  return 0;
+  const bool plain = event.key() == Qt::Key_Space || (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9) ||
+                     (event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z);
+  if (plain) return event.key();
+  // The codes of signs are those of other keys in the system's count: they all count as one sign.
+  return event.text().isEmpty() || !event.text().at(0).isPrint() ? 0 : kSignKey;
 }
 
 int ShiftState(Qt::KeyboardModifiers modifiers) {
@@ -97,6 +101,8 @@ PointerInput PageInput::InputAt(const PagePointer& event) const {
   input.Shift = ShiftState(event.modifiers);
   input.X = event.canvas.x();
   input.Y = event.canvas.y();
+  if (overRuler_ && overRuler_(canvas_.viewport()->mapToGlobal(canvas_.ToViewport(event.canvas).toPoint())))
+    input.Source = PointerSource::Ruler;
   return input;
 }
 
@@ -109,11 +115,13 @@ void PageInput::OnPointer(const PagePointer& event) {
     case PagePointer::Action::Press:
       if (!known) return;
       doubleClicked_ = false;
+      followed_ = canvas_.ListHeight();
       surface.PointerPress(input);
       edgeTimer_.start();
       break;
     case PagePointer::Action::Move:
       surface.PointerMove(input);
+      FollowCanvas();
       break;
     case PagePointer::Action::DoubleClick:
       doubleClicked_ = event.button == Qt::LeftButton;
@@ -136,6 +144,12 @@ void PageInput::Release(const PagePointer& event, const PointerInput& input) {
   }
 }
 
+// A drag may make the page longer.
+void PageInput::FollowCanvas() {
+  const double height = designer_.Surface().Busy() ? canvas_.ListHeight() : 0;
+  if (height != 0 && height != std::exchange(followed_, height)) canvas_.ShowList();
+}
+
 void PageInput::ScrollAtEdge() {
   if (!designer_.Surface().Busy()) return edgeTimer_.stop();
   const QPointF at = canvas_.ToViewport(last_.canvas);
@@ -148,6 +162,7 @@ void PageInput::ScrollAtEdge() {
   last_.canvas = canvas_.ToCanvas(at);
   last_.action = PagePointer::Action::Move;
   designer_.Surface().PointerMove(InputAt(last_));
+  FollowCanvas();
 }
 
 void PageInput::ShowCursor(const PointerInput& input) {

@@ -24,6 +24,9 @@ class PageInput final : public QObject {
   // All outlive it.
   PageInput(Designer& designer, PageCanvas& canvas, UpperLayer& layer, FontCache& fonts);
 
+  // Tells whether a point of the screen lies on the horizontal ruler, which is beside the canvas.
+  void SetRulerTest(std::function<bool(const QPoint&)> overRuler) { overRuler_ = std::move(overRuler); }
+
   void ShowFieldScreen(const FieldScreenLook& look);
   void HideFieldScreen();
   void StartAllowTimer(int milliseconds, std::function<void()> done);
@@ -39,6 +42,7 @@ class PageInput final : public QObject {
   void OnTyped(const QString& text);
   // A character that the template's code page does not hold.
   void TellRefused(const QString& character);
+  void FollowCanvas();
   void ScrollAtEdge();
   void ShowCursor(const PointerInput& input);
   const CodePage& PageOfKeys() const;
@@ -54,6 +58,8 @@ class PageInput final : public QObject {
   QTimer edgeTimer_;
   PagePointer last_;
   bool doubleClicked_ = false;
+  std::function<bool(const QPoint&)> overRuler_;
+  double followed_ = 0;
 };
 
 }  // namespace kev

@@ -34,7 +34,7 @@ constexpr int kStepsToMiddle = 5;
 constexpr double kBase = 50;
 constexpr double kShortTo = 120;
 constexpr double kLabelAt = 220;
-constexpr double kRoomBehindLabel = 30;
+constexpr double kRoomBesideLabel = 30;
 
 constexpr double kBaseLength = 50000;  // canvas units, and the page's length where that is more
 constexpr double kPixel = 15;          // canvas units
@@ -50,12 +50,16 @@ double WholePixels(double units) {
 // One ruler on its surface, whichever way it runs.
 class RulerPainter {
  public:
-  RulerPainter(SurfaceOps& surface, const RulerPlan& plan, int mode, bool vertical)
-      : surface_(surface), plan_(plan), scale_(ScaleOf(mode)), vertical_(vertical) {}
+  RulerPainter(SurfaceOps& surface, const RulerPlan& plan, int mode, const RulerPart* part)
+      : surface_(surface),
+        plan_(plan),
+        scale_(ScaleOf(mode)),
+        vertical_(part != nullptr),
+        length_(part != nullptr ? part->Height : plan.PageWidth * plan.ZoomFactor) {}
 
-  // `length` and `before` (what lies in front of 0) are canvas units.
-  void Ground(double length, double before);
-  void Marks(double length, RulerSpan span);
+  // `before` is what lies in front of 0, canvas units.
+  void Ground(double before);
+  void Marks(RulerSpan span);
 
  private:
   void Line(double along1, double across1, double along2, double across2) {
@@ -63,83 +67,94 @@ class RulerPainter {
     surface_.DrawLine(along1, across1, along2, across2);
   }
   double Pitch() const { return scale_.Step * plan_.ZoomFactor; }
-  std::int64_t LabelEvery(double length);
-  void Mark(std::int64_t step, std::int64_t labelEvery);
+  double LongPitch() const { return Pitch() * kStepsToLong; }
+  double LabelRoom();
+  void Mark(std::int64_t step);
   void Label(double along, std::int64_t count);
 
   SurfaceOps& surface_;
   const RulerPlan& plan_;
   const RulerScale& scale_;
   bool vertical_;
+  double length_;                // canvas units
+  std::int64_t labelEvery_ = 1;  // long marks to a number
 };
 
-void RulerPainter::Ground(double length, double before) {
+void RulerPainter::Ground(double before) {
   const double across = vertical_ ? plan_.ColumnWidth : plan_.RowHeight;
   surface_.ClearCanvas();
   if (vertical_) {
-    surface_.SetCanvasSize(across, length);
+    surface_.SetCanvasSize(across, length_);
     surface_.SetScaleLeft(0);
-    surface_.DrawRectColour(0, 0, across, length, kWhite, true);
+    surface_.DrawRectColour(0, 0, across, length_, kWhite, true);
   } else {
-    surface_.SetCanvasSize(before + length, across);
+    surface_.SetCanvasSize(before + length_, across);
     surface_.SetScaleLeft(-before);
-    surface_.DrawRectColour(-before, 0, length, across, kWhite, true);
+    surface_.DrawRectColour(-before, 0, length_, across, kWhite, true);
   }
   surface_.SetFont(plan_.Font);
   surface_.SetForeground(kBlack);
   surface_.SetPen(kMark, 1, PenStyle::Solid);
-  Line(0, kBase, std::max(kBaseLength, length), kBase);
+  Line(0, kBase, std::max(kBaseLength, length_), kBase);
+}
+
+// What one number takes along the ruler. The 0 of a part stands below its mark and not beside it.
+double RulerPainter::LabelRoom() {
+  if (vertical_) return plan_.LabelHeight * 1.5;
+  const double longest = std::min(length_ / plan_.ZoomFactor, scale_.LastLong);
+  const auto count = static_cast<std::int64_t>(longest / scale_.Step / kStepsToLong);
+  return surface_.TextWidth(std::to_string(count) + std::string(scale_.Unit)) + kPixel;
 }
 
 // How many long marks share one number, so that numbers never touch: 1, 2, 5, 10, 20 and so on.
-std::int64_t RulerPainter::LabelEvery(double length) {
-  double room = plan_.LabelHeight;
-  if (!vertical_) {
-    const double longest = std::min(length / plan_.ZoomFactor, scale_.LastLong);
-    const auto count = static_cast<std::int64_t>(longest / scale_.Step / kStepsToLong);
-    room = surface_.TextWidth(std::to_string(count) + std::string(scale_.Unit)) + kPixel;
-  }
-  const double pitch = Pitch() * kStepsToLong;
+std::int64_t LabelEvery(double pitch, double room) {
   std::int64_t every = 1;
   for (int i = 0; pitch * static_cast<double>(every) < room; ++i)
     every = i % 3 == 1 ? every / 2 * 5 : every * 2;
   return every;
 }
 
-void RulerPainter::Marks(double length, RulerSpan span) {
-  const std::int64_t every = LabelEvery(length);
+void RulerPainter::Marks(RulerSpan span) {
+  labelEvery_ = LabelEvery(LongPitch(), LabelRoom());
   const double pitch = Pitch();
   // A number reaches out of its mark to both sides.
-  const double reach = pitch * kStepsToLong * static_cast<double>(every);
+  const double reach = LongPitch() * static_cast<double>(labelEvery_);
   const double from = std::max(span.From - reach, 0.0);
-  const double to = std::min(span.To + reach, length);
+  const double to = std::min(span.To + reach, length_);
   // Marks less than a pixel apart would only darken the ruler.
   const std::int64_t stride = pitch < kPixel ? kStepsToMiddle : 1;
   auto step = static_cast<std::int64_t>(from / pitch) / stride * stride;
   // The length is a whole number of steps more often than the quotient says.
   const auto last = static_cast<std::int64_t>(to / pitch + 1e-9);
   for (; step <= last; step += stride)
-    Mark(step, every);
+    Mark(step);
 }
 
-void RulerPainter::Mark(std::int64_t step, std::int64_t labelEvery) {
+void RulerPainter::Mark(std::int64_t step) {
   const double place = static_cast<double>(step) * scale_.Step;
   const double along = place * plan_.ZoomFactor;
   const bool isLong = step > 0 && step % kStepsToLong == 0 && place <= scale_.LastLong;
   const bool isMiddle = step % kStepsToLong == kStepsToMiddle && place <= scale_.LastMiddle;
   Line(along, kBase, along, isLong ? scale_.LongTo : isMiddle ? scale_.MiddleTo : kShortTo);
   const std::int64_t count = step / kStepsToLong;
-  if (step == 0 || (isLong && count % labelEvery == 0)) Label(along, count);
+  if (step == 0 || (isLong && count % labelEvery_ == 0)) Label(along, count);
 }
 
-// On a ground of its own, since the long mark goes on below it. The 0 stands inside the ruler.
+// On a ground of its own, since the long mark goes on below it. The first and the last number stand inside
+// the ruler as a whole; a last one that has no room there is left out.
 void RulerPainter::Label(double along, std::int64_t count) {
   const std::string text = count == 0 ? "0" : std::to_string(count) + std::string(scale_.Unit);
   const double width = surface_.TextWidth(text);
-  const double half = count == 0 ? 0 : (vertical_ ? plan_.LabelHeight : width) / 2;
-  const double x = vertical_ ? kLabelAt : along - half;
-  const double y = vertical_ ? along - half : kLabelAt;
-  surface_.DrawRectColour(x, y, x + width, y + plan_.LabelHeight, kWhite, true);
+  const double extent = vertical_ ? plan_.LabelHeight : width;
+  double start = count == 0 ? along : along - extent / 2;
+  if (count > 0 && start + extent > length_) {
+    if (LongPitch() * static_cast<double>(labelEvery_) < extent * 1.5) return;
+    start = length_ - extent;
+  }
+  const double x = vertical_ ? kLabelAt + kRoomBesideLabel : start;
+  const double y = vertical_ ? start : kLabelAt;
+  const double left = vertical_ ? kLabelAt : x;
+  surface_.DrawRectColour(left, y, x + width, y + plan_.LabelHeight, kWhite, true);
   surface_.PrintText(x, y, text);
 }
 
@@ -191,22 +206,22 @@ RulerPlan PlanRulers(const Document& document, double zoom, const TextMeasurer& 
   plan.Parts = PartsOf(document, zoom);
   const TextExtent label = measurer.Measure(plan.Font, WidestLabel(plan.Parts, zoom));
   plan.LabelHeight = label.Height;
-  plan.RowHeight = WholePixels(kLabelAt + label.Height + kRoomBehindLabel);
-  plan.ColumnWidth = WholePixels(kLabelAt + label.Width + kRoomBehindLabel);
+  plan.RowHeight = WholePixels(kLabelAt + label.Height + kRoomBesideLabel);
+  plan.ColumnWidth = WholePixels(kLabelAt + label.Width + 2 * kRoomBesideLabel);
   return plan;
 }
 
 void BuildHorizontalRuler(SurfaceOps& rhor, const RulerPlan& plan, int mode, RulerSpan span) {
-  RulerPainter painter(rhor, plan, mode, false);
-  painter.Ground(plan.PageWidth * plan.ZoomFactor, plan.LeftMargin * plan.ZoomFactor);
-  painter.Marks(plan.PageWidth * plan.ZoomFactor, span);
+  RulerPainter painter(rhor, plan, mode, nullptr);
+  painter.Ground(plan.LeftMargin * plan.ZoomFactor);
+  painter.Marks(span);
 }
 
 void BuildVerticalRuler(SurfaceOps& rver, const RulerPlan& plan, const RulerPart& part, int mode,
                         RulerSpan span) {
-  RulerPainter painter(rver, plan, mode, true);
-  painter.Ground(part.Height, 0);
-  painter.Marks(part.Height, span);
+  RulerPainter painter(rver, plan, mode, &part);
+  painter.Ground(0);
+  painter.Marks(span);
 }
 
 }  // namespace kev

@@ -305,11 +305,6 @@ TEST_F(DisplayListTest, WidgetsGoToTheLayerAboveThePage) {
     void ShowWidget(std::string_view name, bool visible) override {
       told += std::string(name) + (visible ? "+" : "-");
     }
-    SurfaceOps& SurfaceOf(std::string_view) override { return surface; }
-    void SetWidgetText(std::string_view name, std::string_view text) override {
-      told += std::string(name) + std::string(text);
-    }
-    NullSurface surface;
   } layer;
   list_.PlaceWidget("dot_1", 5, 0, 0, 0);
   list_.SetWidgetLayer(&layer);

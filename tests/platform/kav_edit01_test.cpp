@@ -25,10 +25,11 @@
 #include <fstream>
 #include <new>
 
-#include "base/text_numbers.h"
 #include "base/files.h"
+#include "base/text_numbers.h"
 #include "platform/file_dialog.h"
 #include "platform/forms/kavsplash.h"
+#include "platform/forms/page_frame.h"
 #include "platform/print_qt.h"
 #include "platform/qt_measurer.h"
 #include "platform/temp_home.h"
@@ -108,6 +109,11 @@ class KavEdit01Test : public testing::Test {
                       Qt::ControlModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(Page().viewport(), &event);
   }
+  // The place of the page, in twips, that stands at a point of the screen.
+  QPointF OnPage(const QPointF& global) {
+    return Page().ToCanvas(Page().viewport()->mapFromGlobal(global)) / designer->ZoomFactor();
+  }
+  Ruler& RulerNamed(const char* name) { return Find<Ruler>(name); }
   // The splash runs an event loop of its own, so that only a timer reaches it.
   void CloseSplash() {
     QTimer closer;
@@ -185,8 +191,9 @@ TEST_F(KavEdit01Test, EveryControlHasANameAndAnAccessibleName) {
                            "statusselection", "statustext", "findings", "combozoom", "progresswindow"}) {
     EXPECT_NE(window->findChild<QWidget*>(QString::fromLatin1(name)), nullptr) << name;
   }
-  for (const char* name : {"p1", "toolbar1", "vscrollbar", "hscrollbar", "findings", "findingslist",
-                           "combozoom", "findingsbutton"}) {
+  for (const char* name :
+       {"p1", "toolbar1", "vscrollbar", "hscrollbar", "findings", "findingslist", "combozoom",
+        "findingsbutton", "rhor", "rverint", "Picturedivisor", "propertyarea"}) {
     EXPECT_FALSE(Find<QWidget>(name).accessibleName().isEmpty()) << name;
   }
 }
@@ -215,10 +222,10 @@ TEST_F(KavEdit01Test, TheMiddleOfTheViewStaysOverAZoom) {
   Start({home.CopyOf("invoice.kev")});
   TypeZoom(QStringLiteral("200"));
   Find<QScrollBar>("vscrollbar").setValue(700);
-  const QPointF middle = QRectF(Page().viewport()->rect()).center();
-  const QPointF before = Page().ToCanvas(middle) / designer->ZoomFactor();
+  const QPointF middle = Page().viewport()->mapToGlobal(QRectF(Page().viewport()->rect()).center());
+  const QPointF before = OnPage(middle);
   TypeZoom(QStringLiteral("400"));
-  const QPointF after = Page().ToCanvas(middle) / designer->ZoomFactor();
+  const QPointF after = OnPage(middle);
   EXPECT_NEAR(before.x(), after.x(), 15);
   EXPECT_NEAR(before.y(), after.y(), 15);
 }
@@ -228,13 +235,75 @@ TEST_F(KavEdit01Test, TheWheelWithCtrlZoomsAroundThePointer) {
   TypeZoom(QStringLiteral("180"));
   Find<QScrollBar>("vscrollbar").setValue(600);
   const QPoint pointer(200, 150);
-  const QPointF before = Page().ToCanvas(pointer) / designer->ZoomFactor();
+  const QPointF onScreen = Page().viewport()->mapToGlobal(QPointF(pointer));
+  const QPointF before = OnPage(onScreen);
   CtrlWheel(pointer, 1);
   EXPECT_EQ(Zoom().currentText(), QStringLiteral("200%"));
-  const QPointF after = Page().ToCanvas(pointer) / designer->ZoomFactor();
+  const QPointF after = OnPage(onScreen);
   EXPECT_NEAR(before.y(), after.y(), 15);
   CtrlWheel(pointer, -2);
   EXPECT_EQ(Zoom().currentText(), QStringLiteral("150%"));
+}
+
+TEST_F(KavEdit01Test, ATypedPercentSignIsNoHindrance) {
+  Start();
+  TypeZoom(QStringLiteral("133%"));
+  EXPECT_DOUBLE_EQ(designer->ZoomFactor(), 1.33);
+}
+
+TEST_F(KavEdit01Test, KeysWalkTheZoomValues) {
+  Start({home.CopyOf("invoice.kev")});
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  Find<QScrollBar>("vscrollbar").setValue(300);
+  const QPointF middle = Page().viewport()->mapToGlobal(QRectF(Page().viewport()->rect()).center());
+  const QPointF before = OnPage(middle);
+  QTest::keyClick(&Page(), Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("120%"));
+  EXPECT_NEAR(before.y(), OnPage(middle).y(), 15);
+  QTest::keyClick(&Page(), Qt::Key_Equal, Qt::ControlModifier);
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("150%"));
+  QTest::keyClick(&Page(), Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("120%"));
+  QTest::keyClick(&Page(), Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(Zoom().currentText(), QStringLiteral("100%"));
+}
+
+TEST_F(KavEdit01Test, RulersFollowThePageThatIsOpened) {
+  Start();
+  const QImage fresh = RulerNamed("rverint").grab().toImage();
+  EXPECT_TRUE(designer->OpenTemplate(home.CopyOf("invoice.kev")));
+  EXPECT_NE(RulerNamed("rverint").grab().toImage(), fresh);
+  const QImage atFullSize = RulerNamed("rhor").grab().toImage();
+  TypeZoom(QStringLiteral("200"));
+  EXPECT_GT(RulerNamed("rhor").height(), atFullSize.height());
+  TypeZoom(QStringLiteral("100"));
+  EXPECT_EQ(RulerNamed("rhor").grab().toImage(), atFullSize);
+}
+
+TEST_F(KavEdit01Test, TheThirdDoubleClickOnTheRulerComesBackToTwips) {
+  Start();
+  std::vector<QImage> pictures;
+  for (const int mode : {2, 3, 1}) {
+    pictures.push_back(RulerNamed("rhor").grab().toImage());
+    QTest::mouseDClick(&RulerNamed("rhor"), Qt::LeftButton);
+    EXPECT_EQ(designer->Surface().RulerMode(), mode);
+  }
+  EXPECT_NE(pictures[0], pictures[1]);
+  EXPECT_NE(pictures[1], pictures[2]);
+  EXPECT_EQ(RulerNamed("rhor").grab().toImage(), pictures[0]);
+}
+
+TEST_F(KavEdit01Test, ThePanelsWidthIsKeptForTheNextRun) {
+  Start();
+  auto& frame = Find<PageFrame>("pageframe");
+  frame.Properties().SetContent(new QLabel);
+  frame.Properties().ShowArea(true);
+  auto& divider = Find<QWidget>("Picturedivisor");
+  QTest::mousePress(&divider, Qt::LeftButton, Qt::NoModifier, QPoint(2, 50));
+  QTest::mouseRelease(&divider, Qt::LeftButton, Qt::NoModifier, QPoint(2 - 100, 50));
+  EXPECT_TRUE(window->close());
+  EXPECT_NE(ReadWholeFile(home.Path("data/Kev/LASTRV.DAT"))->find("PROPFIXWIDTH=4995"), std::string::npos);
 }
 
 TEST_F(KavEdit01Test, TheZoomMenuAndTheBoxAgree) {

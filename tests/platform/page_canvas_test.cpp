@@ -149,6 +149,28 @@ TEST_F(PageCanvasTest, WheelScrollsAndWithControlAsksForAZoom) {
   EXPECT_EQ(asked, 1);
 }
 
+TEST_F(PageCanvasTest, WheelWithShiftScrollsSideways) {
+  Wheel(-120, Qt::ShiftModifier);
+  const int once = canvas_.horizontalScrollBar()->value();
+  EXPECT_GT(once, 0);
+  EXPECT_LT(once, canvas_.viewport()->width() / 2);
+  EXPECT_EQ(canvas_.verticalScrollBar()->value(), 0);
+  Wheel(120, Qt::ShiftModifier);
+  EXPECT_EQ(canvas_.horizontalScrollBar()->value(), 0);
+}
+
+TEST_F(PageCanvasTest, StepsOfTheScrollBarsFollowTheView) {
+  EXPECT_EQ(canvas_.verticalScrollBar()->pageStep(), canvas_.viewport()->height() * 4 / 10);
+  EXPECT_EQ(canvas_.verticalScrollBar()->singleStep(), canvas_.viewport()->height() * 4 / 100);
+  EXPECT_TRUE(canvas_.verticalScrollBar()->isVisible());
+  list_.SetCanvasSize(1500, 1500);
+  canvas_.ShowList();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(canvas_.verticalScrollBar()->isVisible());
+  EXPECT_FALSE(canvas_.horizontalScrollBar()->isVisible());
+  EXPECT_EQ(canvas_.ToViewport({-300, 0}), canvas_.ToViewport(list_.Canvas().topLeft()));
+}
+
 TEST_F(PageCanvasTest, ArrowKeysAreLeftToThePage) {
   QTest::keyClick(&canvas_, Qt::Key_Down);
   EXPECT_EQ(canvas_.verticalScrollBar()->value(), 0);

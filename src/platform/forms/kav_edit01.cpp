@@ -378,8 +378,7 @@ void KavEdit01::PageShown() {
 }
 
 void KavEdit01::ShowRulers() {
-  frame_->ShowRulers(PlanRulers(designer_.OpenDocument(), designer_.ZoomFactor(), designer_.Measurer()),
-                     designer_.Surface().RulerMode());
+  frame_->ShowRulers(designer_.OpenDocument(), designer_.ZoomFactor(), designer_.Surface().RulerMode());
 }
 
 void KavEdit01::ShowArea(const CanvasArea& area) {

@@ -95,6 +95,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   StatusPanels* status_ = nullptr;
   FindingsDock* findings_ = nullptr;
   ProgressWindow* progress_ = nullptr;
+  PageFrame* frame_ = nullptr;
   bool ended_ = false;
   // The question of a close is open.
   bool closing_ = false;

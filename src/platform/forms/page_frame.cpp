@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/forms/page_frame.h"
 
-#include <QApplication>
 #include <QMouseEvent>
 #include <QShortcut>
 #include <algorithm>
 
 #include "app/panel_width.h"
 #include "base/text_numbers.h"
+#include "platform/qt_measurer.h"
 #include "platform/text_bridge.h"
 
 namespace kev {
@@ -27,6 +27,7 @@ PageFrame::PageFrame(PageCanvas& canvas, FontCache& fonts, DesignerOptions& opti
                      const LanguageTexts& texts, QWidget* parent)
     : QWidget(parent),
       canvas_(&canvas),
+      fonts_(fonts),
       options_(options),
       corner_(new QWidget(this)),
       rhor_(new Ruler(Qt::Horizontal, canvas, fonts, this)),
@@ -46,11 +47,13 @@ PageFrame::PageFrame(PageCanvas& canvas, FontCache& fonts, DesignerOptions& opti
   canvas.setParent(this);
   connect(rhor_, &Ruler::NextModeWanted, this, &PageFrame::NextRulerModeWanted);
   connect(rhor_, &Ruler::Pointer, this, &PageFrame::RulerPointer);
-  connect(properties_, &PropertyArea::Toggled, this, &PageFrame::FitWindow);
+  connect(properties_, &PropertyArea::Toggled, this, [this] {
+    updateGeometry();
+    FitWindow();
+  });
   ConnectDivider();
   AddZoomKeys();
-  // What stands above the page takes the pointer's moves from it.
-  qApp->installEventFilter(this);
+  canvas.viewport()->installEventFilter(this);
 }
 
 void PageFrame::AddZoomKeys() {
@@ -67,7 +70,8 @@ void PageFrame::AddZoomKeys() {
 // --- Rulers
 // -------------------------------------------------------------------------------------------------
 
-void PageFrame::ShowRulers(const RulerPlan& plan, int mode) {
+void PageFrame::ShowRulers(const Document& document, double zoom, int mode) {
+  const RulerPlan plan = PlanRulers(document, zoom, QtMeasurer(fonts_));
   rhor_->setFixedHeight(std::max(1, ToPixels(plan.RowHeight)));
   rverint_->setFixedWidth(std::max(1, ToPixels(plan.ColumnWidth)));
   FitWindow();
@@ -80,21 +84,17 @@ bool PageFrame::IsOverRuler(const QPoint& global) const {
 }
 
 bool PageFrame::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::MouseMove && event->type() != QEvent::Leave) return false;
-  const auto* widget = qobject_cast<QWidget*>(watched);
-  if (widget == nullptr || !canvas_) return false;
-  const QWidget* page = canvas_->viewport();
-  if (widget != page && !page->isAncestorOf(widget)) return false;
-  FollowPointer(event->type() == QEvent::MouseMove ? static_cast<QMouseEvent*>(event)->globalPosition()
-                                                   : QPointF(QCursor::pos()));
+  if (!canvas_ || watched != canvas_->viewport()) return false;
+  if (event->type() == QEvent::MouseMove)
+    FollowPointer(static_cast<QMouseEvent*>(event)->position().toPoint());
+  if (event->type() == QEvent::Leave) FollowPointer({-1, -1});
   return false;
 }
 
-void PageFrame::FollowPointer(const QPointF& global) {
-  const QPoint at = canvas_->viewport()->mapFromGlobal(global).toPoint();
-  const bool inside = canvas_->viewport()->rect().contains(at);
-  rhor_->ShowMarker(inside ? std::optional(at.x()) : std::nullopt);
-  rverint_->ShowMarker(inside ? std::optional(at.y()) : std::nullopt);
+void PageFrame::FollowPointer(const QPoint& viewportPoint) {
+  const bool inside = canvas_->viewport()->rect().contains(viewportPoint);
+  rhor_->ShowMarker(inside ? std::optional(viewportPoint.x()) : std::nullopt);
+  rverint_->ShowMarker(inside ? std::optional(viewportPoint.y()) : std::nullopt);
 }
 
 // --- The panel

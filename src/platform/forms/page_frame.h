@@ -22,7 +22,8 @@ class PageFrame final : public QWidget {
   PageFrame(PageCanvas& canvas, FontCache& fonts, DesignerOptions& options, const LanguageTexts& texts,
             QWidget* parent = nullptr);
 
-  void ShowRulers(const RulerPlan& plan, int mode);
+  // Rulers of the unit `mode` for the document at this zoom, see surface/rulers.h.
+  void ShowRulers(const Document& document, double zoom, int mode);
   PropertyArea& Properties() { return *properties_; }
   // Whether a point of the screen lies on the horizontal ruler.
   bool IsOverRuler(const QPoint& global) const;
@@ -47,9 +48,10 @@ class PageFrame final : public QWidget {
   // Pixels of the panel when the divider's left edge is there.
   int PanelWidthAt(int left) const;
   int PanelWidthFor(int wanted) const;
-  void FollowPointer(const QPointF& global);
+  void FollowPointer(const QPoint& viewportPoint);
 
   QPointer<PageCanvas> canvas_;
+  FontCache& fonts_;
   DesignerOptions& options_;
   QWidget* corner_;
   Ruler* rhor_;
