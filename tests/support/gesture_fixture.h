@@ -51,7 +51,9 @@ class GestureServices final : public PageServices {
 
   std::vector<std::string> Calls;  // "push", "repaint", "bands", "box 766", "field", "hidefield"
   std::vector<Document> Levels;    // the document at each push
-  std::deque<BoxAnswer> Answers;
+  std::deque<BoxAnswer> Answers;   // taken one by one; Ok when there are none left
+  std::vector<BoxIcon> Icons;      // of the boxes shown
+  std::vector<BoxButtons> Buttons;
   std::vector<FieldScreenLook> Fields;
   int CommandChanges = 0;
   bool GestureOnWhileRepainting = false;
@@ -98,9 +100,6 @@ class GestureServices final : public PageServices {
   void HideFieldScreen() override { Calls.emplace_back("hidefield"); }
   void StartAllowTimer(int, std::function<void()>) override {}
   void RunPendingTool() override {}
-
-  std::vector<BoxIcon> Icons;
-  std::vector<BoxButtons> Buttons;
 
  private:
   void Repaint() {
