@@ -3,23 +3,11 @@
 
 #include <utility>
 
+#include "surface/resize_drag.h"
 #include "surface/selection.h"
 
 namespace kev {
 namespace {
-
-bool SizesBothWays(ObjectKind kind) {
-  switch (kind) {
-    case ObjectKind::Picture:
-    case ObjectKind::Box:
-    case ObjectKind::Line:
-    case ObjectKind::Circle:
-    case ObjectKind::Chart:
-      return true;
-    default:
-      return false;
-  }
-}
 
 ObjectKind KindOf(const PageWork& work, int row) {
   return std::as_const(work.document).Objects[row].Kind;
@@ -64,19 +52,7 @@ bool InsideCurrentBox(const PageWork& work, CanvasPoint at) {
 
 bool HandleActs(const PageWork& work, int handle) {
   const Document& document = work.document;
-  const ObjectRecord& record = document.Objects[document.Objects.CurrentObject];
-  if (work.pointer.MultiSelected || record.Kind == ObjectKind::None || record.MayResize != kTrue)
-    return false;
-  switch (handle) {
-    case 4:
-      return true;
-    case 5:
-      return SizesBothWays(record.Kind);
-    case 6:
-      return record.Kind != ObjectKind::Label;
-    default:
-      return false;
-  }
+  return !work.pointer.MultiSelected && HandleActs(document.Objects[document.Objects.CurrentObject], handle);
 }
 
 PointerSource SourceOf(const PageWork& work, const PointerInput& input) {

@@ -147,6 +147,7 @@ void KavEdit01::BuildPage(FontCache& fonts) {
 }
 
 void KavEdit01::ConnectPageFrame() {
+  input_.SetRulerTest([this](const QPoint& global) { return frame_->IsOverRuler(global); });
   connect(frame_, &PageFrame::NextRulerModeWanted, this, [this] { designer_.Surface().NextRulerMode(); });
   connect(frame_, &PageFrame::ZoomStepWanted, this,
           [this](int steps) { OnZoomWheel(steps, QRectF(page_.Canvas().viewport()->rect()).center()); });

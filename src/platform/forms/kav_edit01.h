@@ -87,7 +87,6 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   QtHost& host_;
   PageView page_;
   PageInput input_;
-  PageFrame* frame_ = nullptr;
   PanelPlace* panel_ = nullptr;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
