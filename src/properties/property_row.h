@@ -26,14 +26,14 @@ enum class EditorKind : std::uint8_t {
 enum class SheetAction : std::uint8_t { None, SubsectionDialog, ChartWizard };
 
 struct PropertyRow {
-  std::string Caption;
+  std::string Caption = {};
   EditorKind Editor = EditorKind::Text;
-  std::string Value;
+  std::string Value = {};
   // What stands behind the value in the marker text: the items, bounds or files, each with a "|" in front and
   // some with one more at the end.
-  std::string Tail;
-  std::vector<std::string> Items;  // of both lists
-  int Description = 0;             // number of the text under the grid; see DescriptionOf
+  std::string Tail = {};
+  std::vector<std::string> Items = {};  // of both lists
+  int Description = 0;                  // number of the text under the grid; see DescriptionOf
   SheetAction Action = SheetAction::None;
   bool Enabled = true;
 
