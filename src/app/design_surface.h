@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "app/commands.h"
 #include "app/recovery.h"
@@ -50,6 +51,8 @@ class DesignSurface final : public PageServices {
   // The page was zoomed: places of the pointer follow.
   void ZoomChanged(double before);
   void FilterChanged();
+  // The tables were put back as they were then.
+  void PutBackLevels(UndoStore levels) noexcept { undo_ = std::move(levels); }
   // Paints the page. Painting may store measured sizes in rows.
   void Redraw();
 
@@ -83,6 +86,9 @@ class DesignSurface final : public PageServices {
   void RunPendingTool() override;
 
  private:
+  // Sets Modified, writes the recovery file and then the caption.
+  void Protect();
+  void WriteRecovery();
   void DoUndo();
   void DoRedo();
   // Behind another level: no selection, everything shown anew.
@@ -97,6 +103,8 @@ class DesignSurface final : public PageServices {
   PaintResult painted_;
   double canvasWidth_ = 0, canvasHeight_ = 0;
   bool drawGrid_ = false;
+  // Recovery can't be written, and the user knows.
+  bool recoveryFailed_ = false;
 };
 
 }  // namespace kev

@@ -33,6 +33,8 @@
 
 namespace kev {
 
+struct RecoverDialog;
+
 // In the order of the list. Any other number may be typed.
 inline constexpr auto kZoomList =
     std::to_array<std::string_view>({"25%", "50%", "75%", "80%", "100%", "120%", "150%", "180%", "200%"});
@@ -69,6 +71,8 @@ class DesignerView {
   virtual void ShowFieldScreen(const FieldScreenLook&) {}
   virtual void HideFieldScreen() {}
   virtual void StartAllowTimer(int, std::function<void()>) {}
+  // The form of what earlier runs left behind; returns when it has closed. Before the first document.
+  virtual void ShowRecoverDialog(RecoverDialog&) {}
 };
 
 // What a process gives to its designer.
@@ -154,6 +158,9 @@ class Designer {
   }
   // Sets `Modified` and the caption.
   void MarkModified();
+  // The two halves of it, where something has to happen between them.
+  void SetModified() { modified_ = true; }
+  void ShowCaption();
   // A typed or chosen percentage. Below 10 or above 800, or where the page can't be painted with it, the old
   // one is put back and the result is false. The one in force is taken without painting.
   bool SetZoom(std::string_view text);
@@ -231,6 +238,13 @@ class Designer {
     Designer& designer_;
   };
 
+  // Whether a document that an earlier run left stands now.
+  bool OfferRecovered();
+  std::optional<std::string> PlaceForRecovered(const std::string& title);
+  bool CopyRecovered(const std::string& recovered, const std::string& place);
+  bool OpenFromCache(RecoverDialog& dialog);
+  // Behind a save: what is in the file needs no recovery.
+  void EndRecovery(const std::string& savedTo);
   void DecideTemplate();
   void TellMissingFolders();
   void TellUnknownSettings();
@@ -243,7 +257,7 @@ class Designer {
   void Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept;
   void ShowAdopted(std::vector<Finding> findings);
   bool SaveTo(const std::string& path);
-  std::optional<std::string> ChooseTarget();
+  std::optional<std::string> ChooseTarget(FileChoice choice);
   std::string SampleDataPath() const;
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
@@ -252,7 +266,6 @@ class Designer {
   void PutBack(Kept kept) noexcept;
   void TellFailure(const GuardedWork& work, const std::string& reason);
   void SetFindings(std::vector<Finding> findings);
-  void ShowCaption();
   ReadServices Services(ReadProgress* progress);
 
   Host& host_;
@@ -272,6 +285,8 @@ class Designer {
   SampleCopy samples_;
   std::string documentPath_;
   std::string documentTitle_{kFreshTitle};
+  // The file of an earlier run that was opened where it lay.
+  Recovery opened_;
   std::vector<Finding> findings_;
   // Pictures that came while something else was under way, and whether they are there.
   std::vector<std::pair<std::string, bool>> arrivals_;

@@ -5,8 +5,8 @@
 
 #include "app/designer.h"
 #include "app/message_texts.h"
-#include "base/text_numbers.h"
 #include "base/files.h"
+#include "base/text_numbers.h"
 
 namespace kev {
 namespace {
@@ -75,7 +75,7 @@ void Designer::SplashLoad() {
 void Designer::AfterSplash() {
   TellMissingFolders();
   TellUnknownSettings();
-  DecideTemplate();
+  if (!OfferRecovered()) DecideTemplate();
 }
 
 void Designer::TellMissingFolders() {
@@ -98,11 +98,19 @@ void Designer::DecideTemplate() {
 }
 
 void Designer::ShutDown() {
+  // The user was asked: nothing is left to recover.
+  modified_ = false;
   if (const auto failure = ShutDownSilently())
     ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
 }
 
 std::optional<FileFailure> Designer::ShutDownSilently() {
+  if (modified_) {
+    surface_.TheRecovery().LeaveBehind();
+  } else {
+    surface_.TheRecovery().Delete();
+  }
+  opened_.LeaveBehind();
   std::optional<FileFailure> failure = WriteLastRunOptions();
   DeleteSampleCopies(folders_.DataFolder);
   samples_.Delete();

@@ -92,9 +92,7 @@ class PlainStore {
 
 class Undo : public testing::Test {
  protected:
-  Undo() {
-    row_ = AddLabel(document_, "100", 500, Mark(0));
-  }
+  Undo() { row_ = AddLabel(document_, "100", 500, Mark(0)); }
 
   void Edit() {
     store_.Push(document_);
