@@ -495,4 +495,8 @@ inline constexpr int kTextScrollVertical = 1268;
 inline constexpr int kTextScrollHorizontal = 1269;
 inline constexpr int kTextTools = 1270;
 
+// Columns of `File1` in Recover_form
+inline constexpr int kTextRecoverTemplate = 1271;
+inline constexpr int kTextRecoverLastChange = 1272;
+
 }  // namespace kev

@@ -29,6 +29,7 @@
 #include "platform/forms/kavsplash.h"
 #include "platform/forms/language_menu.h"
 #include "platform/forms/progress_window.h"
+#include "platform/forms/recover_form.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/zoom_box.h"
 #include "platform/forms/zoom_menu.h"
@@ -350,6 +351,11 @@ void KavEdit01::ShowZoom(std::string_view text) {
 void KavEdit01::FindingsChanged() {
   findings_->Show(designer_.Findings(), *designer_.OpenDocument().Page);
   status_->ShowFindingCount(static_cast<int>(designer_.Findings().size()));
+}
+
+void KavEdit01::ShowRecoverDialog(RecoverDialog& dialog) {
+  Recover_form form(dialog, host_, designer_.Texts(), this);
+  form.exec();
 }
 
 }  // namespace kev

@@ -41,6 +41,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowArea(const CanvasArea& area) override;
   void ShowZoom(std::string_view text) override;
   void FindingsChanged() override;
+  void ShowRecoverDialog(RecoverDialog& dialog) override;
 
  Q_SIGNALS:
   // A finding's object was chosen in the list.
