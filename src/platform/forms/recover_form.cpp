@@ -24,6 +24,8 @@ constexpr QSize kFirstSize(600, 400);
 constexpr int kIconSize = 48;
 constexpr int kMargin = 18;
 constexpr int kRowHeight = 30;
+constexpr int kButtonHeight = 32;
+constexpr int kButtonMargin = 28;
 
 enum ListColumn { kTemplate, kLastChange, kColumns };
 
@@ -32,10 +34,14 @@ constexpr const char* kSheet = R"(
 #recoverhead { background: #ffffff; border-bottom: 1px solid #e3e6ea; }
 #recoverhead QLabel { background: transparent; }
 #File1 { border: 1px solid #cfd5dc; border-radius: 6px; background: #ffffff; }
-#recover { background: #1b6ac9; color: #ffffff; border: 1px solid #1658a8; border-radius: 4px; padding: 7px 18px; }
+#File1::item { padding: 0 6px; }
+#File1::item:selected { background: #1b6ac9; color: #ffffff; }
+#File1 QHeaderView::section { background: #ffffff; color: #6e7781; padding: 6px 8px; border: none;
+                              border-bottom: 1px solid #e3e6ea; }
+#recover { background: #1b6ac9; color: #ffffff; border: 1px solid #1658a8; border-radius: 4px; }
 #recover:hover { background: #2a78d6; }
 #recover:pressed { background: #1658a8; }
-#recover:focus { border: 2px solid #123a6f; padding: 6px 17px; }
+#recover:focus { border: 2px solid #123a6f; }
 )";
 
 QString LastChange(const std::string& path) {
@@ -63,6 +69,8 @@ QPushButton* Recover_form::NewButton(const char* name, const QString& caption) {
   auto* button = new QPushButton(caption, this);
   button->setObjectName(QString::fromLatin1(name));
   button->setAccessibleName(caption);
+  button->setMinimumHeight(kButtonHeight);
+  button->setMinimumWidth(button->fontMetrics().horizontalAdvance(caption) + kButtonMargin);
   return button;
 }
 
