@@ -50,7 +50,10 @@ FileFailure FailureOfSystem(std::string path, int error) {
 }
 
 Descriptor HoldFile(const std::string& path) {
-  Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
+  constexpr int kFlags = O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW;
+  // A network's file system locks only what may be written.
+  Descriptor file(::open(path.c_str(), O_RDWR | kFlags));
+  if (!file) file = Descriptor(::open(path.c_str(), O_RDONLY | kFlags));
   if (!file || ::flock(file.Number(), LOCK_EX | LOCK_NB) != 0) return {};
   return file;
 }

@@ -111,7 +111,7 @@ void Recover_form::BuildControls(const LanguageTexts& texts) {
   deleteFrame_ = NewFrame("deleteframe", delete_);
 }
 
-void Recover_form::LayOut(const QString& instruction) {
+QFrame* Recover_form::NewHead(const QString& instruction) {
   auto* head = new QFrame(this);
   head->setObjectName(QStringLiteral("recoverhead"));
   auto* icon = new QLabel(head);
@@ -124,7 +124,10 @@ void Recover_form::LayOut(const QString& instruction) {
   headRow->setSpacing(kMargin);
   headRow->addWidget(icon);
   headRow->addWidget(text, 1);
+  return head;
+}
 
+void Recover_form::LayOut(const QString& instruction) {
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(recoverFrame_);
   buttons->addWidget(deleteFrame_);
@@ -141,7 +144,7 @@ void Recover_form::LayOut(const QString& instruction) {
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(0, 0, 0, 0);
   all->setSpacing(0);
-  all->addWidget(head);
+  all->addWidget(NewHead(instruction));
   all->addLayout(body, 1);
 }
 

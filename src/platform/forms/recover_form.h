@@ -22,6 +22,7 @@ class Recover_form final : public QDialog {
  private:
   void BuildControls(const LanguageTexts& texts);
   void LayOut(const QString& instruction);
+  QFrame* NewHead(const QString& instruction);
   void Connect(Host& host, const LanguageTexts& texts);
   QPushButton* NewButton(const char* name, const QString& caption);
   QFrame* NewFrame(const char* name, QPushButton* button);
