@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -26,6 +27,14 @@ int OpenNew(const std::string& folder, std::string& temporary) {
   // What an earlier process of the same number left.
   ::unlink(temporary.c_str());
   return ::open(temporary.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly);
+}
+
+// Between opening a file and locking it, its holder may have put another in its place, or deleted it.
+bool LockAsNamed(const Descriptor& file, const std::string& path, int kind) {
+  struct stat opened {};
+  struct stat named {};
+  return file && ::flock(file.Number(), kind | LOCK_NB) == 0 && ::fstat(file.Number(), &opened) == 0 &&
+         ::lstat(path.c_str(), &named) == 0 && opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
 }  // namespace
@@ -54,14 +63,14 @@ Descriptor HoldFile(const std::string& path) {
   // A network's file system locks only what may be written.
   Descriptor file(::open(path.c_str(), O_RDWR | kFlags));
   if (!file) file = Descriptor(::open(path.c_str(), O_RDONLY | kFlags));
-  if (!file || ::flock(file.Number(), LOCK_EX | LOCK_NB) != 0) return {};
+  if (!LockAsNamed(file, path, LOCK_EX)) return {};
   return file;
 }
 
 // Shared, so that two who only ask do not take each other for holders.
 bool IsHeld(const std::string& path) {
   const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
-  return !file || ::flock(file.Number(), LOCK_SH | LOCK_NB) != 0;
+  return !LockAsNamed(file, path, LOCK_SH);
 }
 
 Result<NewHeldFile> NewHeldFile::Write(const std::string& folder, std::string_view bytes) {

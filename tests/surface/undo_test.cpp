@@ -365,7 +365,7 @@ TEST_F(Undo, EqualRowsLieInMemoryOnce) {
 
 // Two hundred random presses and edits, in several seeds, against the plain array.
 TEST(UndoStepping, RandomCommandsDoWhatAPlainArrayDoes) {
-  for (unsigned seed = 1; seed <= 20; ++seed) {
+  for (unsigned seed = 1; seed <= 8; ++seed) {
     std::mt19937 random(seed);
     const auto below = [&](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
     Document document;
