@@ -252,8 +252,8 @@ class Designer {
   void RefuseMissing(const std::string& path, OpenedFrom from);
   void TellReadFailure(const std::string& path, const std::string& reason);
   bool Refuse(const std::string& path, std::string_view bytes);
-  // Reads and adopts; an empty path makes a fresh document.
-  bool ReadAndAdopt(const std::string& path, std::string_view bytes);
+  // Reads and adopts; an empty path makes a document without a file, under this title.
+  bool ReadAndAdopt(const std::string& path, std::string_view bytes, std::string_view title = kFreshTitle);
   void Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept;
   void ShowAdopted(std::vector<Finding> findings);
   bool SaveTo(const std::string& path);

@@ -49,9 +49,8 @@ bool Designer::OpenFromCache(RecoverDialog& dialog) {
     TellReadFailure(dialog.RecoveredTarget, bytes.Error().reason);
     return false;
   }
-  if (Refuse(dialog.RecoveredTarget, *bytes) || !ReadAndAdopt({}, *bytes)) return false;
+  if (Refuse(dialog.RecoveredTarget, *bytes) || !ReadAndAdopt({}, *bytes, dialog.DocumentTitle)) return false;
   opened_ = std::move(dialog.Held);
-  documentTitle_ = dialog.DocumentTitle;
   MarkModified();
   return true;
 }

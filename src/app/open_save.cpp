@@ -102,7 +102,7 @@ bool Designer::Refuse(const std::string& path, std::string_view bytes) {
   return true;
 }
 
-bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes) {
+bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std::string_view title) {
   // A picture of the new document may be there before its record is.
   const HeldArrivals held(*this);
   pictures_.SetTemplateFolder(path.empty() ? folders_.TempFolder : FolderOf(path));
@@ -116,7 +116,7 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes) {
     progress.End();
     if (!outcome) return TellReadFailure(path, outcome.Error().reason);
     findings.swap(outcome->Findings);
-    Adopt(std::move(*outcome), path, path.empty() ? std::string(kFreshTitle) : FileNameOf(path));
+    Adopt(std::move(*outcome), path, path.empty() ? std::string(title) : FileNameOf(path));
     adopted = true;
   };
   GuardedView({kTextReadFailed, path}, read, {});
