@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "app/commands.h"
 #include "app/recovery.h"
@@ -53,6 +54,8 @@ class DesignSurface final : public PageServices {
   // The page was zoomed: places of the pointer follow.
   void ZoomChanged(double before);
   void FilterChanged();
+  // The tables were put back as they were then.
+  void PutBackLevels(UndoStore levels) noexcept { undo_ = std::move(levels); }
   // Paints the page. Painting may store measured sizes in rows.
   void Redraw();
 
@@ -93,6 +96,9 @@ class DesignSurface final : public PageServices {
  private:
   // For a bar, or for a new one where the row is 0. Until the dialog is closed.
   void OpenSubsection(int row);
+  // Sets Modified, writes the recovery file and then the caption.
+  void Protect();
+  void WriteRecovery();
   void DoUndo();
   void DoRedo();
   // Behind another level: no selection, everything shown anew.
@@ -108,6 +114,8 @@ class DesignSurface final : public PageServices {
   double canvasWidth_ = 0, canvasHeight_ = 0;
   bool drawGrid_ = false;
   int rulerMode_ = kFirstRulerMode;
+  // Recovery can't be written, and the user knows.
+  bool recoveryFailed_ = false;
 };
 
 }  // namespace kev

@@ -9,9 +9,9 @@
 
 #include "app/image_size.h"
 #include "app/message_texts.h"
-#include "base/text_numbers.h"
 #include "base/files.h"
 #include "base/numbers.h"
+#include "base/text_numbers.h"
 #include "document/sections.h"
 
 namespace kev {
@@ -40,8 +40,9 @@ std::optional<std::string> FailureOf(const std::function<void()>& work) {
 }  // namespace
 
 struct Designer::Kept {
-  explicit Kept(const Document& document)
-      : count(document.Objects.ObjectCount),
+  Kept(const Document& document, UndoStore levels)
+      : undo(std::move(levels)),
+        count(document.Objects.ObjectCount),
         current(document.Objects.CurrentObject),
         focus(document.Objects.FocusObject),
         selected(document.Objects.SelectionCount),
@@ -51,6 +52,7 @@ struct Designer::Kept {
       rows.push_back(document.Objects[row]);
   }
 
+  UndoStore undo;
   int count, current, focus, selected;
   std::vector<ObjectRecord> rows;
   ColumnTable columns;
@@ -100,7 +102,7 @@ bool Designer::Guarded(const GuardedWork& work, const std::function<void()>& bod
   const HeldArrivals held(*this);
   std::optional<Kept> kept;
   const std::optional<std::string> failure = FailureOf([&] {
-    kept.emplace(document_);
+    kept.emplace(document_, surface_.Undo());
     body();
   });
   if (!failure) return true;
@@ -132,6 +134,7 @@ void Designer::PutBack(Kept kept) noexcept {
   objects.SelectionCount = kept.selected;
   document_.Columns = std::move(kept.columns);
   document_.Settings = std::move(kept.settings);
+  surface_.PutBackLevels(std::move(kept.undo));
 }
 
 void Designer::TellFailure(const GuardedWork& work, const std::string& reason) {

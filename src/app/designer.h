@@ -35,6 +35,7 @@
 namespace kev {
 
 struct SubsectionDialog;
+struct RecoverDialog;
 
 // In the order of the list. Any other number may be typed.
 inline constexpr auto kZoomList =
@@ -80,6 +81,8 @@ class DesignerView {
   virtual void FocusPanel() {}
   // A cell that is open is told as edited before this returns.
   virtual void CommitOpenCell() {}
+  // The form of what earlier runs left behind; returns when it has closed. Before the first document.
+  virtual void ShowRecoverDialog(RecoverDialog&) {}
 };
 
 // What a process gives to its designer.
@@ -165,6 +168,9 @@ class Designer {
   }
   // Sets `Modified` and the caption.
   void MarkModified();
+  // The two halves of it, where something has to happen between them.
+  void SetModified() { modified_ = true; }
+  void ShowCaption();
   // A typed or chosen percentage. Below 10 or above 800, or where the page can't be painted with it, the old
   // one is put back and the result is false. The one in force is taken without painting.
   bool SetZoom(std::string_view text);
@@ -245,6 +251,13 @@ class Designer {
     Designer& designer_;
   };
 
+  // Whether a document that an earlier run left stands now.
+  bool OfferRecovered();
+  std::optional<std::string> PlaceForRecovered(const std::string& title);
+  bool CopyRecovered(const std::string& recovered, const std::string& place);
+  bool OpenFromCache(RecoverDialog& dialog);
+  // Behind a save: what is in the file needs no recovery.
+  void EndRecovery(const std::string& savedTo);
   void DecideTemplate();
   void TellMissingFolders();
   void TellUnknownSettings();
@@ -252,12 +265,14 @@ class Designer {
   void RefuseMissing(const std::string& path, OpenedFrom from);
   void TellReadFailure(const std::string& path, const std::string& reason);
   bool Refuse(const std::string& path, std::string_view bytes);
-  // Reads and adopts; an empty path makes a fresh document.
-  bool ReadAndAdopt(const std::string& path, std::string_view bytes);
+  // Reads and adopts; an empty path makes a document without a file, under this title.
+  bool ReadAndAdopt(const std::string& path, std::string_view bytes, std::string_view title = kFreshTitle);
   void Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept;
   void ShowAdopted(std::vector<Finding> findings);
   bool SaveTo(const std::string& path);
   std::optional<std::string> ChooseTarget();
+  std::optional<std::string> ChooseTarget(FileChoice choice);
+  std::string SampleDataPath() const;
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);
@@ -265,7 +280,6 @@ class Designer {
   void PutBack(Kept kept) noexcept;
   void TellFailure(const GuardedWork& work, const std::string& reason);
   void SetFindings(std::vector<Finding> findings);
-  void ShowCaption();
   ReadServices Services(ReadProgress* progress);
 
   Host& host_;
@@ -285,6 +299,8 @@ class Designer {
   SampleCopy samples_;
   std::string documentPath_;
   std::string documentTitle_{kFreshTitle};
+  // The file of an earlier run that was opened where it lay.
+  Recovery opened_;
   std::vector<Finding> findings_;
   // Pictures that came while something else was under way, and whether they are there.
   std::vector<std::pair<std::string, bool>> arrivals_;

@@ -102,7 +102,7 @@ bool Designer::Refuse(const std::string& path, std::string_view bytes) {
   return true;
 }
 
-bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes) {
+bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std::string_view title) {
   // A picture of the new document may be there before its record is.
   const HeldArrivals held(*this);
   pictures_.SetTemplateFolder(path.empty() ? folders_.TempFolder : FolderOf(path));
@@ -116,11 +116,13 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes) {
     progress.End();
     if (!outcome) return TellReadFailure(path, outcome.Error().reason);
     findings.swap(outcome->Findings);
-    Adopt(std::move(*outcome), path, path.empty() ? std::string(kFreshTitle) : FileNameOf(path));
+    Adopt(std::move(*outcome), path, path.empty() ? std::string(title) : FileNameOf(path));
     adopted = true;
   };
   GuardedView({kTextReadFailed, path}, read, {});
   if (adopted) {
+    surface_.TheRecovery().Delete();
+    opened_.LeaveBehind();
     GuardedView([&] { ShowAdopted(std::move(findings)); });
   } else {
     pictures_.SetTemplateFolder(TemplateFolder());
@@ -192,21 +194,22 @@ bool Designer::Save() {
 }
 
 bool Designer::SaveAs() {
-  const std::optional<std::string> target = ChooseTarget();
-  return target && SaveTo(*target);
-}
-
-// The chooser asks before it lets a file be replaced, so a name that only becomes one of an existing file by
-// its ending is chosen once more.
-std::optional<std::string> Designer::ChooseTarget() {
   FileChoice choice;
   choice.Title = Text(kTextMenuSaveAs);
   choice.Folder = documentPath_.empty() ? std::string() : FolderOf(documentPath_);
   choice.SuggestedName = documentTitle_;
   choice.Filters = {{Text(kTextFilesPlain), "*.kev *.KEV"}, {Text(kTextFilesAll), "*"}};
+  const std::optional<std::string> target = ChooseTarget(std::move(choice));
+  return target && SaveTo(*target);
+}
+
+// The chooser asks before it lets a file be replaced, so a name that only becomes one of an existing file by
+// its ending is chosen once more.
+std::optional<std::string> Designer::ChooseTarget(FileChoice choice) {
   while (true) {
     const std::optional<std::string> chosen = host_.ChooseFileToSave(choice);
-    if (!chosen || chosen->empty()) return std::nullopt;
+    // The pattern itself comes back from a chooser in which nothing was typed.
+    if (!chosen || chosen->empty() || FileNameOf(*chosen) == "*.kev") return std::nullopt;
     const std::string path = AbsolutePath(*chosen);
     if (IsTemplateName(path)) return path;
     const std::string named = path + std::string(kExtension);
@@ -247,6 +250,7 @@ bool Designer::SaveTo(const std::string& path) {
   documentPath_ = path;
   documentTitle_ = FileNameOf(path);
   modified_ = false;
+  EndRecovery(path);
   pictures_.SetTemplateFolder(FolderOf(path));
   ShowCaption();
   host_.ShowStatus("");

@@ -76,7 +76,7 @@ void Designer::AfterSplash() {
   sheets_.Start();
   TellMissingFolders();
   TellUnknownSettings();
-  DecideTemplate();
+  if (!OfferRecovered()) DecideTemplate();
 }
 
 void Designer::TellMissingFolders() {
@@ -99,11 +99,19 @@ void Designer::DecideTemplate() {
 }
 
 void Designer::ShutDown() {
+  // The user was asked: nothing is left to recover.
+  modified_ = false;
   if (const auto failure = ShutDownSilently())
     ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
 }
 
 std::optional<FileFailure> Designer::ShutDownSilently() {
+  if (modified_) {
+    surface_.TheRecovery().LeaveBehind();
+  } else {
+    surface_.TheRecovery().Delete();
+  }
+  opened_.LeaveBehind();
   std::optional<FileFailure> failure = WriteLastRunOptions();
   DeleteSampleCopies(folders_.DataFolder);
   samples_.Delete();

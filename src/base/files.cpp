@@ -15,6 +15,7 @@
 #include <thread>
 
 #include "base/code_page.h"
+#include "base/descriptor.h"
 #include "base/reasons.h"
 #include "base/text.h"
 
@@ -24,38 +25,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kMostTemporaries = 10000;
-
-FileFailure Failure(std::string path, int error) {
-  return {std::move(path), std::error_code(error, std::generic_category()).message()};
-}
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  ~Descriptor() { Close(); }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-
-  int Number() const { return number_; }
-  // Closing can be the moment when a full disk shows.
-  int Close() {
-    const int number = std::exchange(number_, -1);
-    return number < 0 ? 0 : ::close(number);
-  }
-
- private:
-  int number_;
-};
-
-int WriteAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return errno;
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return 0;
-}
 
 // The permissions of the file that is replaced, or what the process gives to a new file.
 mode_t ModeFor(const std::string& path) {
@@ -100,16 +69,16 @@ std::optional<fs::path> FindIgnoringCase(const fs::path& folder, const std::stri
 
 Result<std::string> ReadFrom(const Descriptor& file, const std::string& path) {
   struct stat status {};
-  if (::fstat(file.Number(), &status) != 0) return Failure(path, errno);
-  if (S_ISDIR(status.st_mode)) return Failure(path, EISDIR);
+  if (::fstat(file.Number(), &status) != 0) return FailureOfSystem(path, errno);
+  if (S_ISDIR(status.st_mode)) return FailureOfSystem(path, EISDIR);
   if (!S_ISREG(status.st_mode)) return FileFailure{path, kReasonNotRegularFile};
-  if (static_cast<std::size_t>(status.st_size) > kLargestFile) return Failure(path, EFBIG);
+  if (static_cast<std::size_t>(status.st_size) > kLargestFile) return FailureOfSystem(path, EFBIG);
   std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
   std::size_t have = 0;
   while (have < bytes.size()) {
     const ssize_t got = ::read(file.Number(), bytes.data() + have, bytes.size() - have);
     if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return Failure(path, errno);
+    if (got < 0) return FailureOfSystem(path, errno);
     if (got == 0) break;
     have += static_cast<std::size_t>(got);
   }
@@ -133,22 +102,23 @@ int Lock(const Descriptor& file) {
 
 Result<std::string> ReadWholeFile(const std::string& path) {
   const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (file.Number() < 0) return Failure(path, errno);
+  if (file.Number() < 0) return FailureOfSystem(path, errno);
   return ReadFrom(file, path);
 }
 
 std::optional<FileFailure> RewriteLocked(const std::string& path,
                                          const std::function<std::string(std::string_view)>& change) {
   Descriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666));
-  if (file.Number() < 0) return Failure(path, errno);
-  if (const int error = Lock(file)) return Failure(path, error);
+  if (file.Number() < 0) return FailureOfSystem(path, errno);
+  if (const int error = Lock(file)) return FailureOfSystem(path, error);
   const Result<std::string> bytes = ReadFrom(file, path);
   if (!bytes) return bytes.Error();
   const std::string changed = change(*bytes);
-  if (::lseek(file.Number(), 0, SEEK_SET) != 0) return Failure(path, errno);
-  if (const int error = WriteAll(file.Number(), changed)) return Failure(path, error);
-  if (::ftruncate(file.Number(), static_cast<off_t>(changed.size())) != 0) return Failure(path, errno);
-  if (file.Close() != 0) return Failure(path, errno);
+  if (::lseek(file.Number(), 0, SEEK_SET) != 0) return FailureOfSystem(path, errno);
+  if (const int error = WriteAll(file.Number(), changed)) return FailureOfSystem(path, error);
+  if (::ftruncate(file.Number(), static_cast<off_t>(changed.size())) != 0)
+    return FailureOfSystem(path, errno);
+  if (file.Close() != 0) return FailureOfSystem(path, errno);
   return std::nullopt;
 }
 
@@ -157,23 +127,23 @@ std::optional<FileFailure> WriteWholeFile(const std::string& path, std::string_v
   std::error_code ignored;
   const fs::path real = fs::is_symlink(path, ignored) ? fs::weakly_canonical(path, ignored) : fs::path(path);
   const std::string target = real.empty() ? path : real.string();
-  if (FolderExists(target)) return Failure(path, EISDIR);
-  if (FileExists(target) && ::access(target.c_str(), W_OK) != 0) return Failure(path, errno);
+  if (FolderExists(target)) return FailureOfSystem(path, EISDIR);
+  if (FileExists(target) && ::access(target.c_str(), W_OK) != 0) return FailureOfSystem(path, errno);
   std::string temporary;
   Descriptor file(OpenBeside(fs::path(target).parent_path(), temporary));
-  if (file.Number() < 0) return Failure(path, errno);
+  if (file.Number() < 0) return FailureOfSystem(path, errno);
   int error = WriteAndClose(file, bytes, ModeFor(target));
   if (error == 0 && ::rename(temporary.c_str(), target.c_str()) != 0) error = errno;
   if (error == 0) return std::nullopt;
   ::unlink(temporary.c_str());
-  return Failure(path, error);
+  return FailureOfSystem(path, error);
 }
 
 std::optional<FileFailure> WritePlainFile(const std::string& path, std::string_view bytes) {
   Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-  if (file.Number() < 0) return Failure(path, errno);
-  if (const int error = WriteAll(file.Number(), bytes)) return Failure(path, error);
-  if (file.Close() != 0) return Failure(path, errno);
+  if (file.Number() < 0) return FailureOfSystem(path, errno);
+  if (const int error = WriteAll(file.Number(), bytes)) return FailureOfSystem(path, error);
+  if (file.Close() != 0) return FailureOfSystem(path, errno);
   return std::nullopt;
 }
 

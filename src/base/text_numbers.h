@@ -510,4 +510,8 @@ inline constexpr int kTextSubsectionFieldRefused = 1287;
 inline constexpr int kTextSubsectionTooManyFields = 1288;
 inline constexpr int kTextSubsectionNoRecordTypes = 1289;
 
+// Columns of `File1` in Recover_form
+inline constexpr int kTextRecoverTemplate = 1271;
+inline constexpr int kTextRecoverLastChange = 1272;
+
 }  // namespace kev

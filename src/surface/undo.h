@@ -3,8 +3,8 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <memory>
-#include <vector>
 
 #include "document/document.h"
 
@@ -14,6 +14,9 @@ namespace kev {
 // never changed once they are in a level, so that levels may share them.
 struct UndoLevel;
 
+// An edit keeps the document in the next level and is made then. Undo keeps what stands now in the level
+// above, goes back two and takes the one between; redo goes one forward and takes that. So one press behind
+// each change of direction shows what is there already. Level 0 only receives what falls out of level 1.
 class UndoStore {
  public:
   static constexpr int kLastLevel = 20;
@@ -28,15 +31,28 @@ class UndoStore {
   void DropRedo();
   void Clear();
 
-  bool CanUndo() const;
+  bool CanUndo() const { return undoIndex_ > 0; }
   bool CanRedo() const;
   int UndoIndex() const { return undoIndex_; }
+  // UndoIndex as the last push left it.
   int UndoTop() const { return undoTop_; }
+  // The rows that lie in memory; those that levels share count once.
+  std::size_t RowsHeld() const;
 
  private:
-  std::array<std::shared_ptr<const UndoLevel>, kLastLevel + 2> levels_;
+  using Level = std::shared_ptr<const UndoLevel>;
+
+  Level Snapshot(const Document& document) const;
+  void Keep(const Document& document);
+  void Restore(Document& document);
+
+  std::array<Level, kLastLevel + 1> levels_;
+  // What the table was last known to be equal to; most of its rows still are.
+  Level nearest_;
   int undoIndex_ = 0;
   int undoTop_ = 0;
+  // The table is what Redo put there, so that the level it came from still holds it.
+  bool redone_ = false;
 };
 
 }  // namespace kev

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <memory>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "app/designer.h"
+#include "app/recover.h"
 #include "base/text_numbers.h"
 #include "document/text_measurer.h"
 #include "support/recording_surface.h"
@@ -25,6 +27,8 @@ class CountingView final : public DesignerView {
   std::string Zoom;
   RecordingSurface Page;
   std::function<void()> OnRedraw;
+  int RecoverDialogs = 0;
+  std::function<void(RecoverDialog&)> OnRecover;  // what the user does in the form
 
   void DocumentReplaced() override { ++Replaced; }
   SurfaceOps& Canvas() override { return Page; }
@@ -34,6 +38,10 @@ class CountingView final : public DesignerView {
   }
   void ShowZoom(std::string_view text) override { Zoom = text; }
   void FindingsChanged() override { ++FindingLists; }
+  void ShowRecoverDialog(RecoverDialog& dialog) override {
+    ++RecoverDialogs;
+    if (OnRecover) OnRecover(dialog);
+  }
 };
 
 class DesignerTest : public testing::Test {
@@ -45,6 +53,14 @@ class DesignerTest : public testing::Test {
   }
 
   std::string Temp(const std::string& name) const { return root_ / ("temp/Kev/" + name); }
+  // Everything in the folder of the recovery files, sorted.
+  std::vector<std::string> CacheNames() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(Temp("Cache")))
+      names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
   std::string Data(const std::string& name) const { return root_ / ("data/Kev/" + name); }
   std::string Work(const std::string& name) const { return root_ / ("work/" + name); }
 

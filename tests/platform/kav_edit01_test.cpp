@@ -421,6 +421,22 @@ TEST_F(KavEdit01Test, EndingTheSessionAsksNothing) {
   EXPECT_TRUE(window->close());
 }
 
+TEST_F(KavEdit01Test, EndingTheSessionKeepsUnsavedWork) {
+  Start({home.CopyOf("letter.kev")});
+  designer->Surface().PushUndo();
+  EndInItsLoop();
+  EXPECT_EQ(RecoveryFilesIn(home.Path("temp/Kev/Cache")).size(), 1U);
+}
+
+TEST_F(KavEdit01Test, ClosingWithoutSavingDeletesTheRecoveryFile) {
+  Start({home.CopyOf("letter.kev")});
+  designer->Surface().PushUndo();
+  EXPECT_FALSE(std::filesystem::is_empty(home.Path("temp/Kev/Cache")));
+  const BoxAnswers answers(QMessageBox::No);
+  EXPECT_TRUE(window->close());
+  EXPECT_TRUE(std::filesystem::is_empty(home.Path("temp/Kev/Cache")));
+}
+
 TEST_F(KavEdit01Test, EndingTheSessionShowsNoMessageWhenTheOptionsCannotBeWritten) {
   Start();
   DeleteFileIfThere(home.Path("data/Kev/LASTRV.DAT"));

@@ -31,6 +31,7 @@
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
+#include "platform/forms/recover_form.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/sub_section_propert.h"
 #include "platform/forms/zoom_box.h"
@@ -430,6 +431,11 @@ void KavEdit01::FocusPanel() {
 
 void KavEdit01::CommitOpenCell() {
   panel_->Panel().CommitOpenCell();
+}
+
+void KavEdit01::ShowRecoverDialog(RecoverDialog& dialog) {
+  Recover_form form(dialog, host_, designer_.Texts(), this);
+  form.exec();
 }
 
 }  // namespace kev

@@ -55,6 +55,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void CommitOpenCell() override;
   void HideFieldScreen() override { input_.HideFieldScreen(); }
   void StartAllowTimer(int milliseconds, std::function<void()> done) override;
+  void ShowRecoverDialog(RecoverDialog& dialog) override;
 
  protected:
   bool event(QEvent* event) override;
