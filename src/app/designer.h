@@ -272,7 +272,6 @@ class Designer {
   bool SaveTo(const std::string& path);
   std::optional<std::string> ChooseTarget();
   std::optional<std::string> ChooseTarget(FileChoice choice);
-  std::string SampleDataPath() const;
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);
