@@ -6,6 +6,7 @@
 #include "app/designer.h"
 #include "base/text_numbers.h"
 #include "document/sections.h"
+#include "surface/column_lines.h"
 #include "surface/null_surface.h"
 #include "surface/page_background.h"
 #include "surface/selection.h"
@@ -43,6 +44,8 @@ void DesignSurface::Redraw() {
   document.Objects.SelectionCount = painted_.SelectionCount;
   pointer_.MultiSelected = painted_.MultiSelected();
   pointer_.Bounds = painted_.SelectionBounds;
+  PageWork work = Work();
+  SyncColumnLines(work);
   designer_.PageShown();
 }
 
@@ -77,6 +80,7 @@ void DesignSurface::DocumentReplaced() {
   tracker_.Reset();
   HideHandles(work);
   HideOverlay(work);
+  ParkColumnLines(work);
   pointer_ = PointerState();
   work.document.Objects.CurrentObject = 0;
   undo_.Clear();
@@ -129,8 +133,11 @@ const std::string& DesignSurface::Text(int number) const {
 }
 
 BoxAnswer DesignSurface::ShowBox(int textNumber, BoxIcon icon, BoxButtons buttons) {
-  return designer_.TheHost().ShowMessage(
-      {designer_.Text(kTextProgramTitle), designer_.Text(textNumber), {}, icon, buttons});
+  return designer_.TheHost().ShowMessage({.Title = designer_.Text(kTextProgramTitle),
+                                          .Text = designer_.Text(textNumber),
+                                          .Icon = icon,
+                                          .Buttons = buttons,
+                                          .NoIsDefault = buttons == BoxButtons::YesNoYesToAll});
 }
 
 // --- The window ---------------------------------------------------------------------------------------------------

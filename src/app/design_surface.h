@@ -42,6 +42,8 @@ class DesignSurface final : public PageServices {
   // False when the command is not one of the page's.
   bool Run(Command command);
   bool Enabled(Command command) const;
+  // An item of the toolbar's list of columns was chosen; counted from 0.
+  void ChooseColumn(int item);
   // A row from the findings: selected and shown.
   void GoToObject(int row);
 
@@ -81,10 +83,13 @@ class DesignSurface final : public PageServices {
   void HideFieldScreen() override;
   void StartAllowTimer(int milliseconds, std::function<void()> done) override;
   void RunPendingTool() override;
+  void ShowColumnList(const ColumnList& list) override;
 
  private:
   void DoUndo();
   void DoRedo();
+  void RunColumnCommand(PageWork& work, Command command);
+  void HoverColumn(const PointerInput& input);
   // Behind another level: no selection, everything shown anew.
   void ShowLevel();
 

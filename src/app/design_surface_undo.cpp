@@ -26,6 +26,7 @@ void DesignSurface::DoRedo() {
 }
 
 void DesignSurface::ShowLevel() {
+  pointer_.ColumnText.clear();
   FullRepaint();
   BuildRulers();
 }

@@ -43,6 +43,9 @@ inline constexpr std::string_view kFreshTitle = "Noname.kev";
 inline constexpr double kSmallestZoom = 10;
 inline constexpr double kLargestZoom = 800;
 
+class ColumnsDialogRun;
+class SetColumnRun;
+
 // What the window does when the document has changed under it. The window implements it; every call comes
 // from the one thread, and none before AttachView.
 class DesignerView {
@@ -69,6 +72,11 @@ class DesignerView {
   virtual void ShowFieldScreen(const FieldScreenLook&) {}
   virtual void HideFieldScreen() {}
   virtual void StartAllowTimer(int, std::function<void()>) {}
+  // What `Combocol` holds and shows; what it shows need not be one of its items.
+  virtual void ShowColumnList(const ColumnList&) {}
+  // The dialogs `inscol01` and `SetThisColumn`; each returns when its dialog has closed.
+  virtual void OpenColumnsDialog(ColumnsDialogRun&) {}
+  virtual void OpenSetThisColumn(SetColumnRun&) {}
 };
 
 // What a process gives to its designer.

@@ -5,9 +5,11 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstdint>
 #include <string>
 
+#include "document/columns.h"
 #include "surface/object_area.h"
 
 namespace kev {
@@ -62,6 +64,22 @@ struct PointerState {
   std::array<CanvasArea, 5> Overlay;
   // The ends of an ANYLINE while its grips show.
   CanvasPoint LineStart, LineEnd;
+
+  // Where the context menus of the columns were opened: over the line of this column, or here on the ruler.
+  // Slot is also the column that was dragged last.
+  struct MenuPlace {
+    int Slot = 0;
+    double RulerX = 0;
+  };
+  MenuPlace MenuAt;
+  // Where a gesture is let go: over the horizontal ruler, or over the line of this column (0 is none). Set
+  // before its End.
+  bool OverRuler = false;
+  int OverLine = 0;
+  // What `Combocol` shows.
+  std::string ColumnText;
+  // The columns that have a line on the surface.
+  std::bitset<ColumnTable::kLastSlot + 1> ColumnLines;
 
   bool HasPosition() const { return LastX != kNoPosition || LastY != kNoPosition; }
   void ForgetPosition() { LastX = LastY = kNoPosition; }

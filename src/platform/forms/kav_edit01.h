@@ -15,6 +15,7 @@ class QToolBar;
 
 namespace kev {
 
+class Combocol;
 class CommandMenus;
 class FindingsDock;
 class ProgressWindow;
@@ -41,6 +42,9 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowArea(const CanvasArea& area) override;
   void ShowZoom(std::string_view text) override;
   void FindingsChanged() override;
+  void ShowColumnList(const ColumnList& list) override;
+  void OpenColumnsDialog(ColumnsDialogRun& run) override;
+  void OpenSetThisColumn(SetColumnRun& run) override;
 
  Q_SIGNALS:
   // A finding's object was chosen in the list.
@@ -78,6 +82,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;
+  Combocol* columnBox_ = nullptr;
   StatusPanels* status_ = nullptr;
   FindingsDock* findings_ = nullptr;
   ProgressWindow* progress_ = nullptr;
