@@ -133,11 +133,9 @@ const std::string& DesignSurface::Text(int number) const {
 }
 
 BoxAnswer DesignSurface::ShowBox(int textNumber, BoxIcon icon, BoxButtons buttons) {
-  return designer_.TheHost().ShowMessage({.Title = designer_.Text(kTextProgramTitle),
-                                          .Text = designer_.Text(textNumber),
-                                          .Icon = icon,
-                                          .Buttons = buttons,
-                                          .NoIsDefault = buttons == BoxButtons::YesNoYesToAll});
+  MessageBox box{designer_.Text(kTextProgramTitle), designer_.Text(textNumber), {}, icon, buttons};
+  box.NoIsDefault = buttons == BoxButtons::YesNoYesToAll;
+  return designer_.TheHost().ShowMessage(box);
 }
 
 // --- The window ---------------------------------------------------------------------------------------------------

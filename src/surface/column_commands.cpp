@@ -52,10 +52,11 @@ bool MayOrganize(const PageWork& work, const SavedText& savedText) {
 
 // Seven digits; a sign and eight for a negative position. Longer numbers keep their digits.
 std::string MaskedPosition(double position) {
-  const std::string digits = FormatNumber(RoundToEven(std::abs(position)));
+  const double rounded = RoundToEven(position);
+  const std::string digits = FormatNumber(std::abs(rounded));
   const std::size_t width = position < 0 ? 8 : 7;
   const std::string zeros(width - std::min(width, digits.size()), '0');
-  return (position < 0 ? "-" : "") + zeros + digits;
+  return (rounded < 0 ? "-" : "") + zeros + digits;
 }
 
 std::vector<std::string> SortedColumns(const ColumnTable& columns) {

@@ -10,12 +10,14 @@
 #include <string>
 #include <vector>
 
+#include "app/column_runs.h"
 #include "app/designer.h"
 #include "base/text_numbers.h"
 #include "document/text_measurer.h"
 #include "support/recording_surface.h"
 #include "support/run_tool.h"
 #include "support/scripted_host.h"
+#include "surface/column_lines.h"
 
 namespace kev::test {
 
@@ -25,6 +27,10 @@ class CountingView final : public DesignerView {
   std::string Zoom;
   RecordingSurface Page;
   std::function<void()> OnRedraw;
+  ColumnList Columns;
+  // What the user does in the dialogs of the columns.
+  std::function<void(ColumnsDialogRun&)> OnColumnsDialog;
+  std::function<void(SetColumnRun&)> OnSetThisColumn;
 
   void DocumentReplaced() override { ++Replaced; }
   SurfaceOps& Canvas() override { return Page; }
@@ -34,6 +40,13 @@ class CountingView final : public DesignerView {
   }
   void ShowZoom(std::string_view text) override { Zoom = text; }
   void FindingsChanged() override { ++FindingLists; }
+  void ShowColumnList(const ColumnList& list) override { Columns = list; }
+  void OpenColumnsDialog(ColumnsDialogRun& run) override {
+    if (OnColumnsDialog) OnColumnsDialog(run);
+  }
+  void OpenSetThisColumn(SetColumnRun& run) override {
+    if (OnSetThisColumn) OnSetThisColumn(run);
+  }
 };
 
 class DesignerTest : public testing::Test {
