@@ -291,6 +291,14 @@ TEST_F(DisplayListTest, AbsurdPlacesNeitherHangNorFail) {
 TEST_F(DisplayListTest, WidgetsGoToTheLayerAboveThePage) {
   struct Layer : WidgetLayer {
     std::string told;
+    NullSurface surface;
+    SurfaceOps& SurfaceOf(std::string_view name) override {
+      told += std::string(name) + "*";
+      return surface;
+    }
+    void SetWidgetText(std::string_view name, std::string_view text) override {
+      told += std::string(name) + ":" + std::string(text);
+    }
     void PlaceWidget(std::string_view name, double left, double, double, double) override {
       told += std::string(name) + std::to_string(static_cast<int>(left));
     }
@@ -302,7 +310,9 @@ TEST_F(DisplayListTest, WidgetsGoToTheLayerAboveThePage) {
   list_.SetWidgetLayer(&layer);
   list_.PlaceWidget("dot_2", 7, 0, 0, 0);
   list_.ShowWidget("dot_2", false);
-  EXPECT_EQ(layer.told, "dot_27dot_2-");
+  EXPECT_EQ(&list_.SurfaceOf("lblob(1)"), &layer.surface);
+  list_.SetWidgetText("ObjL1", "First point");
+  EXPECT_EQ(layer.told, "dot_27dot_2-lblob(1)*ObjL1:First point");
 }
 
 }  // namespace

@@ -140,18 +140,31 @@ void inscol01::Accept() {
 
 void inscol01::Show() {
   const ColumnsDialog& state = run_.State();
-  const QSignalBlocker quiet(List1);
-  QStringList items;
-  for (const std::string& item : state.List1)
-    items << ToQString(item, run_.Page());
-  List1->clear();
-  List1->addItems(items);
-  if (state.Chosen >= 0) List1->setCurrentRow(state.Chosen);
+  ShowList();
   colname->setText(ToQString(state.colname, run_.Page()));
   colposition->setText(ToQString(state.colposition, run_.Page()));
   colposition->selectAll();
   ShowCaptions();
   Command3->setEnabled(state.Command3);
+}
+
+void inscol01::ShowList() {
+  const ColumnsDialog& state = run_.State();
+  const QSignalBlocker quiet(List1);
+  QStringList items;
+  for (const std::string& item : state.List1)
+    items << ToQString(item, run_.Page());
+  // An item that goes while it is pressed is never clicked.
+  if (items != items_) {
+    items_ = items;
+    List1->clear();
+    List1->addItems(items_);
+  }
+  if (state.Chosen >= 0) {
+    List1->setCurrentRow(state.Chosen);
+  } else {
+    List1->clearSelection();
+  }
 }
 
 void inscol01::ShowCaptions() {

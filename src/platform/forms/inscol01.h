@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QStringList>
 
 #include "app/column_runs.h"
 #include "app/language.h"
@@ -28,6 +29,7 @@ class inscol01 final : public QDialog {
   void BuildButtons(QGridLayout& grid);
   void Connect();
   void Show();
+  void ShowList();
   void ShowCaptions();
   void Choose(int item);
   void Accept();
@@ -35,6 +37,7 @@ class inscol01 final : public QDialog {
 
   ColumnsDialogRun& run_;
   const LanguageTexts& texts_;
+  QStringList items_;
   QListWidget* List1;
   QLabel* colname;
   QLabel* positionLabel_;
