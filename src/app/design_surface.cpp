@@ -141,6 +141,8 @@ BoxAnswer DesignSurface::ShowBox(int textNumber, BoxIcon icon, BoxButtons button
 // --- The window ---------------------------------------------------------------------------------------------------
 
 void DesignSurface::OpenContextMenu(ContextMenu menu) {
+  // What it offers depends on what is below the pointer.
+  CommandsChanged();
   if (DesignerView* view = designer_.View()) view->OpenContextMenu(menu);
 }
 

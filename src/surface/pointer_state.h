@@ -30,6 +30,12 @@ struct CanvasPoint {
   bool operator==(const CanvasPoint&) const = default;
 };
 
+// What the menu that was opened last stands for.
+struct MenuPlace {
+  int Slot = 0;       // of the column line below `Contextmen3`
+  double RulerX = 0;  // canvas units; where `Contextmen2` was opened
+};
+
 struct PointerState {
   // At the last release and at each move of a gesture, not while hovering. They keep their place on the page
   // when the zoom changes.
@@ -47,6 +53,8 @@ struct PointerState {
   bool LineEndDrag = false;
   bool ColumnDrag = false;
   double NewLeft = 0, NewTop = 0;
+  // The pointer of the gesture was last over the horizontal ruler.
+  bool OverRuler = false;
 
   // A group exists; its members are the rows whose Selected is -1. Set by each redraw, with the box around
   // the group.
@@ -58,6 +66,7 @@ struct PointerState {
   bool FirstClick = true;  // the next click is the document's first
   // The insertion that waits for a click; empty when there is none.
   std::string PendingTool;
+  MenuPlace MenuAt;
 
   // Where the panels of the current object stand: 1 alone, or 1 to 4 for the sides of a box (top, right,
   // bottom, left). 0 is not used. Kept as real numbers; nothing is ever read back from a widget.
@@ -65,16 +74,7 @@ struct PointerState {
   // The ends of an ANYLINE while its grips show.
   CanvasPoint LineStart, LineEnd;
 
-  // Where the context menus of the columns were opened: over the line of this column, or here on the ruler.
-  // Slot is also the column that was dragged last.
-  struct MenuPlace {
-    int Slot = 0;
-    double RulerX = 0;
-  };
-  MenuPlace MenuAt;
-  // Where a gesture is let go: over the horizontal ruler, or over the line of this column (0 is none). Set
-  // before its End.
-  bool OverRuler = false;
+  // The column whose line the pointer of the gesture was last over; 0 is none.
   int OverLine = 0;
   // What `Combocol` shows.
   std::string ColumnText;

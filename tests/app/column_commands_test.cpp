@@ -93,6 +93,32 @@ TEST_F(ColumnCommandsOfDesigner, TheLinesMenuNeedsAColumn) {
   EXPECT_FALSE(designer_->Modified());
 }
 
+TEST_F(ColumnCommandsOfDesigner, AMenuKnowsWhatItCanDoBeforeItOpens) {
+  class MenuView final : public DesignerView {
+   public:
+    explicit MenuView(Designer& designer) : designer_(designer) {}
+    bool Offered = false, OfferedWhenOpened = false;
+    void DocumentReplaced() override {}
+    SurfaceOps& Canvas() override { return page_; }
+    void PageShown() override {}
+    void ShowZoom(std::string_view) override {}
+    void FindingsChanged() override {}
+    void CommandsChanged() override { Offered = designer_.Enabled(Command::RemoveColumn); }
+    void OpenContextMenu(ContextMenu) override { OfferedWhenOpened = Offered; }
+
+   private:
+    Designer& designer_;
+    NullSurface page_;
+  };
+  StartWith("$Col_01=2400\r\n");
+  MenuView view(*designer_);
+  designer_->AttachView(&view);
+  Pointer().MenuAt.Slot = 1;
+  designer_->Surface().OpenContextMenu(ContextMenu::ColumnLine);
+  EXPECT_TRUE(view.OfferedWhenOpened);
+  designer_->AttachView(&view_);
+}
+
 TEST_F(ColumnCommandsOfDesigner, TheLinesMenuRemovesItsColumn) {
   StartWith("$Col_01=2400\r\n", "{$Col_01;}Total\r\n");
   ASSERT_NE(Label(), 0);
