@@ -6,6 +6,7 @@
 #include "app/designer.h"
 #include "base/text_numbers.h"
 #include "document/sections.h"
+#include "surface/column_lines.h"
 #include "surface/null_surface.h"
 #include "surface/page_background.h"
 #include "surface/selection.h"
@@ -37,6 +38,8 @@ void DesignSurface::Redraw() {
   document.Objects.SelectionCount = painted_.SelectionCount;
   pointer_.MultiSelected = painted_.MultiSelected();
   pointer_.Bounds = painted_.SelectionBounds;
+  PageWork work = Work();
+  SyncColumnLines(work);
   designer_.PageShown();
 }
 
@@ -78,6 +81,7 @@ void DesignSurface::DocumentReplaced() {
   tracker_.Reset();
   HideHandles(work);
   HideOverlay(work);
+  ParkColumnLines(work);
   pointer_ = PointerState();
   work.document.Objects.CurrentObject = 0;
   undo_.Clear();
@@ -133,14 +137,17 @@ const std::string& DesignSurface::Text(int number) const {
 }
 
 BoxAnswer DesignSurface::ShowBox(int textNumber, BoxIcon icon, BoxButtons buttons) {
-  return designer_.TheHost().ShowMessage(
-      {designer_.Text(kTextProgramTitle), designer_.Text(textNumber), {}, icon, buttons});
+  MessageBox box{designer_.Text(kTextProgramTitle), designer_.Text(textNumber), {}, icon, buttons};
+  box.NoIsDefault = buttons == BoxButtons::YesNoYesToAll;
+  return designer_.TheHost().ShowMessage(box);
 }
 
 // --- The window
 // ---------------------------------------------------------------------------------------------------
 
 void DesignSurface::OpenContextMenu(ContextMenu menu) {
+  // What it offers depends on what is below the pointer.
+  CommandsChanged();
   if (DesignerView* view = designer_.View()) view->OpenContextMenu(menu);
 }
 

@@ -45,6 +45,8 @@ class DesignSurface final : public PageServices {
   // False when the command is not one of the page's.
   bool Run(Command command);
   bool Enabled(Command command) const;
+  // An item of the toolbar's list of columns was chosen; counted from 0.
+  void ChooseColumn(int item);
   // A row from the findings: selected and shown.
   void GoToObject(int row);
 
@@ -92,6 +94,7 @@ class DesignSurface final : public PageServices {
   void HideFieldScreen() override;
   void StartAllowTimer(int milliseconds, std::function<void()> done) override;
   void RunPendingTool() override;
+  void ShowColumnList(const ColumnList& list) override;
 
  private:
   // For a bar, or for a new one where the row is 0. Until the dialog is closed.
@@ -101,6 +104,8 @@ class DesignSurface final : public PageServices {
   void WriteRecovery();
   void DoUndo();
   void DoRedo();
+  void RunColumnCommand(PageWork& work, Command command);
+  void HoverColumn(const PointerInput& input);
   // Behind another level: no selection, everything shown anew.
   void ShowLevel();
 

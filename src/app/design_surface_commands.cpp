@@ -2,6 +2,7 @@
 // The page's commands, each in one guard.
 #include "app/design_surface.h"
 #include "app/designer.h"
+#include "surface/column_lines.h"
 #include "surface/selection.h"
 
 namespace kev {
@@ -32,6 +33,12 @@ bool DesignSurface::Run(Command command) {
         return MoveSubsectionUp(work);
       case Command::MoveDown:
         return MoveSubsectionDown(work);
+      case Command::SetColumns:
+      case Command::InsertColumnHere:
+      case Command::RemoveColumn:
+      case Command::SetColumn:
+      case Command::OrganizeColumns:
+        return RunColumnCommand(work, command);
       default:
         return;
     }
@@ -52,6 +59,9 @@ bool DesignSurface::Enabled(Command command) const {
     case Command::MoveUp:
     case Command::MoveDown:
       return current && objects[objects.CurrentObject].Kind == ObjectKind::Subsection;
+    case Command::RemoveColumn:
+    case Command::SetColumn:
+      return IsColumn(designer_.OpenDocument().Columns, pointer_.MenuAt.Slot);
     default:
       return true;
   }

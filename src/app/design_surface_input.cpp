@@ -18,7 +18,7 @@ void DesignSurface::PointerPress(const PointerInput& input) {
 }
 
 void DesignSurface::PointerMove(const PointerInput& input) {
-  if (!tracker_.Busy()) return;
+  if (!tracker_.Busy()) return HoverColumn(input);
   const auto move = [&] {
     PageWork work = Work();
     tracker_.Move(work, input);

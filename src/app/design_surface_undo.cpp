@@ -62,6 +62,7 @@ void DesignSurface::ShowLevel() {
   // The level may have been kept while a group was selected.
   for (int row = 1; row <= objects.LastScanned(); ++row)
     objects[row].Selected = kFalse;
+  pointer_.ColumnText.clear();
   FullRepaint();
   BuildRulers();
 }

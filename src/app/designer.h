@@ -47,6 +47,9 @@ inline constexpr std::string_view kFreshTitle = "Noname.kev";
 inline constexpr double kSmallestZoom = 10;
 inline constexpr double kLargestZoom = 800;
 
+class ColumnsDialogRun;
+class SetColumnRun;
+
 // What the window does when the document has changed under it. The window implements it; every call comes
 // from the one thread, and none before AttachView.
 class DesignerView {
@@ -83,6 +86,11 @@ class DesignerView {
   virtual void CommitOpenCell() {}
   // The form of what earlier runs left behind; returns when it has closed. Before the first document.
   virtual void ShowRecoverDialog(RecoverDialog&) {}
+  // What `Combocol` holds and shows; what it shows need not be one of its items.
+  virtual void ShowColumnList(const ColumnList&) {}
+  // The dialogs `inscol01` and `SetThisColumn`; each returns when its dialog has closed.
+  virtual void OpenColumnsDialog(ColumnsDialogRun&) {}
+  virtual void OpenSetThisColumn(SetColumnRun&) {}
 };
 
 // What a process gives to its designer.

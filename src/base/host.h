@@ -13,8 +13,9 @@
 namespace kev {
 
 enum class BoxIcon : std::uint8_t { Critical, Warning, Information, Question };
-enum class BoxButtons : std::uint8_t { Ok, YesNo, YesNoCancel };
-enum class BoxAnswer : std::uint8_t { Ok, Yes, No, Cancel };
+// YesNoYesToAll is for one question of a row of equal ones; YesToAll answers the rest of them as well.
+enum class BoxButtons : std::uint8_t { Ok, YesNo, YesNoCancel, YesNoYesToAll };
+enum class BoxAnswer : std::uint8_t { Ok, Yes, No, Cancel, YesToAll };
 
 // Texts for the user are in the code page of the language file; paths are the system's own bytes, so a
 // message carries them apart from its text.

@@ -24,7 +24,8 @@ struct AnswerRow {
 
 constexpr std::array kAnswers = {
     AnswerRow{BoxAnswer::Ok, QMessageBox::Ok}, AnswerRow{BoxAnswer::Yes, QMessageBox::Yes},
-    AnswerRow{BoxAnswer::No, QMessageBox::No}, AnswerRow{BoxAnswer::Cancel, QMessageBox::Cancel}};
+    AnswerRow{BoxAnswer::No, QMessageBox::No}, AnswerRow{BoxAnswer::Cancel, QMessageBox::Cancel},
+    AnswerRow{BoxAnswer::YesToAll, QMessageBox::YesToAll}};
 
 QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
   switch (buttons) {
@@ -34,6 +35,8 @@ QMessageBox::StandardButtons ButtonsOf(BoxButtons buttons) {
       return QMessageBox::Yes | QMessageBox::No;
     case BoxButtons::YesNoCancel:
       return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case BoxButtons::YesNoYesToAll:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll;
   }
   return QMessageBox::Ok;
 }
@@ -52,13 +55,17 @@ QMessageBox::Icon IconOf(BoxIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+bool EndsWithNo(BoxButtons buttons) {
+  return buttons == BoxButtons::YesNo || buttons == BoxButtons::YesNoYesToAll;
+}
+
 // A box without an answer (closed by its frame or Esc) changes nothing: Cancel, else No.
 BoxAnswer AnswerOf(int button, BoxButtons buttons) {
   for (const AnswerRow& row : kAnswers) {
     if (row.button == button) return row.answer;
   }
   if (buttons == BoxButtons::Ok) return BoxAnswer::Ok;
-  return buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
+  return EndsWithNo(buttons) ? BoxAnswer::No : BoxAnswer::Cancel;
 }
 
 QString FilterLine(const std::pair<std::string, std::string>& filter) {
@@ -97,7 +104,7 @@ void QtHost::AddButtons(QMessageBox& box, const MessageBox& asked) const {
     }
   }
   if (asked.NoIsDefault) box.setDefaultButton(QMessageBox::No);
-  if (asked.Buttons == BoxButtons::YesNo) box.setEscapeButton(QMessageBox::No);
+  if (EndsWithNo(asked.Buttons)) box.setEscapeButton(QMessageBox::No);
 }
 
 void QtHost::ShowStatus(std::string_view text, std::string_view detail) {

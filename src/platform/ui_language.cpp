@@ -42,6 +42,7 @@ void SetButtonCaptions(QtHost& host, const LanguageTexts& texts) {
   host.SetButtonCaption(BoxAnswer::Yes, ToQString(texts.Text(kTextGridYes)));
   host.SetButtonCaption(BoxAnswer::No, ToQString(texts.Text(kTextGridNo)));
   host.SetButtonCaption(BoxAnswer::Cancel, ToQString(texts.Text(kTextCancel)));
+  host.SetButtonCaption(BoxAnswer::YesToAll, ToQString(texts.Text(kTextYesToAll)));
 }
 
 }  // namespace kev

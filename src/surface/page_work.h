@@ -30,6 +30,8 @@ struct FieldScreenLook {
   char Align = 'L';
 };
 
+struct ColumnList;
+
 // The designer's part in it. Whatever changes the document calls PushUndo before the change, never after, and
 // FullRepaint behind it.
 class PageServices {
@@ -68,6 +70,8 @@ class PageServices {
   virtual void StartAllowTimer(int milliseconds, std::function<void()> done) = 0;
   // The pending tool puts its object at LastX, LastY.
   virtual void RunPendingTool() = 0;
+  // The toolbar's list of columns is another one, or shows another text.
+  virtual void ShowColumnList(const ColumnList&) {}
 };
 
 struct PageWork {

@@ -5,9 +5,11 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstdint>
 #include <string>
 
+#include "document/columns.h"
 #include "surface/object_area.h"
 
 namespace kev {
@@ -71,6 +73,13 @@ struct PointerState {
   std::array<CanvasArea, 5> Overlay;
   // The ends of an ANYLINE while its grips show.
   CanvasPoint LineStart, LineEnd;
+
+  // The column whose line the pointer of the gesture was last over; 0 is none.
+  int OverLine = 0;
+  // What `Combocol` shows.
+  std::string ColumnText;
+  // The columns that have a line on the surface.
+  std::bitset<ColumnTable::kLastSlot + 1> ColumnLines;
 
   bool HasPosition() const { return LastX != kNoPosition || LastY != kNoPosition; }
   void ForgetPosition() { LastX = LastY = kNoPosition; }

@@ -70,6 +70,7 @@ void PointerTracker::Follow(PageWork& work, const PointerInput& input) {
   const CanvasPoint at{input.X, input.Y};
   pointer.KeepPosition(gesture_ != nullptr ? OnCanvas(work, at, {press_.X, press_.Y}) : at);
   pointer.OverRuler = input.Source == PointerSource::Ruler;
+  pointer.OverLine = input.Source == PointerSource::ColumnLine ? input.Index : 0;
   if (gesture_ != nullptr) gesture_->Move(work, pointer.LastPoint());
 }
 

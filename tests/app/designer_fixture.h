@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "app/column_runs.h"
 #include "app/designer.h"
 #include "app/recover.h"
 #include "base/text_numbers.h"
@@ -18,6 +19,7 @@
 #include "support/recording_surface.h"
 #include "support/run_tool.h"
 #include "support/scripted_host.h"
+#include "surface/column_lines.h"
 
 namespace kev::test {
 
@@ -29,6 +31,10 @@ class CountingView final : public DesignerView {
   std::function<void()> OnRedraw;
   int RecoverDialogs = 0;
   std::function<void(RecoverDialog&)> OnRecover;  // what the user does in the form
+  ColumnList Columns;
+  // What the user does in the dialogs of the columns.
+  std::function<void(ColumnsDialogRun&)> OnColumnsDialog;
+  std::function<void(SetColumnRun&)> OnSetThisColumn;
 
   void DocumentReplaced() override { ++Replaced; }
   SurfaceOps& Canvas() override { return Page; }
@@ -41,6 +47,13 @@ class CountingView final : public DesignerView {
   void ShowRecoverDialog(RecoverDialog& dialog) override {
     ++RecoverDialogs;
     if (OnRecover) OnRecover(dialog);
+  }
+  void ShowColumnList(const ColumnList& list) override { Columns = list; }
+  void OpenColumnsDialog(ColumnsDialogRun& run) override {
+    if (OnColumnsDialog) OnColumnsDialog(run);
+  }
+  void OpenSetThisColumn(SetColumnRun& run) override {
+    if (OnSetThisColumn) OnSetThisColumn(run);
   }
 };
 

@@ -60,12 +60,27 @@ TEST(QtHostMessages, EscapeNeverAgrees) {
   EXPECT_EQ(AnswerToEscape(BoxButtons::Ok), BoxAnswer::Ok);
   EXPECT_EQ(AnswerToEscape(BoxButtons::YesNo), BoxAnswer::No);
   EXPECT_EQ(AnswerToEscape(BoxButtons::YesNoCancel), BoxAnswer::Cancel);
+  EXPECT_EQ(AnswerToEscape(BoxButtons::YesNoYesToAll), BoxAnswer::No);
 }
 
 TEST(QtHostMessages, EnterTakesNoWhereNoIsTheDefault) {
   QtHost host;
   WhenModal([](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Return); });
   EXPECT_EQ(host.ShowMessage({"", "Text", "", BoxIcon::Warning, BoxButtons::YesNo, true}), BoxAnswer::No);
+}
+
+TEST(QtHostMessages, AnswerTheRestOfARowOfQuestionsWithOneButton) {
+  QtHost host;
+  host.SetButtonCaption(BoxAnswer::YesToAll, QStringLiteral("All of them"));
+  QString caption;
+  WhenModal([&](QWidget& modal) {
+    QAbstractButton* all = dynamic_cast<QMessageBox&>(modal).button(QMessageBox::YesToAll);
+    caption = all->text();
+    all->click();
+  });
+  EXPECT_EQ(host.ShowMessage({"", "Text", "", BoxIcon::Warning, BoxButtons::YesNoYesToAll, true}),
+            BoxAnswer::YesToAll);
+  EXPECT_EQ(caption, QStringLiteral("All of them"));
 }
 
 TEST(QtHostSignals, CarryUnicode) {

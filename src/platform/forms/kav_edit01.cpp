@@ -24,14 +24,17 @@
 #include "base/numbers.h"
 #include "base/text_numbers.h"
 #include "platform/app_style.h"
+#include "platform/forms/combocol.h"
 #include "platform/forms/command_menus.h"
 #include "platform/forms/findings_dock.h"
+#include "platform/forms/inscol01.h"
 #include "platform/forms/kavsplash.h"
 #include "platform/forms/language_menu.h"
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
 #include "platform/forms/recover_form.h"
+#include "platform/forms/set_this_column.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/sub_section_propert.h"
 #include "platform/forms/zoom_box.h"
@@ -131,9 +134,13 @@ void KavEdit01::BuildToolRow() {
   label->setBuddy(zoomBox_);
   bar->addWidget(label);
   bar->addWidget(zoomBox_);
+  columnBox_ = new Combocol(ToQString(designer_.Text(kTextToolColumn)), bar);
+  bar->addWidget(columnBox_);
   ColourBar(*bar, designer_.CurrentTheme().ToolbarColour());
   addToolBar(bar);
   connect(zoomBox_, &ZoomBox::ZoomChosen, this, &KavEdit01::SetZoom);
+  connect(columnBox_, &Combocol::ColumnChosen, this,
+          [this](int item) { designer_.Surface().ChooseColumn(item); });
 }
 
 void KavEdit01::BuildPage(FontCache& fonts) {
@@ -436,6 +443,18 @@ void KavEdit01::CommitOpenCell() {
 void KavEdit01::ShowRecoverDialog(RecoverDialog& dialog) {
   Recover_form form(dialog, host_, designer_.Texts(), this);
   form.exec();
+}
+
+void KavEdit01::ShowColumnList(const ColumnList& list) {
+  columnBox_->ShowList(list, *designer_.OpenDocument().Page);
+}
+
+void KavEdit01::OpenColumnsDialog(ColumnsDialogRun& run) {
+  inscol01(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::OpenSetThisColumn(SetColumnRun& run) {
+  SetThisColumn(run, designer_.Texts(), this).exec();
 }
 
 }  // namespace kev

@@ -16,6 +16,7 @@ class QToolBar;
 
 namespace kev {
 
+class Combocol;
 class CommandMenus;
 class FindingsDock;
 class PanelPlace;
@@ -56,6 +57,10 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void HideFieldScreen() override { input_.HideFieldScreen(); }
   void StartAllowTimer(int milliseconds, std::function<void()> done) override;
   void ShowRecoverDialog(RecoverDialog& dialog) override;
+  void ShowColumnList(const ColumnList& list) override;
+  void OpenColumnsDialog(ColumnsDialogRun& run) override;
+  void OpenSetThisColumn(SetColumnRun& run) override;
+
 
  protected:
   bool event(QEvent* event) override;
@@ -92,6 +97,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;
+  Combocol* columnBox_ = nullptr;
   StatusPanels* status_ = nullptr;
   FindingsDock* findings_ = nullptr;
   ProgressWindow* progress_ = nullptr;
