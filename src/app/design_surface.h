@@ -10,6 +10,7 @@
 
 #include "app/commands.h"
 #include "app/recovery.h"
+#include "surface/insertion.h"
 #include "surface/page_keys.h"
 #include "surface/page_work.h"
 #include "surface/pointer_tracker.h"
@@ -43,6 +44,8 @@ class DesignSurface final : public PageServices {
   // False when the command is not one of the page's.
   bool Run(Command command);
   bool Enabled(Command command) const;
+  // A button of the tool bar: the tool waits for the next click on the page, or waits no more.
+  void ToggleTool(std::string_view tool);
   // A row from the findings: selected and shown.
   void GoToObject(int row);
 
@@ -87,6 +90,7 @@ class DesignSurface final : public PageServices {
   void RunPendingTool() override;
 
  private:
+  InsertionWork Inserting(PageWork& work);
   void DoUndo();
   void DoRedo();
   // Behind another level: no selection, everything shown anew.

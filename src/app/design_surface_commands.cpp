@@ -2,6 +2,7 @@
 // The page's commands, each in one guard.
 #include "app/design_surface.h"
 #include "app/designer.h"
+#include "app/toolbar_table.h"
 #include "surface/selection.h"
 
 namespace kev {
@@ -27,6 +28,10 @@ bool DesignSurface::Run(Command command) {
       case Command::MoveDown:
         return MoveSubsectionDown(work);
       default:
+        if (const auto what = InsertionOf(command)) {
+          InsertionWork insertion = Inserting(work);
+          InsertFromMenu(insertion, *what);
+        }
         return;
     }
   });

@@ -170,6 +170,8 @@ class Designer {
   const Document& OpenDocument() const { return document_; }
   AttributeState& Attributes() { return attributes_; }
   DesignerOptions& Options() { return options_; }
+  // What the font and colour tools last gave; what they give is stored here.
+  LastUsed& Last() { return last_; }
   const UserSettings& Settings() const { return settings_; }
   const DesignerFolders& Folders() const { return folders_; }
   const Theme& CurrentTheme() const { return theme_; }
@@ -189,6 +191,8 @@ class Designer {
   const std::string& DocumentTitle() const { return documentTitle_; }
   // Relative paths inside the template start here; native bytes.
   std::string TemplateFolder() const;
+  // Where the sample data lies or should lie, native bytes; empty where the document names none.
+  std::string SampleDataPath() const;
   // The file that a record's PictureFile means; nothing when there is none.
   std::optional<std::string> PictureFileOnDisk(std::string_view pictureFile) const;
   bool Modified() const { return modified_; }
@@ -244,7 +248,6 @@ class Designer {
   void ShowAdopted(std::vector<Finding> findings);
   bool SaveTo(const std::string& path);
   std::optional<std::string> ChooseTarget();
-  std::string SampleDataPath() const;
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);
@@ -263,6 +266,7 @@ class Designer {
   AttributeState attributes_;
   LayoutCursor cursor_;
   DesignerOptions options_;
+  LastUsed last_;
   UserSettings settings_;
   DesignerFolders folders_;
   Theme theme_;

@@ -216,7 +216,6 @@ std::optional<std::string> Designer::ChooseTarget() {
   }
 }
 
-// Where the sample data lies or should lie; empty where the document names none.
 std::string Designer::SampleDataPath() const {
   const std::string named(Trim(document_.Page->ToUtf8(document_.Settings[Setting::Sample_Kex_file])));
   if (named.empty()) return {};
