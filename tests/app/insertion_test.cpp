@@ -10,6 +10,8 @@
 namespace kev {
 namespace {
 
+using test::CountOf;
+
 class Inserted : public test::DesignerTest {
  protected:
   void SetUp() override {

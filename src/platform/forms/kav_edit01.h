@@ -12,14 +12,13 @@
 #include "platform/page_view.h"
 #include "platform/qt_host.h"
 
-class QToolBar;
-
 namespace kev {
 
 class CommandMenus;
 class FindingsDock;
 class ProgressWindow;
 class StatusPanels;
+class ToolBars;
 class ZoomBox;
 class ZoomMenu;
 
@@ -80,6 +79,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   PageInput input_;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
+  ToolBars* toolBars_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;
   StatusPanels* status_ = nullptr;
   FindingsDock* findings_ = nullptr;
