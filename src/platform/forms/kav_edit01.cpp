@@ -116,7 +116,11 @@ QString KavEdit01::MenuCaption(int text) const {
 void KavEdit01::BuildToolRow() {
   toolBars_ = new ToolBars(*this, designer_,
                            {[this](Command command) { Run(command); },
-                            [this](std::string_view tool) { designer_.Surface().ToggleTool(tool); }});
+                            [this](std::string_view tool) {
+                              designer_.Surface().ToggleTool(tool);
+                              // Escape gives the tool up.
+                              page_.Canvas().setFocus();
+                            }});
   QToolBar& bar = toolBars_->First();
   bar.addSeparator();
   auto* label = new QLabel(MenuCaption(kTextMenuZoom), &bar);

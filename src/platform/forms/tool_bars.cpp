@@ -37,18 +37,17 @@ QString ImageOf(const ToolButtonRow& row, const Designer& designer) {
 
 ToolBars::ToolBars(QMainWindow& window, const Designer& designer, Actions actions)
     : QObject(&window), actions_(std::move(actions)) {
-  first_ = NewBar(window, designer, "toolbar1");
-  second_ = NewBar(window, designer, "toolbar2");
+  first_ = NewBar(window, designer, "toolbar1", kTextTools);
+  second_ = NewBar(window, designer, "toolbar2", kTextMenuInsert);
   for (const ToolButtonRow& row : kToolButtons)
     if (row.command || !row.tool.empty()) AddButton(row, designer);
 }
 
-QToolBar* ToolBars::NewBar(QMainWindow& window, const Designer& designer, const char* name) {
+QToolBar* ToolBars::NewBar(QMainWindow& window, const Designer& designer, const char* name, int text) {
   auto* bar = new QToolBar(&window);
   bar->setObjectName(QLatin1String(name));
-  bar->setAccessibleName(ToQString(designer.Text(kTextTools)));
+  bar->setAccessibleName(ToQString(designer.Text(text)));
   bar->setMovable(false);
-  bar->setIconSize(kIconSize);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   ColourBar(*bar, designer.CurrentTheme().ToolbarColour());
   window.addToolBar(bar);
@@ -65,6 +64,7 @@ void ToolBars::AddButton(const ToolButtonRow& row, const Designer& designer) {
   // Shown where the image can't be had.
   button->setText(NameOf(row, designer));
   button->setIcon(SvgIcon(ImageOf(row, designer)));
+  button->setIconSize(kIconSize);
   button->setAutoRaise(true);
   button->setFocusPolicy(Qt::TabFocus);
   bar.addWidget(button);

@@ -34,7 +34,7 @@ class ToolBars final : public QObject {
   void Show(const std::function<bool(Command)>& enabled, std::string_view pendingTool);
 
  private:
-  QToolBar* NewBar(QMainWindow& window, const Designer& designer, const char* name);
+  static QToolBar* NewBar(QMainWindow& window, const Designer& designer, const char* name, int text);
   void AddButton(const ToolButtonRow& row, const Designer& designer);
   void Connect(QToolButton& button, const ToolButtonRow& row);
 
