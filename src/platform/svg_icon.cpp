@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/svg_icon.h"
 
+#include <QFile>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
@@ -41,6 +42,7 @@ class SvgIconEngine final : public QIconEngine {
 }  // namespace
 
 QIcon SvgIcon(const QString& file) {
+  if (!QFile::exists(file)) return {};
   auto drawing = std::make_shared<QSvgRenderer>(file);
   // The icon owns its engine.
   return drawing->isValid() ? QIcon(std::make_unique<SvgIconEngine>(std::move(drawing)).release()) : QIcon();

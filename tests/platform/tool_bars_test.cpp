@@ -80,8 +80,10 @@ TEST_F(ToolBarsTest, AClickRunsTheCommandOrTogglesTheTool) {
 
 TEST_F(ToolBarsTest, OnlyTheToolThatWaitsIsPressed) {
   Show("QR");
-  for (const ToolButtonRow& row : kToolButtons)
-    if (!row.tool.empty()) EXPECT_EQ(Button(row.name)->isChecked(), row.tool == "QR") << row.name;
+  for (const ToolButtonRow& row : kToolButtons) {
+    if (row.tool.empty()) continue;
+    EXPECT_EQ(Button(row.name)->isChecked(), row.tool == "QR") << row.name;
+  }
   Show("");
   EXPECT_FALSE(Button("ImgButton25")->isChecked());
 }
