@@ -169,8 +169,4 @@ void DesignSurface::StartAllowTimer(int milliseconds, std::function<void()> done
   if (DesignerView* view = designer_.View()) view->StartAllowTimer(milliseconds, std::move(done));
 }
 
-void DesignSurface::RunPendingTool() {
-  pointer_.PendingTool.clear();
-}
-
 }  // namespace kev

@@ -11,6 +11,7 @@
 
 #include "app/commands.h"
 #include "app/recovery.h"
+#include "surface/insertion.h"
 #include "surface/page_keys.h"
 #include "surface/page_work.h"
 #include "surface/pointer_tracker.h"
@@ -47,6 +48,8 @@ class DesignSurface final : public PageServices {
   bool Enabled(Command command) const;
   // An item of the toolbar's list of columns was chosen; counted from 0.
   void ChooseColumn(int item);
+  // A button of the tool bar: the tool waits for the next click on the page, or waits no more.
+  void ToggleTool(std::string_view tool);
   // A row from the findings: selected and shown.
   void GoToObject(int row);
 
@@ -102,6 +105,7 @@ class DesignSurface final : public PageServices {
   // Sets Modified, writes the recovery file and then the caption.
   void Protect();
   void WriteRecovery();
+  InsertionWork Inserting(PageWork& work);
   void DoUndo();
   void DoRedo();
   void RunColumnCommand(PageWork& work, Command command);

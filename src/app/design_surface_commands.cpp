@@ -2,6 +2,7 @@
 // The page's commands, each in one guard.
 #include "app/design_surface.h"
 #include "app/designer.h"
+#include "app/toolbar_table.h"
 #include "surface/column_lines.h"
 #include "surface/selection.h"
 
@@ -40,6 +41,10 @@ bool DesignSurface::Run(Command command) {
       case Command::OrganizeColumns:
         return RunColumnCommand(work, command);
       default:
+        if (const auto what = InsertionOf(command)) {
+          InsertionWork insertion = Inserting(work);
+          InsertFromMenu(insertion, *what);
+        }
         return;
     }
   });

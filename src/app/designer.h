@@ -196,6 +196,8 @@ class Designer {
   const Document& OpenDocument() const { return document_; }
   AttributeState& Attributes() { return attributes_; }
   DesignerOptions& Options() { return options_; }
+  // What the font and colour tools last gave; what they give is stored here.
+  LastUsed& Last() { return last_; }
   const UserSettings& Settings() const { return settings_; }
   const DesignerFolders& Folders() const { return folders_; }
   const Theme& CurrentTheme() const { return theme_; }
@@ -297,6 +299,7 @@ class Designer {
   AttributeState attributes_;
   LayoutCursor cursor_;
   DesignerOptions options_;
+  LastUsed last_;
   UserSettings settings_;
   DesignerFolders folders_;
   Theme theme_;

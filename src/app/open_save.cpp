@@ -219,7 +219,6 @@ std::optional<std::string> Designer::ChooseTarget(FileChoice choice) {
   }
 }
 
-// Where the sample data lies or should lie; empty where the document names none.
 std::string Designer::SampleDataPath() const {
   const std::string named(Trim(document_.Page->ToUtf8(document_.Settings[Setting::Sample_Kex_file])));
   if (named.empty()) return {};

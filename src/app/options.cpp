@@ -159,6 +159,22 @@ std::optional<FileFailure> SaveOptions(const std::string& path, const DesignerOp
   return WriteWholeFile(path, OptionsText(options));
 }
 
+LastUsed LastUsedIn(const DesignerOptions& options) {
+  const DesignerOptions& o = options;
+  return {
+      {o.LastFontName, o.LastFontSize, false, o.LastFontItalic, o.LastFontUnderline, o.LastFontColor, "0"},
+      {o.LastTextBoxFontName, o.LastTextBoxFontSize, false, o.LastTextBoxFontItalic,
+       o.LastTextBoxFontUnderline, o.LastTextBoxFontColor, o.LastTextBoxFontCharSet}};
+}
+
+void KeepLastUsed(const LastUsed& last, DesignerOptions& options) {
+  options.LastFontName = last.Label.FontName;
+  options.LastFontSize = last.Label.FontSize;
+  options.LastFontColor = last.Label.Color;
+  options.LastFontUnderline = last.Label.Underline;
+  options.LastFontItalic = last.Label.Italic;
+}
+
 UserSettings LoadUserSettings(const std::string& path) {
   const Result<std::string> bytes = ReadWholeFile(path);
   const KeyFile keys(bytes ? std::string_view(*bytes) : std::string_view());

@@ -11,6 +11,7 @@
 
 #include "base/code_page.h"
 #include "base/result.h"
+#include "surface/last_used.h"
 
 namespace kev {
 
@@ -62,6 +63,11 @@ std::string OptionsText(const DesignerOptions& options);
 // Makes the file where it is missing, then reads it. A file that cannot be made or read gives the defaults.
 DesignerOptions LoadOptions(const std::string& path);
 std::optional<FileFailure> SaveOptions(const std::string& path, const DesignerOptions& options);
+
+// What the next text begins with. The options know nothing of bold, and nothing that is chosen for a text box
+// outlives the run.
+LastUsed LastUsedIn(const DesignerOptions& options);
+void KeepLastUsed(const LastUsed& last, DesignerOptions& options);
 
 // A panel or the screen, twips.
 struct PanelArea {

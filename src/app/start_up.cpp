@@ -67,6 +67,7 @@ void Designer::SplashLoad() {
   session_ = NextSession(InDataFolder(folders_, kSessionFile));
   options_ = LoadOptions(InDataFolder(folders_, kLastRunFile));
   optionsRead_ = true;
+  last_ = LastUsedIn(options_);
   settings_ = LoadUserSettings(InDataFolder(folders_, kSettingsFile));
   document_.Page = settings_.Page;
   pictures_.SetPage(*document_.Page);
@@ -121,6 +122,7 @@ std::optional<FileFailure> Designer::ShutDownSilently() {
 std::optional<FileFailure> Designer::WriteLastRunOptions() {
   // A run that ends while it starts must not replace the user's options by the defaults.
   if (!optionsRead_) return std::nullopt;
+  KeepLastUsed(last_, options_);
   std::optional<FileFailure> failure = SaveOptions(InDataFolder(folders_, kLastRunFile), options_);
   // A folder that is missing altogether was told at the start.
   return FolderExists(folders_.DataFolder) ? failure : std::nullopt;

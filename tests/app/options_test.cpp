@@ -243,5 +243,35 @@ TEST_F(OptionsFile, ACounterThatStaysLockedHoldsUpNoStart) {
   ::close(locked);
 }
 
+TEST(LastUsedOptions, GiveTheNextTextsTheirStyles) {
+  DesignerOptions options;
+  options.LastFontName = "Courier New";
+  options.LastFontSize = 14;
+  options.LastFontColor = "1,2,3";
+  options.LastFontUnderline = true;
+  options.LastTextBoxFontName = "Times New Roman";
+  options.LastTextBoxFontSize = 9;
+  options.LastTextBoxFontColor = "4,5,6";
+  options.LastTextBoxFontItalic = true;
+  options.LastTextBoxFontCharSet = "161";
+  const LastUsed last = LastUsedIn(options);
+  EXPECT_EQ(last.Label, (TextStyle{"Courier New", 14, false, false, true, "1,2,3", "0"}));
+  EXPECT_EQ(last.TextBox, (TextStyle{"Times New Roman", 9, false, true, false, "4,5,6", "161"}));
+}
+
+TEST(LastUsedOptions, KeepTheStyleOfLabelsAlone) {
+  LastUsed last;
+  last.Label = {"Courier New", 14, true, true, true, "1,2,3", "0"};
+  last.TextBox.FontName = "Times New Roman";
+  DesignerOptions options;
+  KeepLastUsed(last, options);
+  DesignerOptions expected;
+  expected.LastFontName = "Courier New";
+  expected.LastFontSize = 14;
+  expected.LastFontColor = "1,2,3";
+  expected.LastFontItalic = expected.LastFontUnderline = true;
+  EXPECT_EQ(options, expected);
+}
+
 }  // namespace
 }  // namespace kev

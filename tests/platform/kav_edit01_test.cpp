@@ -625,5 +625,32 @@ TEST_F(KavEdit01Test, AFileThatIsNoTemplateIsRefusedAndTheOpenOneStays) {
   EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev - Kev Visual Editor"));
 }
 
+// --- The tools
+
+TEST_F(KavEdit01Test, AToolButtonStaysDownUntilTheToolIsGivenUp) {
+  Start();
+  QToolButton& box = Find<QToolButton>("ImgButton8");
+  QToolButton& label = Find<QToolButton>("ImgButton6");
+  QTest::mouseClick(&box, Qt::LeftButton);
+  EXPECT_TRUE(box.isChecked());
+  EXPECT_EQ(designer->Surface().Pointer().PendingTool, "BOX");
+  QTest::mouseClick(&label, Qt::LeftButton);
+  EXPECT_FALSE(box.isChecked());
+  EXPECT_TRUE(label.isChecked());
+  QTest::mouseClick(&label, Qt::LeftButton);
+  EXPECT_FALSE(label.isChecked());
+  EXPECT_EQ(designer->Surface().Pointer().PendingTool, "");
+  QTest::mouseClick(&box, Qt::LeftButton);
+  QTest::keyClick(&Page(), Qt::Key_Escape);
+  EXPECT_FALSE(box.isChecked());
+}
+
+TEST_F(KavEdit01Test, TheZoomBoxStandsInTheFirstBar) {
+  Start();
+  EXPECT_EQ(Zoom().parentWidget()->objectName(), QStringLiteral("toolbar1"));
+  EXPECT_EQ(Find<QToolButton>("ImgButton1").parentWidget(), Zoom().parentWidget());
+  EXPECT_EQ(Find<QToolButton>("ImgButton6").parentWidget()->objectName(), QStringLiteral("toolbar2"));
+}
+
 }  // namespace
 }  // namespace kev

@@ -37,6 +37,7 @@
 #include "platform/forms/set_this_column.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/sub_section_propert.h"
+#include "platform/forms/tool_bars.h"
 #include "platform/forms/zoom_box.h"
 #include "platform/forms/zoom_menu.h"
 #include "platform/text_bridge.h"
@@ -121,23 +122,25 @@ QString KavEdit01::MenuCaption(int text) const {
 }
 
 void KavEdit01::BuildToolRow() {
-  auto* bar = new QToolBar(this);
-  bar->setObjectName(QStringLiteral("toolbar1"));
-  bar->setAccessibleName(ToQString(designer_.Text(kTextTools)));
-  bar->setMovable(false);
-  bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  auto* label = new QLabel(MenuCaption(kTextMenuZoom), bar);
+  toolBars_ = new ToolBars(*this, designer_,
+                           {[this](Command command) { Run(command); },
+                            [this](std::string_view tool) {
+                              designer_.Surface().ToggleTool(tool);
+                              // Escape gives the tool up.
+                              page_.Canvas().setFocus();
+                            }});
+  QToolBar& bar = toolBars_->First();
+  bar.addSeparator();
+  auto* label = new QLabel(MenuCaption(kTextMenuZoom), &bar);
   label->setObjectName(QStringLiteral("zoomlabel"));
   label->setContentsMargins(8, 0, 6, 0);
-  zoomBox_ = new ZoomBox(bar);
+  zoomBox_ = new ZoomBox(&bar);
   zoomBox_->setAccessibleName(ToQString(designer_.Text(kTextMenuZoom)));
   label->setBuddy(zoomBox_);
-  bar->addWidget(label);
-  bar->addWidget(zoomBox_);
-  columnBox_ = new Combocol(ToQString(designer_.Text(kTextToolColumn)), bar);
-  bar->addWidget(columnBox_);
-  ColourBar(*bar, designer_.CurrentTheme().ToolbarColour());
-  addToolBar(bar);
+  bar.addWidget(label);
+  bar.addWidget(zoomBox_);
+  columnBox_ = new Combocol(ToQString(designer_.Text(kTextToolColumn)), &bar);
+  bar.addWidget(columnBox_);
   connect(zoomBox_, &ZoomBox::ZoomChosen, this, &KavEdit01::SetZoom);
   connect(columnBox_, &Combocol::ColumnChosen, this,
           [this](int item) { designer_.Surface().ChooseColumn(item); });
@@ -409,7 +412,9 @@ void KavEdit01::FindingsChanged() {
 }
 
 void KavEdit01::CommandsChanged() {
-  menus_->ShowEnabled([this](Command command) { return designer_.Enabled(command); });
+  const auto enabled = [this](Command command) { return designer_.Enabled(command); };
+  menus_->ShowEnabled(enabled);
+  toolBars_->Show(enabled, designer_.Surface().Pointer().PendingTool);
   input_.RefreshCursor();
 }
 

@@ -12,8 +12,6 @@
 #include "platform/page_view.h"
 #include "platform/qt_host.h"
 
-class QToolBar;
-
 namespace kev {
 
 class Combocol;
@@ -23,6 +21,7 @@ class PanelPlace;
 class PageFrame;
 class ProgressWindow;
 class StatusPanels;
+class ToolBars;
 class ZoomBox;
 class ZoomMenu;
 
@@ -96,6 +95,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   PanelPlace* panel_ = nullptr;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
+  ToolBars* toolBars_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;
   Combocol* columnBox_ = nullptr;
   StatusPanels* status_ = nullptr;

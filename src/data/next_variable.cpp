@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "data/next_variable.h"
+
+#include <algorithm>
+
+#include "base/files.h"
+#include "base/text.h"
+
+namespace kev {
+namespace {
+
+bool IsShown(const Document& document, std::string_view ownerName, std::string_view name) {
+  const ObjectTable& objects = document.Objects;
+  for (int row = 1; row <= objects.LastScanned(); ++row) {
+    const ObjectRecord& record = objects[row];
+    if (record.Kind == ObjectKind::Label && record.OwnerName == ownerName &&
+        document.Page->ContainsIgnoringCase(record.Content, name))
+      return true;
+  }
+  return false;
+}
+
+void AddName(std::vector<std::string>& names, std::string_view name) {
+  if (!Trim(name).empty()) names.emplace_back(Trim(name));
+}
+
+}  // namespace
+
+SampleForm SampleFormOf(std::string_view path) {
+  const std::string upper = CodePage::Default().Upper(path);
+  if (upper.ends_with(".KEX") || upper.ends_with(".KX")) return SampleForm::Records;
+  if (upper.ends_with(".KED") || upper.ends_with(".KD")) return SampleForm::Variables;
+  return SampleForm::None;
+}
+
+std::vector<std::string> VariablesIn(std::string_view bytes) {
+  std::vector<std::string> names;
+  while (!bytes.empty()) {
+    const std::string_view line = Trim(TakeLine(bytes));
+    if (line.starts_with('@')) AddName(names, NthToken(line, 1, '='));
+  }
+  return names;
+}
+
+std::vector<std::string> FieldsInTitle(std::string_view sectionTitle) {
+  const std::size_t colon = sectionTitle.rfind(':');
+  if (colon == std::string_view::npos) return {};
+  std::string_view list = Trim(sectionTitle.substr(colon + 1));
+  if (list.ends_with(']')) list.remove_suffix(1);
+  std::vector<std::string> names;
+  while (!list.empty()) {
+    const std::size_t comma = std::min(list.find(','), list.size());
+    AddName(names, list.substr(0, comma));
+    list.remove_prefix(std::min(comma + 1, list.size()));
+  }
+  return names;
+}
+
+std::optional<std::string> FirstUnused(const Document& document, std::string_view ownerName,
+                                       const std::vector<std::string>& names) {
+  const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
+    return !IsShown(document, ownerName, name);
+  });
+  return found == names.end() ? std::nullopt : std::optional(*found);
+}
+
+NextVariable FindNextVariable(const Document& document, int ownerRow, const std::string& samplePath) {
+  const ObjectRecord& bar = document.Objects[ownerRow];
+  switch (SampleFormOf(samplePath)) {
+    case SampleForm::None:
+      return {};
+    case SampleForm::Records:
+      return {FirstUnused(document, bar.SectionName, FieldsInTitle(bar.SectionTitle))};
+    case SampleForm::Variables:
+      break;
+  }
+  const Result<std::string> bytes = ReadWholeFile(samplePath);
+  if (!bytes) return {std::nullopt, true};
+  return {FirstUnused(document, bar.SectionName, VariablesIn(*bytes))};
+}
+
+}  // namespace kev

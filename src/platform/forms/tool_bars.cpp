@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "platform/forms/tool_bars.h"
+
+#include <QMainWindow>
+#include <QToolBar>
+#include <QToolButton>
+#include <string>
+#include <utility>
+
+#include "platform/app_style.h"
+#include "platform/fonts.h"
+#include "platform/svg_icon.h"
+#include "platform/text_bridge.h"
+
+namespace kev {
+namespace {
+
+constexpr QSize kIconSize(22, 22);
+
+QString TooltipOf(const ToolButtonRow& row, const Designer& designer) {
+  return ToQString(row.tooltip != 0 ? std::string_view(designer.Text(row.tooltip)) : row.fixedTooltip);
+}
+
+// A button without a tooltip is called by its command.
+QString NameOf(const ToolButtonRow& row, const Designer& designer) {
+  const QString tooltip = TooltipOf(row, designer);
+  return tooltip.isEmpty() && row.command ? ToQString(designer.Text(RowOf(*row.command).text)) : tooltip;
+}
+
+QString ImageOf(const ToolButtonRow& row, const Designer& designer) {
+  const std::string name =
+      std::string(kButtonImages) + std::string(row.image) + std::string(kButtonImageEnding);
+  return FromNative(InProgramFolder(designer.Folders(), name));
+}
+
+}  // namespace
+
+ToolBars::ToolBars(QMainWindow& window, const Designer& designer, Actions actions)
+    : QObject(&window), actions_(std::move(actions)) {
+  first_ = NewBar(window, designer, "toolbar1", kTextTools);
+  second_ = NewBar(window, designer, "toolbar2", kTextMenuInsert);
+  for (const ToolButtonRow& row : kToolButtons)
+    if (row.command || !row.tool.empty()) AddButton(row, designer);
+}
+
+QToolBar* ToolBars::NewBar(QMainWindow& window, const Designer& designer, const char* name, int text) {
+  auto* bar = new QToolBar(&window);
+  bar->setObjectName(QLatin1String(name));
+  bar->setAccessibleName(ToQString(designer.Text(text)));
+  bar->setMovable(false);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  ColourBar(*bar, designer.CurrentTheme().ToolbarColour());
+  window.addToolBar(bar);
+  return bar;
+}
+
+void ToolBars::AddButton(const ToolButtonRow& row, const Designer& designer) {
+  QToolBar& bar = row.bar == ToolBarId::First ? *first_ : *second_;
+  if (row.separatorBefore && !bar.actions().isEmpty()) bar.addSeparator();
+  auto* button = new QToolButton(&bar);
+  button->setObjectName(ToQString(row.name));
+  button->setToolTip(TooltipOf(row, designer));
+  button->setAccessibleName(NameOf(row, designer));
+  // Shown where the image can't be had.
+  button->setText(NameOf(row, designer));
+  button->setIcon(SvgIcon(ImageOf(row, designer)));
+  button->setIconSize(kIconSize);
+  button->setAutoRaise(true);
+  button->setFocusPolicy(Qt::TabFocus);
+  bar.addWidget(button);
+  Connect(*button, row);
+  buttons_.push_back({row, button});
+}
+
+void ToolBars::Connect(QToolButton& button, const ToolButtonRow& row) {
+  if (row.command) {
+    connect(&button, &QToolButton::clicked, this, [this, id = *row.command] { actions_.run(id); });
+    return;
+  }
+  button.setCheckable(true);
+  connect(&button, &QToolButton::clicked, this, [this, tool = row.tool] { actions_.toggleTool(tool); });
+}
+
+void ToolBars::Show(const std::function<bool(Command)>& enabled, std::string_view pendingTool) {
+  for (const auto& [row, button] : buttons_) {
+    if (row.command) {
+      button->setEnabled(enabled(*row.command));
+    } else {
+      button->setChecked(row.tool == pendingTool);
+    }
+  }
+}
+
+}  // namespace kev
