@@ -165,6 +165,25 @@ TEST_F(Inserted, ALabelBeginsWithTheLastFontAndTheOptionsKeepIt) {
   EXPECT_EQ(kept, (TextStyle{"Courier New", 12, false, true, true, "1,2,3", "0"}));
 }
 
+TEST_F(Inserted, AClickPutsTheToolsObjectThereAndSelectsIt) {
+  const double x = 900, y = surface_->Pointer().LastY + 150;
+  surface_->Pointer().ForgetPosition();
+  surface_->ToggleTool("BOX");
+  PointerInput at{PointerSource::Page, 0, PointerButton::Left, 0, x, y};
+  EXPECT_EQ(surface_->Cursor(at), CursorShape::Cross);
+  surface_->PointerPress(at);
+  surface_->PointerRelease(at);
+  at.Button = PointerButton::None;
+  surface_->PointerMove(at);
+  EXPECT_EQ(CountOf(*designer_, ObjectKind::Box), 1);
+  EXPECT_EQ(Current().Kind, ObjectKind::Box);
+  EXPECT_EQ(Current().XValue, "900");
+  EXPECT_NE(surface_->Cursor(at), CursorShape::Cross);
+  surface_->PointerPress({PointerSource::Page, 0, PointerButton::Left, 0, x + 3000, y + 600});
+  surface_->PointerRelease({PointerSource::Page, 0, PointerButton::Left, 0, x + 3000, y + 600});
+  EXPECT_EQ(CountOf(*designer_, ObjectKind::Box), 1);
+}
+
 // --- The tool bars
 
 TEST(ToolButtons, StandOnceEachUnderTheirOwnNames) {
