@@ -95,6 +95,9 @@ bool LayerWidget::Holds(const QPointF& point) const {
 
 SurfaceOps& LayerWidget::BeginPainting() {
   paintedAt_ = place_;
+  // A list paints nothing outside its canvas.
+  list_.SetScaleLeft(Room().left());
+  list_.SetCanvasSize(Room().width(), Room().bottom());
   update();
   return list_;
 }

@@ -94,6 +94,7 @@ class Program:
 
     def find_page(self):
         """The corner of the page's frame on the screen, once it is painted."""
+        self.picture_settles()
         self.origin = wait_for("the page", self.corner)
 
     def corner(self):
@@ -134,6 +135,10 @@ class Program:
         keys = (["keydown", shift], ["keyup", shift]) if shift else ([], [])
         xdotool("mousemove", px, py, *keys[0], "mousedown", 1, *moves, *(["mouseup", 1] if release else []), *keys[1])
 
+    def pause(self):
+        """Long enough for the next press not to make a double click of two."""
+        time.sleep(0.6)
+
     def key(self, *names):
         for name in names:
             xdotool("key", "--clearmodifiers", name)
@@ -146,15 +151,15 @@ class Program:
         self.type(str(percent))
         self.key("Return")
         self.zoom = percent / 100
-        self.picture_settles()
+        # Up and to the left, as far as it goes.
+        xdotool("mousemove", 500, 500, "click", "--repeat", 40, "--delay", 5, 4, "click", "--repeat", 40, "--delay", 5, 6)
         self.find_page()
 
     def picture_settles(self):
-        before = None
-        while True:
+        before, same = None, 0
+        while same < 3:
             now = screen()
-            if now == before:
-                return
+            same = same + 1 if now == before else 0
             before = now
             time.sleep(0.05)
 
