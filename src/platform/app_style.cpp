@@ -67,7 +67,6 @@ QMenu::separator { height: 1px; background: #e3e6ea; margin: 5px 8px; }
 QMenu::indicator { left: 7px; width: 13px; height: 13px; }
 QStatusBar { background: #ffffff; border-top: 1px solid #e3e6ea; }
 QStatusBar::item { border: none; }
-QMessageBox QLabel#qt_msgbox_label { min-width: 260px; }
 QDockWidget::title { background: #ffffff; padding: 7px 10px; border-bottom: 1px solid #e3e6ea; }
 QToolTip { padding: 4px 6px; border: none; }
 #progresswindow { background: #ffffff; border: 1px solid #cfd5dc; border-radius: 8px; }

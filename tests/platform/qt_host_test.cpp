@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -14,6 +15,7 @@
 #include <QTimer>
 #include <fstream>
 
+#include "platform/app_style.h"
 #include "platform/file_dialog.h"
 #include "platform/print_qt.h"
 
@@ -48,6 +50,23 @@ TEST(QtHostMessages, ShowTitleTextDetailAndTheirButtons) {
   EXPECT_EQ(text, QString::fromUtf8("Save\nFile: /t/<b>ñ</b>.kev"));
   EXPECT_EQ(title, QStringLiteral("Kev"));
   EXPECT_EQ(yes, QString::fromUtf8("Sí"));
+}
+
+// In the style of the program, where a rule of the style once cut the text.
+TEST(QtHostMessages, ShowTheWholeOfALongText) {
+  ApplyStyle(*qApp);
+  QtHost host;
+  WhenModal([](QWidget& modal) {
+    const auto* label = modal.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    ASSERT_NE(label, nullptr);
+    EXPECT_TRUE(label->wordWrap() ? label->height() >= label->heightForWidth(label->width())
+                                  : label->width() >= label->sizeHint().width())
+        << label->width();
+    modal.close();
+  });
+  host.ShowMessage({"Kev", "The saved template uses columns that will get other names. Organize them all?", "",
+                    BoxIcon::Warning, BoxButtons::YesNo});
+  qApp->setStyleSheet(QString());
 }
 
 BoxAnswer AnswerToEscape(BoxButtons buttons) {
