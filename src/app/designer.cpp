@@ -164,6 +164,8 @@ void Designer::ShowCaption() {
 }
 
 bool Designer::SetZoom(std::string_view text) {
+  // The text box would stay behind at the place and in the size of the old zoom.
+  surface_.CommitOpenEdits();
   const double percent = NumericPrefix(text);
   const double before = zoomPercent_;
   const bool good = percent >= kSmallestZoom && percent <= kLargestZoom;

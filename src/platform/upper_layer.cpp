@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "platform/layer_widget.h"
-#include "platform/text_bridge.h"
 
 namespace kev {
 namespace {
@@ -59,7 +58,8 @@ SurfaceOps& UpperLayer::SurfaceOf(std::string_view name) {
 
 void UpperLayer::SetWidgetText(std::string_view name, std::string_view text) {
   LayerWidget& widget = Widget(name);
-  widget.SetText(ToQString(text));
+  // Names of columns are the template's.
+  widget.SetText(fonts_.Text({}, text));
   const QRectF place = widget.Place();
   if (widget.Row().look == LayerLook::Caption)
     PlaceWidget(name, place.left(), place.top(), 0, place.height());

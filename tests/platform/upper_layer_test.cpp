@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "platform/upper_layer.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/layer_widget.h"
+#include "platform/print_qt.h"
+
+namespace kev {
+namespace {
+
+class UpperLayerTest : public testing::Test {
+ protected:
+  QString ShownText(const char* name) {
+    auto* widget = dynamic_cast<LayerWidget*>(canvas_.findChild<QWidget*>(QString::fromLatin1(name)));
+    return widget == nullptr ? QStringLiteral("no such widget") : widget->Text();
+  }
+
+  FontCache fonts_{*CodePage::Find("windows-1251")};
+  ImageCache images_{{}};
+  DisplayList list_{fonts_, images_};
+  PageCanvas canvas_{list_};
+  UpperLayer layer_{canvas_, fonts_, images_};
+};
+
+TEST_F(UpperLayerTest, NamesOfColumnsAreReadInThePageOfTheTemplate) {
+  const QString name = QStringLiteral("$\u041A\u043E\u043B");
+  layer_.PlaceWidget("linecolumn(1)", 1500, 0, 15, 9000);
+  layer_.SetWidgetText("linecolumn(1)", "$\xCA\xEE\xEB");
+  layer_.ShowWidget("linecolumn(1)", true);
+  EXPECT_EQ(layer_.TipAt({1500, 300}), name);
+  layer_.SetWidgetText("indicatorCOLUMN", "$\xCA\xEE\xEB = 1500  ");
+  EXPECT_EQ(ShownText("indicatorCOLUMN"), name + QStringLiteral(" = 1500  "));
+}
+
+TEST_F(UpperLayerTest, ALineIsHadFromTwoPixelsBesideIt) {
+  layer_.PlaceWidget("linecolumn(7)", 1500, 0, 15, 9000);
+  layer_.ShowWidget("linecolumn(7)", true);
+  for (const double x : {1470.0, 1500.0, 1530.0}) {
+    EXPECT_EQ(layer_.At({x, 300}).Source, PointerSource::ColumnLine) << x;
+    EXPECT_EQ(layer_.At({x, 300}).Index, 7) << x;
+  }
+  EXPECT_EQ(layer_.At({1469, 300}).Source, PointerSource::Page);
+  EXPECT_EQ(layer_.At({1531, 300}).Source, PointerSource::Page);
+}
+
+TEST_F(UpperLayerTest, GuidesLetThePointerThrough) {
+  layer_.PlaceWidget("linecolumn(7)", 1500, 0, 15, 9000);
+  layer_.ShowWidget("linecolumn(7)", true);
+  layer_.PlaceWidget("indicatorX", 1500, 0, 15, 9000);
+  layer_.ShowWidget("indicatorX", true);
+  EXPECT_EQ(layer_.At({1500, 300}).Source, PointerSource::ColumnLine);
+}
+
+}  // namespace
+}  // namespace kev
