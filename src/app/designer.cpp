@@ -164,6 +164,7 @@ void Designer::ShowCaption() {
 }
 
 bool Designer::SetZoom(std::string_view text) {
+  surface_.CommitOpenEdits();
   const double percent = NumericPrefix(text);
   const double before = zoomPercent_;
   const bool good = percent >= kSmallestZoom && percent <= kLargestZoom;
@@ -184,6 +185,7 @@ bool Designer::SetZoom(std::string_view text) {
 }
 
 bool Designer::SetFilter(DisplayFilter filter) {
+  surface_.CommitOpenEdits();
   const DisplayFilter before = std::exchange(filter_, filter);
   return GuardedView([this] { surface_.FilterChanged(); }, [&] { filter_ = before; });
 }
