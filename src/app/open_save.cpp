@@ -182,6 +182,8 @@ bool Designer::AskAndNew() {
 }
 
 bool Designer::AskToSave() {
+  // What is being typed belongs to the document that is given up.
+  surface_.CommitOpenEdits();
   if (!modified_) return true;
   const BoxAnswer answer = host_.ShowMessage({std::string(kClosingTitle), Text(kTextSaveChanges) + " ",
                                               documentTitle_, BoxIcon::Question, BoxButtons::YesNoCancel});

@@ -113,6 +113,16 @@ void RenameInObjects(Document& document) {
   }
 }
 
+// The texts of all that organising may rename.
+std::vector<std::string> PositionTexts(const Document& document) {
+  std::vector<std::string> texts;
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+    texts.push_back(document.Objects[row].XValue);
+    texts.push_back(document.Objects[row].X2Value);
+  }
+  return texts;
+}
+
 std::vector<double> ObjectPlaces(const Document& document) {
   std::vector<double> places;
   for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
@@ -196,11 +206,15 @@ void OrganizeColumns(PageWork& work, const SavedText& savedText) {
   if (!MayOrganize(work, savedText)) return;
   Document& document = work.document;
   const std::vector<double> before = ObjectPlaces(document);
-  work.services.MarkChanged();
+  const ColumnTable columnsBefore = document.Columns;
+  const std::vector<std::string> textsBefore = PositionTexts(document);
   SortAndRename(document.Columns);
   RenameInObjects(document);
   for (int slot = 1; slot <= ColumnTable::kLastSlot; ++slot)
     document.Columns[slot].PreviousName.clear();
+  // Columns that were in order lose nobody a redo.
+  if (document.Columns != columnsBefore || PositionTexts(document) != textsBefore)
+    work.services.MarkChanged();
   ShowColumnText(work, {});
   work.services.SelectionChanged();
   if (ObjectPlaces(document) != before) work.services.FullRepaint();

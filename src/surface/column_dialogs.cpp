@@ -195,9 +195,11 @@ bool AcceptSetColumn(PageWork& work, SetColumnDialog& dialog, const SavedText& s
   Column& column = document.Columns[dialog.Slot];
   const bool sameName = document.Page->EqualsIgnoringCase(column.Name, Trim(dialog.Text2));
   if (!sameName && !Rename(work, dialog, savedText)) return false;
+  const double position = NumericPrefix(dialog.Text1);
+  if (column.Name == Trim(dialog.Text2) && column.Position == position) return true;
   work.services.MarkChanged();
   column.Name = Trim(dialog.Text2);
-  StorePosition(work, dialog.Slot, NumericPrefix(dialog.Text1));
+  StorePosition(work, dialog.Slot, position);
   ShowPageAnew(work);
   return true;
 }

@@ -266,6 +266,21 @@ TEST_F(ColumnCommandsOfDesigner, TheDialogOfOneColumnRenamesItAfterTheQuestionsO
   EXPECT_TRUE(designer_->Modified());
 }
 
+TEST_F(ColumnCommandsOfDesigner, WhatChangesNothingNeitherMarksNorForgetsRedo) {
+  StartWith("$Col_01=3000\r\n", "{$Col_01;}A{\\n}\r\n");
+  designer_->Surface().PushUndo();
+  designer_->Run(Command::Undo);
+  ASSERT_TRUE(designer_->Save());
+  ASSERT_TRUE(designer_->Enabled(Command::Redo));
+  Pointer().MenuAt.Slot = 1;
+  view_.OnSetThisColumn = [](SetColumnRun& run) { EXPECT_TRUE(run.Accept()); };
+  designer_->Run(Command::SetColumn);
+  host_.Answers = {BoxAnswer::YesToAll};
+  designer_->Run(Command::OrganizeColumns);
+  EXPECT_FALSE(designer_->Modified());
+  EXPECT_TRUE(designer_->Enabled(Command::Redo));
+}
+
 TEST_F(ColumnCommandsOfDesigner, ARefusedNameLeavesTheDialogOpen) {
   StartWith("$Col_01=3000\r\n");
   Pointer().MenuAt.Slot = 1;

@@ -35,6 +35,9 @@ class CountingView final : public DesignerView {
   // What the user does in the dialogs of the columns.
   std::function<void(ColumnsDialogRun&)> OnColumnsDialog;
   std::function<void(SetColumnRun&)> OnSetThisColumn;
+  // What the user does in the dialog of a subsection; the second is its OK.
+  std::function<void(SubsectionDialog&, const std::function<bool()>&)> OnSubsection;
+  std::function<void()> OnCommitOpenCell;
 
   void DocumentReplaced() override { ++Replaced; }
   SurfaceOps& Canvas() override { return Page; }
@@ -54,6 +57,12 @@ class CountingView final : public DesignerView {
   }
   void OpenSetThisColumn(SetColumnRun& run) override {
     if (OnSetThisColumn) OnSetThisColumn(run);
+  }
+  void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override {
+    if (OnSubsection) OnSubsection(dialog, accept);
+  }
+  void CommitOpenCell() override {
+    if (OnCommitOpenCell) OnCommitOpenCell();
   }
 };
 
@@ -88,10 +97,7 @@ class DesignerTest : public testing::Test {
                        const auto found = variables.find(std::string(name));
                        return found == variables.end() ? std::nullopt : std::optional(found->second);
                      },
-                     root_ / "program", std::move(arguments),
-                     [] {
-                       return ClockTime{9, 5, 30};
-                     }};
+                     root_ / "program", std::move(arguments), clock_};
     auto designer = std::make_unique<Designer>(host_, measurer_, std::move(input));
     designer->AttachView(&view_);
     return designer;
@@ -117,6 +123,7 @@ class DesignerTest : public testing::Test {
 
   TemporaryFolder root_;
   std::map<std::string, std::string> variables_ = {{"TEMP", root_ / "temp"}, {"appdata", root_ / "data"}};
+  std::function<ClockTime()> clock_ = [] { return ClockTime{9, 5, 30}; };
   ScriptedHost host_;
   BuiltInMeasurer measurer_;
   CountingView view_;

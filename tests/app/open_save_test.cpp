@@ -201,6 +201,49 @@ TEST_F(Saving, AFailureIsToldAndLeavesFileAndMark) {
   EXPECT_EQ(host_.Status, "");
 }
 
+TEST_F(Saving, WhatIsBeingTypedCountsWhereTheDocumentIsGivenUp) {
+  const auto designer = Start({Made("a.kev", TemplateWith(Labels(1)))});
+  const int row = FirstOf(*designer, ObjectKind::Label);
+  const auto type = [&](const std::string& text) {
+    designer->Surface().GoToObject(row);
+    ASSERT_TRUE(designer->Surface().KeyDown('N', 0, "n"));
+    designer->Surface().FieldTextChanged(text);
+  };
+  type("new");
+  ASSERT_FALSE(designer->Modified());
+  host_.Answers = {BoxAnswer::Cancel};
+  EXPECT_FALSE(designer->MayClose());
+  EXPECT_EQ(host_.Messages.size(), 1U);
+  EXPECT_EQ(designer->OpenDocument().Objects[row].Content, "new");
+  type("newer");
+  host_.Answers = {BoxAnswer::Yes};
+  EXPECT_TRUE(designer->AskAndNew());
+  EXPECT_NE(ReadWholeFile(Work("a.kev"))->find("newer"), std::string::npos);
+}
+
+TEST_F(Saving, ACellThatIsOpenIsStoredBeforeTheQuestion) {
+  const auto designer = Start();
+  view_.OnCommitOpenCell = [&] { designer->MarkModified(); };
+  host_.Answers = {BoxAnswer::Cancel};
+  EXPECT_FALSE(designer->MayClose());
+}
+
+TEST_F(Saving, AnotherZoomOrFilterStoresWhatIsBeingTyped) {
+  const auto designer = Start({Made("a.kev", TemplateWith(Labels(1)))});
+  const int row = FirstOf(*designer, ObjectKind::Label);
+  for (const bool zoom : {true, false}) {
+    designer->Surface().GoToObject(row);
+    ASSERT_TRUE(designer->Surface().KeyDown('N', 0, "n"));
+    designer->Surface().FieldTextChanged(zoom ? "zoomed" : "filtered");
+    if (zoom)
+      EXPECT_TRUE(designer->SetZoom("50"));
+    else
+      EXPECT_TRUE(designer->SetFilter(DisplayFilter::Print));
+    EXPECT_FALSE(designer->Surface().Edit().Active());
+    EXPECT_EQ(designer->OpenDocument().Objects[row].Content, zoom ? "zoomed" : "filtered");
+  }
+}
+
 TEST_F(Saving, AFailedOrCancelledSaveStopsTheClose) {
   const auto designer = Start();
   designer->MarkModified();
