@@ -106,8 +106,9 @@ void DesignSurface::ZoomChanged(double before) {
 void DesignSurface::FilterChanged() {
   PageWork work = Work();
   EndGroup(work);
-  Deselect(work);
   Redraw();
+  // The current row stays where it is still shown.
+  ShowCurrentAgain(work);
   SelectionChanged();
 }
 

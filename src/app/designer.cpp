@@ -164,6 +164,8 @@ void Designer::ShowCaption() {
 }
 
 bool Designer::SetZoom(std::string_view text) {
+  // The text box was laid over a label of the old size.
+  surface_.EndFieldScreen(true);
   const double percent = NumericPrefix(text);
   const double before = zoomPercent_;
   const bool good = percent >= kSmallestZoom && percent <= kLargestZoom;
