@@ -68,6 +68,8 @@ bool DesignSurface::KeyDown(int code, int shift, std::string_view text) {
       if (!pointer_.PendingTool.empty()) {
         pointer_.PendingTool.clear();
         CommandsChanged();
+      } else if (edit_.Active()) {
+        CancelTextEdit(work, edit_);
       } else if (pointer_.MultiSelected) {
         EndGroup(work);
         FullRepaint();

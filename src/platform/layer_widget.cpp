@@ -157,11 +157,7 @@ void LayerWidget::PaintGrip(QPainter& painter) {
 }
 
 void LayerWidget::PaintStroke(QPainter& painter) {
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(kAccent, 1.5, Qt::DashLine));
-  const QPointF corner = Room().topLeft();
-  painter.drawLine((place_.topLeft() - corner) / kUnitsPerPixel,
-                   (place_.bottomRight() - corner) / kUnitsPerPixel);
+  list_.Paint(painter, Grown(paintedAt_.normalized(), kMargin));
 }
 
 void LayerWidget::PaintColumn(QPainter& painter) {

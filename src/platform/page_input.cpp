@@ -7,11 +7,14 @@
 #include <QToolTip>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "app/designer.h"
 #include "base/text_numbers.h"
 #include "platform/forms/field_screen.h"
 #include "platform/text_bridge.h"
+#include "surface/page_keys.h"
+#include "surface/press_rules.h"
 
 namespace kev {
 namespace {
@@ -96,11 +99,12 @@ PageInput::PageInput(Designer& designer, PageCanvas& canvas, UpperLayer& layer, 
 // ----------------------------------------------------------------------------------------------------
 
 PointerInput PageInput::InputAt(const PagePointer& event) const {
-  PointerInput input = layer_.At(event.canvas);
+  // Whole units: the page lies between pixels where its margin does, and a place on an edge must be on it.
+  const QPointF at(std::round(event.canvas.x()), std::round(event.canvas.y()));
+  const PageWork work = designer_.Surface().Work();
+  PointerInput input = layer_.At(at, [&](const PointerInput& hit) { return TakesPointer(work, hit); });
   input.Button = ButtonOf(event);
   input.Shift = ShiftState(event.modifiers);
-  input.X = event.canvas.x();
-  input.Y = event.canvas.y();
   if (overRuler_ && overRuler_(canvas_.viewport()->mapToGlobal(canvas_.ToViewport(event.canvas).toPoint())))
     input.Source = PointerSource::Ruler;
   return input;
@@ -116,6 +120,7 @@ void PageInput::OnPointer(const PagePointer& event) {
       if (!known) return;
       doubleClicked_ = false;
       followed_ = canvas_.ListHeight();
+      if (event.button == Qt::LeftButton) press_ = input;
       surface.PointerPress(input);
       edgeTimer_.start();
       break;
@@ -165,8 +170,11 @@ void PageInput::ScrollAtEdge() {
   FollowCanvas();
 }
 
+// What is being sized keeps its shape, however far the pointer gets from it.
 void PageInput::ShowCursor(const PointerInput& input) {
-  const CursorShape shape = designer_.Surface().Cursor(input);
+  const PointerState& pointer = designer_.Surface().Pointer();
+  const bool sizing = pointer.ResizeDrag || pointer.LineEndDrag;
+  const CursorShape shape = designer_.Surface().Cursor(sizing ? press_ : input);
   for (const auto& [known, cursor] : kCursors)
     if (known == shape && canvas_.viewport()->cursor().shape() != cursor)
       canvas_.viewport()->setCursor(cursor);
@@ -209,8 +217,10 @@ bool PageInput::OnKey(const QKeyEvent& event) {
   const std::optional<std::string> text =
       types ? FromQString(event.text(), PageOfKeys(), &refused) : std::string();
   if (!text) {
-    TellRefused(refused);
-    return true;
+    const PageWork work = designer_.Surface().Work();
+    const bool wanted = EffectOfKey(work, code, ShiftState(event.modifiers())) == KeyEffect::EditText;
+    if (wanted) TellRefused(refused);
+    return wanted;
   }
   const bool taken = designer_.Surface().KeyDown(code, ShiftState(event.modifiers()), *text);
   RefreshCursor();

@@ -57,6 +57,7 @@ class PageInput final : public QObject {
   std::function<void()> allowed_;
   QTimer edgeTimer_;
   PagePointer last_;
+  PointerInput press_;
   bool doubleClicked_ = false;
   std::function<bool(const QPoint&)> overRuler_;
   double followed_ = 0;

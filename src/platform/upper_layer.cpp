@@ -10,6 +10,10 @@ namespace {
 
 constexpr double kCaptionRoom = 20 * kUnitsPerPixel;
 
+PointerInput InputOver(const LayerWidget& widget, const QPointF& at) {
+  return {.Source = widget.Row().source, .Index = widget.Index(), .X = at.x(), .Y = at.y()};
+}
+
 }  // namespace
 
 UpperLayer::UpperLayer(PageCanvas& canvas, FontCache& fonts, ImageCache& images)
@@ -65,28 +69,24 @@ void UpperLayer::SetWidgetText(std::string_view name, std::string_view text) {
     PlaceWidget(name, place.left(), place.top(), 0, place.height());
 }
 
-const LayerWidget* UpperLayer::Topmost(const QPointF& canvasPoint) const {
+const LayerWidget* UpperLayer::Topmost(const QPointF& canvasPoint, const Takes& takes) const {
   const LayerWidget* best = nullptr;
   for (const auto& [name, widget] : widgets_) {
     if (widget->isHidden() || !widget->Row().held || !widget->Holds(canvasPoint)) continue;
-    if (best == nullptr || widget->Row().level > best->Row().level) best = widget;
+    if (best != nullptr && widget->Row().level <= best->Row().level) continue;
+    if (takes(InputOver(*widget, canvasPoint))) best = widget;
   }
   return best;
 }
 
-PointerInput UpperLayer::At(const QPointF& canvasPoint) const {
-  PointerInput input;
-  input.X = canvasPoint.x();
-  input.Y = canvasPoint.y();
-  if (const LayerWidget* widget = Topmost(canvasPoint)) {
-    input.Source = widget->Row().source;
-    input.Index = widget->Index();
-  }
-  return input;
+PointerInput UpperLayer::At(const QPointF& canvasPoint, const Takes& takes) const {
+  const LayerWidget* widget = Topmost(canvasPoint, takes);
+  return widget != nullptr ? InputOver(*widget, canvasPoint)
+                           : PointerInput{.X = canvasPoint.x(), .Y = canvasPoint.y()};
 }
 
 QString UpperLayer::TipAt(const QPointF& canvasPoint) const {
-  const LayerWidget* widget = Topmost(canvasPoint);
+  const LayerWidget* widget = Topmost(canvasPoint, [](const PointerInput&) { return true; });
   return widget == nullptr ? QString() : widget->Text();
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -29,15 +30,16 @@ class UpperLayer final : public QObject, public WidgetLayer {
   SurfaceOps& SurfaceOf(std::string_view name) override;
   void SetWidgetText(std::string_view name, std::string_view text) override;
 
-  // The topmost widget that can be taken hold of at this place, or the page; canvas units. Source, index and
-  // place are filled in, nothing else.
-  PointerInput At(const QPointF& canvasPoint) const;
+  // The topmost widget that can be taken hold of at this place and that `takes` lets have it, or the page;
+  // canvas units. Source, index and place are filled in, nothing else.
+  using Takes = std::function<bool(const PointerInput&)>;
+  PointerInput At(const QPointF& canvasPoint, const Takes& takes) const;
   // The tooltip for this place; empty where there is none.
   QString TipAt(const QPointF& canvasPoint) const;
 
  private:
   LayerWidget& Widget(std::string_view name);
-  const LayerWidget* Topmost(const QPointF& canvasPoint) const;
+  const LayerWidget* Topmost(const QPointF& canvasPoint, const Takes& takes) const;
 
   PageCanvas& canvas_;
   FontCache& fonts_;

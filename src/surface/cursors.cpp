@@ -36,6 +36,8 @@ CursorShape CursorAt(const PageWork& work, const PointerInput& input) {
   const PointerState& pointer = work.pointer;
   // What is dragged keeps its shape wherever the pointer gets to.
   if (pointer.ObjectDrag || pointer.BoxDrag) return OnCurrentObject(work);
+  if (pointer.LineEndDrag)
+    return input.Source == PointerSource::LineEnd ? CursorShape::SizeBoth : OnCurrentObject(work);
   if (pointer.GroupDrag) return CursorShape::Move;
   if (pointer.ColumnDrag) return CursorShape::SizeWidth;
   if (pointer.BandActive || input.Source == PointerSource::Ruler) return CursorShape::Arrow;

@@ -4,28 +4,12 @@
 #include "document/position.h"
 #include "surface/gesture.h"
 #include "surface/object_drag_end.h"
+#include "surface/overlay.h"
 #include "surface/overlay_mover.h"
 #include "surface/selection.h"
 
 namespace kev {
 namespace {
-
-// A grip is a square around its end. Canvas units.
-constexpr double kGripOffset = 45;
-constexpr double kGripSide = 2 * kGripOffset;
-
-void PlaceGrip(SurfaceOps& surface, std::string_view name, CanvasPoint end) {
-  surface.PlaceWidget(name, end.X - kGripOffset, end.Y - kGripOffset, kGripSide, kGripSide);
-}
-
-// Width and height of the rubber line have the signs of its direction.
-void PlaceLine(PageWork& work) {
-  const CanvasPoint from = work.pointer.LineStart;
-  const CanvasPoint to = work.pointer.LineEnd;
-  PlaceGrip(work.surface, "ObjL1", from);
-  PlaceGrip(work.surface, "ObjL2", to);
-  work.surface.PlaceWidget("Lineaviva", from.X, from.Y, to.X - from.X, to.Y - from.Y);
-}
 
 double XOf(const Document& document, const ObjectRecord& record) {
   return PositionOrZero(record.XValue, document.Columns, *document.Page);
@@ -93,7 +77,7 @@ class LineEndDragGesture final : public Gesture {
   void Move(PageWork& work, CanvasPoint at) override {
     if (grip_ != LineGrip::Second) work.pointer.LineStart = Moved(start_, at);
     if (grip_ != LineGrip::First) work.pointer.LineEnd = Moved(end_, at);
-    PlaceLine(work);
+    PlaceLineGrips(work, row_);
   }
 
   void End(PageWork& work, int) override {
@@ -108,7 +92,7 @@ class LineEndDragGesture final : public Gesture {
     work.pointer.LineEndDrag = false;
     work.pointer.LineStart = start_;
     work.pointer.LineEnd = end_;
-    PlaceLine(work);
+    PlaceLineGrips(work, row_);
     ShowCurrentAgain(work);
   }
 

@@ -62,6 +62,10 @@ PointerSource SourceOf(const PageWork& work, const PointerInput& input) {
   return input.Source;
 }
 
+bool TakesPointer(const PageWork& work, const PointerInput& input) {
+  return SourceOf(work, input) == input.Source;
+}
+
 int RowUnder(PageWork& work, CanvasPoint at) {
   return work.document.Objects.FocusObject = HitTest(work, at);
 }

@@ -21,6 +21,9 @@ bool HandleActs(const PageWork& work, int handle);
 // page.
 PointerSource SourceOf(const PageWork& work, const PointerInput& input);
 
+// Whether what the pointer is over takes it; otherwise the pointer goes through to what lies below.
+bool TakesPointer(const PageWork& work, const PointerInput& input);
+
 // The row under the point, which is remembered as the last one hit; 0 where there is none.
 int RowUnder(PageWork& work, CanvasPoint at);
 

@@ -87,6 +87,42 @@ TEST_F(PageSelectionTest, AnotherDocumentHasNoSelection) {
   EXPECT_EQ(host_.Selection, "");
 }
 
+TEST_F(PageSelectionTest, FilterDeselectsAlsoWhatIsStillShown) {
+  Click(Beside(alpha_, -20));
+  EXPECT_TRUE(designer_->SetFilter(DisplayFilter::Print));
+  EXPECT_EQ(designer_->OpenDocument().Objects.CurrentObject, 0);
+  EXPECT_EQ(host_.Selection, "");
+}
+
+TEST_F(PageSelectionTest, FilterEndsAGroup) {
+  Click(Beside(alpha_, -20), kShiftKey);
+  Click(Beside(beta_, -20), kShiftKey);
+  designer_->OpenDocument().Objects[beta_].PrintFlag = kFalse;
+  EXPECT_TRUE(designer_->SetFilter(DisplayFilter::Print));
+  EXPECT_FALSE(Surface().Pointer().MultiSelected);
+  EXPECT_EQ(Record(alpha_).Selected, kFalse);
+  EXPECT_EQ(designer_->OpenDocument().Objects.CurrentObject, 0);
+}
+
+TEST_F(PageSelectionTest, EscapeGivesUpTheTypedTextAndKeepsTheSelection) {
+  Click(Beside(alpha_, -20));
+  EXPECT_TRUE(Surface().KeyDown('X', 0, "x"));
+  EXPECT_EQ(Surface().Edit().Text, "Alphax");
+  EXPECT_TRUE(Surface().KeyDown(kKeyEscape, 0, {}));
+  EXPECT_FALSE(Surface().Edit().Active());
+  EXPECT_EQ(Record(alpha_).Content, "Alpha");
+  EXPECT_EQ(designer_->OpenDocument().Objects.CurrentObject, alpha_);
+  EXPECT_EQ(Surface().Undo().UndoIndex(), 0);
+}
+
+TEST_F(PageSelectionTest, ZoomStoresTheTypedTextFirst) {
+  Click(Beside(alpha_, -20));
+  EXPECT_TRUE(Surface().KeyDown('X', 0, "x"));
+  EXPECT_TRUE(designer_->SetZoom("200%"));
+  EXPECT_FALSE(Surface().Edit().Active());
+  EXPECT_EQ(Record(alpha_).Content, "Alphax");
+}
+
 TEST_F(PageSelectionTest, FilterThatHidesTheCurrentRowDeselectsIt) {
   Click(Beside(alpha_, -20));
   designer_->OpenDocument().Objects[alpha_].PrintFlag = kFalse;

@@ -76,6 +76,13 @@ TEST_F(CursorsTest, GestureKeepsItsShapeWhereverThePointerGetsTo) {
   Pointer().ColumnDrag = true;
   EXPECT_EQ(On(PointerSource::Page), CursorShape::SizeWidth);
   Pointer().ColumnDrag = false;
+  const int line = Add(ObjectKind::AnyLine, "1000", 1000, 500, 500);
+  Open();
+  Select(line);
+  Pointer().LineEndDrag = true;
+  EXPECT_EQ(On(PointerSource::Page), CursorShape::Move);
+  EXPECT_EQ(On(PointerSource::LineEnd, 2), CursorShape::SizeBoth);
+  Pointer().LineEndDrag = false;
   Pointer().BandActive = true;
   EXPECT_EQ(On(PointerSource::Overlay), CursorShape::Arrow);
 }

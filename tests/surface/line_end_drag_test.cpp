@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "support/gesture_fixture.h"
 
 namespace kev::test {
@@ -44,6 +46,8 @@ TEST_P(LineEndDragAtZoom, TheWholeLineKeepsItsSizes) {
 
 TEST_P(LineEndDragAtZoom, TheGripsAndTheLineBetweenThemFollow) {
   const int row = Add(ObjectKind::AnyLine, "1000", 1000, 500, -300);
+  At(row).LineWidth = 3;
+  At(row).LineFlag = kTrue;
   Select(row);
   PageWork work = Work();
   const auto gesture = BeginLineEndDrag(work, LineGrip::First, {0, 0});
@@ -52,7 +56,6 @@ TEST_P(LineEndDragAtZoom, TheGripsAndTheLineBetweenThemFollow) {
   EXPECT_TRUE(surface.Has("show Lineaviva"));
   surface.Lines.clear();
   gesture->Move(work, {30, 60});
-  EXPECT_TRUE(OnlyWidgets());
   const double z = zoomFactor;
   EXPECT_EQ(pointer.LineStart, (CanvasPoint{1000 * z + 30, 1000 * z + 60}));
   EXPECT_EQ(pointer.LineEnd, (CanvasPoint{1500 * z, 700 * z}));
@@ -64,6 +67,12 @@ TEST_P(LineEndDragAtZoom, TheGripsAndTheLineBetweenThemFollow) {
   EXPECT_TRUE(placed("ObjL1", 1000 * z + 30 - 45, 1000 * z + 60 - 45, 90, 90));
   EXPECT_TRUE(placed("ObjL2", 1500 * z - 45, 700 * z - 45, 90, 90));
   EXPECT_TRUE(placed("Lineaviva", 1000 * z + 30, 1000 * z + 60, 500 * z - 30, -300 * z - 60));
+  const std::string line = "line " + FormatNumber(1000 * z + 30) + " " + FormatNumber(1000 * z + 60) + " " +
+                           FormatNumber(1500 * z) + " " + FormatNumber(700 * z);
+  const auto drawn = std::find(surface.Lines.begin(), surface.Lines.end(), line);
+  ASSERT_NE(drawn, surface.Lines.end()) << "the rubber line has the pen of the row";
+  EXPECT_EQ(*(drawn - 1), "pen 000000 3 dotted");
+  EXPECT_EQ(*(drawn - 3), "on Lineaviva");
 }
 
 TEST_F(LineEndDrag, TheFirstEndSnapsAndTheOtherStaysWhereItIs) {

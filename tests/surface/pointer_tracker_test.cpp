@@ -488,6 +488,22 @@ TEST_F(PressTest, HandlesActByKind) {
   }
 }
 
+TEST_F(PressTest, PointerGoesThroughWhatDoesNotTakeIt) {
+  const int box = Add(ObjectKind::Box, "5000", 5000, 500, 500);
+  Open();
+  Select(box);
+  const auto takes = [&](PointerSource source, int index) {
+    return TakesPointer(page_.Work(), Input(PointerButton::Left, 5000, 5000, 0, source, index));
+  };
+  EXPECT_TRUE(takes(PointerSource::Handle, 5));
+  EXPECT_FALSE(takes(PointerSource::Handle, 2));
+  EXPECT_TRUE(takes(PointerSource::Overlay, 1));
+  EXPECT_TRUE(takes(PointerSource::ColumnLine, 3));
+  Pointer().PendingTool = "LABEL";
+  EXPECT_FALSE(takes(PointerSource::Handle, 5));
+  EXPECT_FALSE(takes(PointerSource::Overlay, 1));
+}
+
 TEST_F(PressTest, NoHandleActsInAGroup) {
   const int box = Add(ObjectKind::Box, "5000", 5000, 500, 500);
   Open();

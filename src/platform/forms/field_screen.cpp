@@ -30,14 +30,19 @@ FieldScreen::FieldScreen(PageCanvas& canvas, FontCache& fonts)
 void FieldScreen::Show(const FieldScreenLook& look, const CodePage& page) {
   const QRectF place(QPointF(look.Place.Left, look.Place.Top), QPointF(look.Place.Right, look.Place.Bottom));
   canvas_.PlaceOverlay(this, place.adjusted(-kFrame, -kFrame, kFrame, kFrame));
-  if (!isHidden()) return;
+  const QString words = ToQString(look.Text, page);
+  if (!isHidden()) {
+    // The key that opened the box is typed after it.
+    if (text() != words) setText(words);
+    return;
+  }
   const QColor colour = QColor::fromRgb(look.Colour);
   setStyleSheet(QStringLiteral("QLineEdit { background: white; border: 1px solid #1F6FC5; padding: 0px; "
                                "color: %1; }")
                     .arg(colour.lightness() > 200 ? QStringLiteral("black") : colour.name()));
   setFont(fonts_.Font(look.Font, logicalDpiY()));
   setAlignment(AlignmentOf(look.Align));
-  setText(ToQString(look.Text, page));
+  setText(words);
   show();
   raise();
   setFocus(Qt::OtherFocusReason);

@@ -16,8 +16,8 @@ class FieldScreen final : public QLineEdit {
  public:
   FieldScreen(PageCanvas& canvas, FontCache& fonts);
 
-  // Shown once more it is only moved and sized; the typed text stays as it is. `page` is that of the label's
-  // character set.
+  // Shown once more it is only moved and sized, and takes a text that is not its own. `page` is that of the
+  // label's character set.
   void Show(const FieldScreenLook& look, const CodePage& page);
 
  Q_SIGNALS:
