@@ -175,6 +175,12 @@ std::string Comparable(const ObjectRecord& record, const FieldRow& row, const Co
   return value;
 }
 
+// The file says "N" where the value is empty.
+std::string ComparableChartValue(std::string_view key, const std::string& value) {
+  if (key != "Graph_ShowSeriesTitles") return value;
+  return value == "Y" ? "Y" : "N";
+}
+
 struct Value {
   std::string_view field;
   std::string text;
@@ -205,7 +211,8 @@ Item ItemOf(const ObjectRecord& record, int row, const CodePage& page) {
   for (const std::string_view field : FieldsOf(record.Kind))
     item.values.push_back({field, Comparable(record, FieldNamed(field), page)});
   for (std::size_t slot = 0; slot < std::min(record.ChartValues.size(), kChartKeyCount); ++slot)
-    item.values.push_back({ChartKeys()[slot].key, record.ChartValues[slot]});
+    item.values.push_back(
+        {ChartKeys()[slot].key, ComparableChartValue(ChartKeys()[slot].key, record.ChartValues[slot])});
   item.all = std::string(KindText(record.Kind)) + '\0' + item.owner;
   for (const Value& value : item.values)
     item.all.append(1, '\0').append(value.text);
@@ -214,7 +221,8 @@ Item ItemOf(const ObjectRecord& record, int row, const CodePage& page) {
 
 // The preamble's own bar has no line of its own in a file.
 bool IsCompared(const ObjectRecord& record, const CodePage& page) {
-  return !FieldsOf(record.Kind).empty() && !page.EqualsIgnoringCase(record.SectionOwner, kConfigurationSection);
+  return !FieldsOf(record.Kind).empty() &&
+         !page.EqualsIgnoringCase(record.SectionOwner, kConfigurationSection);
 }
 
 std::vector<Item> ItemsOf(const Document& document) {

@@ -36,7 +36,7 @@ inline constexpr auto kToolButtons = std::to_array<ToolButtonRow>({
     {"ImgButton2", "openICss", 0, "", ToolBarId::First, Command::Open, ""},
     {"ImgButton3", "saveicss", kTextTipSave, "", ToolBarId::First, Command::Save, ""},
     {"ImgButton4", "runicss", kTextTipTestRun, "", ToolBarId::First, std::nullopt, "", true},
-    {"ImgButton5", "propics", kTextTipProperties, "", ToolBarId::First, std::nullopt, ""},
+    {"ImgButton5", "propics", kTextTipProperties, "", ToolBarId::First, Command::Properties, ""},
     {"ImgButton21", "undoicss", kTextTipUndo, "", ToolBarId::First, Command::Undo, "", true},
     {"ImgButton22", "redoicss", kTextTipRedo, "", ToolBarId::First, Command::Redo, ""},
     {"ImgButton17", "cuticss", kTextTipCut, "", ToolBarId::First, std::nullopt, "", true},

@@ -5,6 +5,7 @@
 
 #include "base/files.h"
 #include "base/text.h"
+#include "data/sample_records.h"
 
 namespace kev {
 namespace {
@@ -20,10 +21,6 @@ bool IsShown(const Document& document, std::string_view ownerName, std::string_v
   return false;
 }
 
-void AddName(std::vector<std::string>& names, std::string_view name) {
-  if (!Trim(name).empty()) names.emplace_back(Trim(name));
-}
-
 }  // namespace
 
 SampleForm SampleFormOf(std::string_view path) {
@@ -37,21 +34,7 @@ std::vector<std::string> VariablesIn(std::string_view bytes) {
   std::vector<std::string> names;
   while (!bytes.empty()) {
     const std::string_view line = Trim(TakeLine(bytes));
-    if (line.starts_with('@')) AddName(names, NthToken(line, 1, '='));
-  }
-  return names;
-}
-
-std::vector<std::string> FieldsInTitle(std::string_view sectionTitle) {
-  const std::size_t colon = sectionTitle.rfind(':');
-  if (colon == std::string_view::npos) return {};
-  std::string_view list = Trim(sectionTitle.substr(colon + 1));
-  if (list.ends_with(']')) list.remove_suffix(1);
-  std::vector<std::string> names;
-  while (!list.empty()) {
-    const std::size_t comma = std::min(list.find(','), list.size());
-    AddName(names, list.substr(0, comma));
-    list.remove_prefix(std::min(comma + 1, list.size()));
+    if (line.starts_with('@')) names.emplace_back(Trim(NthToken(line, 1, '=')));
   }
   return names;
 }
@@ -70,7 +53,7 @@ NextVariable FindNextVariable(const Document& document, int ownerRow, const std:
     case SampleForm::None:
       return {};
     case SampleForm::Records:
-      return {FirstUnused(document, bar.SectionName, FieldsInTitle(bar.SectionTitle))};
+      return {FirstUnused(document, bar.SectionName, FieldsOfHead(bar.SectionTitle))};
     case SampleForm::Variables:
       break;
   }

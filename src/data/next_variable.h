@@ -22,9 +22,6 @@ SampleForm SampleFormOf(std::string_view path);
 // The names in the lines that begin with "@", up to their "=".
 std::vector<std::string> VariablesIn(std::string_view bytes);
 
-// The fields in the head line of a subsection: "[DATA] [ITEMS:@code,@text]" has two.
-std::vector<std::string> FieldsInTitle(std::string_view sectionTitle);
-
 // The first name that stands in no LABEL of the subsection. It also counts as used where it is but a part of
 // a label's text. Case does not matter.
 std::optional<std::string> FirstUnused(const Document& document, std::string_view ownerName,

@@ -2,6 +2,7 @@
 // PICTURE.
 #include <array>
 
+#include "document/picture_path.h"
 #include "properties/row_kinds.h"
 
 namespace kev {
@@ -11,24 +12,8 @@ using R = ObjectRecord;
 
 constexpr RowEditor kPictureFile = FileButton("|Image file!*.bmp;*.jpg;*.jpeg;*.gif;*.png;*.svg|");
 
-// What another character than these would do to the line of the template.
-bool FitsTemplate(std::string_view path, const DocumentSettings& settings) {
-  const char reserved[] = {',', ';', settings.OpenCharacter(), settings.CloseCharacter()};
-  return path.find_first_of(std::string_view(reserved, sizeof reserved)) == std::string_view::npos;
-}
-
-// A picture of the data has no file yet, and one that is fetched need not be there yet.
-bool CanBeShown(std::string_view path, PictureSource& pictures) {
-  if (path.empty() || path.starts_with('@') || path.starts_with('$')) return true;
-  const PictureAnswer answer = pictures.Look(path);
-  const bool fetched = answer.File != path && answer.File != kMissingPicture;
-  return fetched || answer.Size.has_value();
-}
-
 Verdict CheckFile(const RowTarget& target, std::string_view text) {
-  const std::string_view path = Trim(text);
-  const bool good =
-      FitsTemplate(path, target.TheDocument().Settings) && CanBeShown(path, target.work.pictures);
+  const bool good = MayShowPicture(Trim(text), target.TheDocument().Settings, target.work.pictures);
   return good ? Verdict() : RefusedWith(kTextPictureRefused);
 }
 
@@ -76,16 +61,12 @@ constexpr auto kRows = std::to_array<ObjectRow>({
     EndUserRow(),
 });
 
-// A picture that can't be had now leaves the object its size.
-void TakePicture(const RowTarget& target) {
-  ObjectRecord& record = target.Record();
-  const PictureAnswer answer = target.work.pictures.Look(record.PicturePath);
-  record.PictureFile = answer.File;
-  if (answer.Size) FitPicture(record, *answer.Size);
+void ShowPicture(const RowTarget& target) {
+  TakePicture(target.Record(), target.work.pictures);
 }
 
 }  // namespace
 
-constexpr ObjectSheet kPictureSheet = {kTextSheetPicture, kRows, TakePicture};
+constexpr ObjectSheet kPictureSheet = {kTextSheetPicture, kRows, ShowPicture};
 
 }  // namespace kev

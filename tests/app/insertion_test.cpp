@@ -2,6 +2,7 @@
 // Insertion through the designer: commands of the menu, tools that wait, and what a save keeps of it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "app/designer_fixture.h"
@@ -155,6 +156,19 @@ TEST_F(Inserted, WhatWasInsertedComesBackFromTheFile) {
   EXPECT_TRUE(host_.Messages.empty()) << host_.Messages[0].Text;
 }
 
+TEST_F(Inserted, WhatIsFreshlyInsertedComesBackWithoutAFinding) {
+  for (const auto& [command, insertion] : kInsertionCommands) {
+    // A body ends at a page break that is its last object, and the viewer alone reads the other commands.
+    if (RowOf(insertion).kind == ObjectKind::Command) continue;
+    Objects().CurrentObject = 0;
+    ASSERT_TRUE(designer_->Run(command));
+    surface_->Pointer().LastY += 150;
+  }
+  ASSERT_TRUE(designer_->Save());
+  for (const Finding& finding : designer_->Findings())
+    ADD_FAILURE() << finding.Text;
+}
+
 TEST_F(Inserted, ALabelBeginsWithTheLastFontAndTheOptionsKeepIt) {
   designer_->Last().Label = {"Courier New", 12, true, true, true, "1,2,3", "0"};
   designer_->Run(Command::InsertLabel);
@@ -203,6 +217,59 @@ TEST(ToolButtons, StandOnceEachUnderTheirOwnNames) {
 TEST(ToolButtons, AllHaveATooltipButTheOneThatOpens) {
   for (const ToolButtonRow& row : kToolButtons)
     EXPECT_EQ(row.tooltip != 0 || !row.fixedTooltip.empty(), row.name != "ImgButton2") << row.name;
+}
+
+struct ExpectedButton {
+  std::string_view name, image;
+  int tooltip;
+  std::string_view fixedTooltip;
+  std::string_view tool;
+  std::optional<Command> command;
+};
+
+constexpr auto kExpectedButtons = std::to_array<ExpectedButton>({
+    {"ImgButton1", "newICss", 893, "", "", Command::New},
+    {"ImgButton2", "openICss", 0, "", "", Command::Open},
+    {"ImgButton3", "saveicss", 895, "", "", Command::Save},
+    {"ImgButton4", "runicss", 889, "", "", {}},
+    {"ImgButton5", "propics", 888, "", "", Command::Properties},
+    {"ImgButton6", "labelICs", 896, "", "LABEL", {}},
+    {"ImgButton7", "imageICs", 897, "", "PICTURE", {}},
+    {"ImgButton8", "boxICs", 899, "", "BOX", {}},
+    {"ImgButton9", "barcodeics", 900, "", "BARCODE", {}},
+    {"ImgButton25", "qrics", 900, "", "QR", {}},
+    {"ImgButton10", "boldicss", 901, "", "", {}},
+    {"ImgButton11", "italicicss", 0, "Font Italic", "", {}},
+    {"ImgButton12", "underlineicss", 902, "", "", {}},
+    {"ImgButton13", "lefticss", 903, "", "", {}},
+    {"ImgButton14", "centericss", 904, "", "", {}},
+    {"ImgButton15", "righticss", 905, "", "", {}},
+    {"ImgButton16", "anylineics", 906, "", "ANYLINE", {}},
+    {"ImgButton17", "cuticss", 805, "", "", {}},
+    {"ImgButton18", "copyicss", 806, "", "", {}},
+    {"ImgButton19", "configics", 907, "", "COMMAND", {}},
+    {"ImgButton20", "chartics", 908, "", "CHART", {}},
+    {"ImgButton21", "undoicss", 803, "", "", Command::Undo},
+    {"ImgButton22", "redoicss", 804, "", "", Command::Redo},
+    {"ImgButton23", "lineics", 909, "", "LINE", {}},
+    {"ImgButton24", "textboxICs", 0, "insert a textbox", "TEXTBOX", {}},
+    {"ImgButton32", "atICs", 910, "", "LABELVAR", {}},
+});
+
+TEST(ToolButtons, ShowTheirImageAndTooltipAndDoWhatTheyAreFor) {
+  EXPECT_EQ(kExpectedButtons.size(), kToolButtons.size());
+  for (const ExpectedButton& expected : kExpectedButtons) {
+    const auto row = std::find_if(kToolButtons.begin(), kToolButtons.end(),
+                                  [&](const ToolButtonRow& each) { return each.name == expected.name; });
+    ASSERT_NE(row, kToolButtons.end()) << expected.name;
+    EXPECT_EQ(row->image, expected.image);
+    EXPECT_EQ(row->tooltip, expected.tooltip) << expected.name;
+    EXPECT_EQ(row->fixedTooltip, expected.fixedTooltip) << expected.name;
+    EXPECT_EQ(row->tool, expected.tool) << expected.name;
+    if (expected.command) {
+      EXPECT_EQ(row->command, expected.command) << expected.name;
+    }
+  }
 }
 
 TEST(ToolButtons, StandForEveryToolOnce) {

@@ -53,14 +53,6 @@ TEST(VariablesOfAFile, AreTheTrimmedNamesBeforeTheSign) {
   EXPECT_EQ(VariablesIn(""), Names{});
 }
 
-TEST(FieldsOfAHeadLine, StandBehindItsLastColonWithoutTheBracket) {
-  EXPECT_EQ(FieldsInTitle("[DATA] [ITEMS:@code,@text]"), (Names{"@code", "@text"}));
-  EXPECT_EQ(FieldsInTitle("[DATA] [A:B: one , two ]"), (Names{"one", "two"}));
-  EXPECT_EQ(FieldsInTitle("[DATA] [ITEMS:a,,b,]"), (Names{"a", "b"}));
-  EXPECT_EQ(FieldsInTitle("[DATA] [ITEMS:]"), Names{});
-  EXPECT_EQ(FieldsInTitle("[DATA]"), Names{});
-}
-
 TEST_F(NextVariables, TheFirstOfTheFileComesFirst) {
   EXPECT_EQ(Next(Written("a.ked", "TEMPLATE=x\r\n@one=1\r\n@two=2\r\n")), "@one");
 }

@@ -115,7 +115,9 @@ TEST(FieldNames, AreTheWordAndANumberOfAtLeastTwoDigits) {
 
 TEST(FieldsOfHead, StandBehindTheLastColon) {
   EXPECT_THAT(FieldsOfHead("[ITEMS:@code, @text ,@price]"), ElementsAre("@code", "@text", "@price"));
+  EXPECT_THAT(FieldsOfHead("[DATA] [ITEMS:@code,@text]"), ElementsAre("@code", "@text"));
   EXPECT_THAT(FieldsOfHead("[A:B:@c]"), ElementsAre("@c"));
+  EXPECT_THAT(FieldsOfHead("[ITEMS:a,,b,]"), ElementsAre("a", "b"));
   EXPECT_THAT(FieldsOfHead("[OPEN:@c"), ElementsAre("@c"));
   EXPECT_THAT(FieldsOfHead("[END:]"), IsEmpty());
   EXPECT_THAT(FieldsOfHead("[ITEMS]"), IsEmpty());

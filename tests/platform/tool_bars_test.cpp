@@ -73,8 +73,9 @@ TEST_F(ToolBarsTest, SayWhatTheyDoAndTheOneThatOpensSaysNothing) {
 
 TEST_F(ToolBarsTest, AClickRunsTheCommandOrTogglesTheTool) {
   Button("ImgButton3")->click();
+  Button("ImgButton5")->click();
   Button("ImgButton7")->click();
-  EXPECT_EQ(run_, std::vector<Command>{Command::Save});
+  EXPECT_EQ(run_, (std::vector<Command>{Command::Save, Command::Properties}));
   EXPECT_EQ(toggled_, std::vector<std::string>{"PICTURE"});
 }
 
