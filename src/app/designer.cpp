@@ -184,6 +184,7 @@ bool Designer::SetZoom(std::string_view text) {
 }
 
 bool Designer::SetFilter(DisplayFilter filter) {
+  surface_.CommitOpenEdits();
   const DisplayFilter before = std::exchange(filter_, filter);
   return GuardedView([this] { surface_.FilterChanged(); }, [&] { filter_ = before; });
 }

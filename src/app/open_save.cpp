@@ -182,6 +182,7 @@ bool Designer::AskAndNew() {
 }
 
 bool Designer::AskToSave() {
+  surface_.CommitOpenEdits();
   if (!modified_) return true;
   const BoxAnswer answer = host_.ShowMessage({std::string(kClosingTitle), Text(kTextSaveChanges) + " ",
                                               documentTitle_, BoxIcon::Question, BoxButtons::YesNoCancel});
