@@ -85,7 +85,8 @@ class PropGridTest : public testing::Test {
     QCoreApplication::processEvents();
   }
   static void Type(const char* text) {
-    QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text));
+    for (const char c : std::string_view(text))
+      QTest::keyClick(QApplication::focusWidget(), c);
     QCoreApplication::processEvents();
   }
   void Go(int row) {
@@ -160,8 +161,8 @@ TEST_F(PropGridTest, OtherRowsKeepTheRowsNumberOrBeginAnew) {
 }
 
 TEST_F(PropGridTest, CaptionsAreAsWideAsTheSheetsAskAndHaveTips) {
-  EXPECT_EQ(grid_.columnWidth(PropGridModel::kCaption), 1900 / 15);
-  EXPECT_EQ(grid_.columnWidth(PropGridModel::kValue), grid_.viewport()->width() - 1900 / 15);
+  EXPECT_EQ(grid_.columnWidth(PropGridModel::kCaption), 127);  // 1900 twips
+  EXPECT_EQ(grid_.columnWidth(PropGridModel::kValue), grid_.viewport()->width() - 127);
   EXPECT_EQ(Model().index(0, 0).data(Qt::ToolTipRole).toString(), QStringLiteral("Expression"));
   EXPECT_EQ(Cell(kText).data(Qt::ToolTipRole).toString(), QStringLiteral("Total"));
 }
@@ -261,6 +262,16 @@ TEST_F(PropGridTest, AnotherRowCommitsTheOpenOne) {
   ExpectEdits({kText});
   EXPECT_EQ(grid_.CurrentRow(), kNumber);
   EXPECT_EQ(Editor(kText), nullptr);
+}
+
+TEST_F(PropGridTest, AnotherValueThatIsPressedOpensInItsPlace) {
+  OpenByKey(kText);
+  Type("Sum");
+  Press(kNumber, PropGridModel::kValue);
+  QCoreApplication::processEvents();
+  ExpectEdits({kText});
+  EXPECT_EQ(Editor(kText), nullptr);
+  EXPECT_TRUE(EditorAs<ArrowEdit>(kNumber).hasFocus());
 }
 
 TEST_F(PropGridTest, ARowTakenByItsCaptionIsCommittedAsWell) {

@@ -82,6 +82,7 @@ PropGrid::PropGrid(QWidget* parent) : QTableView(parent), model_(new PropGridMod
   connect(
       delegate, &QAbstractItemDelegate::closeEditor, this,
       [this] {
+        if (HasOpenCell()) return;
         const QWidget* now = window()->focusWidget();
         if (now == nullptr || Holds(now)) setFocus(Qt::OtherFocusReason);
       },
@@ -100,8 +101,8 @@ void PropGrid::Show(const std::vector<PropertyRow>& rows, const CodePage& page) 
   const bool keepFocus = committing_ && Holds(window()->focusWidget());
   model_->Show(rows, page);
   if (keepFocus && !HasOpenCell()) setFocus(Qt::OtherFocusReason);
-  if (CurrentRow() == 0 && row > 0 && model_->rowCount() > 0)
-    SetCurrentRow(row <= model_->rowCount() ? row : 1);
+  if (CurrentRow() == 0 && (row > 0 || hasFocus()))
+    SetCurrentRow(row > 0 && row <= model_->rowCount() ? row : 1);
 }
 
 std::vector<std::string> PropGrid::Values() const {
@@ -138,6 +139,11 @@ void PropGrid::DiscardOpenCell() {
 void PropGrid::commitData(QWidget* editor) {
   const QScopedValueRollback<bool> committing(committing_, true);
   QTableView::commitData(editor);
+}
+
+// Other rows may have closed the cell while it was committed.
+void PropGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+  if (HasOpenCell()) QTableView::closeEditor(editor, hint);
 }
 
 void PropGrid::Open(const QModelIndex& index, const std::optional<QString>& typed) {

@@ -56,6 +56,7 @@ class PropGrid final : public QTableView {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void commitData(QWidget* editor) override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
   QSize sizeHint() const override { return {260, 400}; }
 
  private:
