@@ -112,6 +112,7 @@ void DesignSurface::FilterChanged() {
 }
 
 void DesignSurface::GoToObject(int row) {
+  CommitOpenEdits();
   PageWork work = Work();
   SelectObject(work, row);
   Redraw();

@@ -2,6 +2,7 @@
 #include "app/property_sheets.h"
 
 #include <array>
+#include <utility>
 
 #include "app/designer.h"
 
@@ -59,6 +60,15 @@ void PropertySheets::PressButton(int row) {
   }
 }
 
+void PropertySheets::DoubleClicked() {
+  if (sheet_.Object != 0 && sheet_.Enabled) designer_.Surface().OpenProperties(sheet_.Object);
+}
+
+void PropertySheets::SetGridFocus(bool has) {
+  if (has == std::exchange(gridFocus_, has)) return;
+  designer_.CommandsChanged();
+}
+
 std::optional<std::string> PropertySheets::Description(int row) const {
   return DescriptionOf(sheet_, row, designer_.Surface());
 }
@@ -79,7 +89,9 @@ void PropertySheets::Properties() {
   if (DesignerView* view = designer_.View()) view->FocusPanel();
 }
 
+// The rows are other ones at another place; what is open belongs to those of now.
 void PropertySheets::SetState(std::int32_t state) {
+  designer_.Surface().CommitOpenEdits();
   designer_.Options().PropFix = state;
   if (DesignerView* view = designer_.View()) view->ShowPanel(state);
   Refresh();

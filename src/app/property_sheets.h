@@ -30,6 +30,11 @@ class PropertySheets {
   // The row's cell holds another text: it is stored, or put back. Runs in a guard.
   void Edited(int row, std::string text);
   void PressButton(int row);
+  // A double click on a row is one on the object that the sheet stands for.
+  void DoubleClicked();
+  // While the grid has the keyboard, cut, copy and paste act on its text and not on objects.
+  void SetGridFocus(bool has);
+  bool HasGridFocus() const { return gridFocus_; }
   // What the line under the grid says; nothing where it stays.
   std::optional<std::string> Description(int row) const;
 
@@ -54,6 +59,7 @@ class PropertySheets {
   Designer& designer_;
   Sheet sheet_;
   std::int32_t remembered_ = kPanelDocked;
+  bool gridFocus_ = false;
 };
 
 }  // namespace kev

@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/column_runs.h"
@@ -32,6 +33,12 @@ class CountingView final : public DesignerView {
   int RecoverDialogs = 0;
   std::function<void(RecoverDialog&)> OnRecover;  // what the user does in the form
   ColumnList Columns;
+  // The property panel.
+  Sheet Shown;
+  std::string ShownTitle;
+  int SelectedRow = 0, PanelFocused = 0;
+  std::vector<std::int32_t> PanelStates;
+  std::function<void()> OnCommitCell;  // a cell that is open and has been typed in
   // What the user does in the dialogs of the columns.
   std::function<void(ColumnsDialogRun&)> OnColumnsDialog;
   std::function<void(SetColumnRun&)> OnSetThisColumn;
@@ -47,6 +54,16 @@ class CountingView final : public DesignerView {
   }
   void ShowZoom(std::string_view text) override { Zoom = text; }
   void FindingsChanged() override { ++FindingLists; }
+  void ShowSheet(const Sheet& sheet, const std::string& title, int selectRow) override {
+    Shown = sheet;
+    ShownTitle = title;
+    SelectedRow = selectRow;
+  }
+  void ShowPanel(std::int32_t state) override { PanelStates.push_back(state); }
+  void FocusPanel() override { ++PanelFocused; }
+  void CommitOpenCell() override {
+    if (const std::function<void()> typed = std::exchange(OnCommitCell, nullptr)) typed();
+  }
   void ShowRecoverDialog(RecoverDialog& dialog) override {
     ++RecoverDialogs;
     if (OnRecover) OnRecover(dialog);

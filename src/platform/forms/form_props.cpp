@@ -34,16 +34,23 @@ FormPROPS::FormPROPS(const PanelArea& area, const QString& caption, QWidget* par
   setMinimumSize(kLeast);
   PanelArea inside = area;
   MovePanelIn(inside, AreaOfScreen(screen()->availableGeometry()));
-  setGeometry(Pixels(inside.Left), Pixels(inside.Top), Pixels(inside.Width), Pixels(inside.Height));
+  // The place is that of the frame, the size that of what it holds: both are told the same way.
+  resize(Pixels(inside.Width), Pixels(inside.Height));
+  move(Pixels(inside.Left), Pixels(inside.Top));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
 }
 
 void FormPROPS::SetPanel(PropertyPanel* panel) {
+  if (panel->parentWidget() == this) return;
   layout()->addWidget(panel);
   panel->show();
+  // From one stay to the next the same title may be dragged beside the page, where nothing follows it.
+  disconnect(&panel->Title(), nullptr, this, nullptr);
   connect(&panel->Title(), &PanelTitle::DragBegun, this, [this](const QPoint& at) { grip_ = at - pos(); });
-  connect(&panel->Title(), &PanelTitle::Dragged, this, [this](const QPoint& at) { move(at - grip_); });
+  connect(&panel->Title(), &PanelTitle::Dragged, this, [this](const QPoint& at) {
+    if (isVisible()) move(at - grip_);
+  });
 }
 
 void FormPROPS::TellPlace() {

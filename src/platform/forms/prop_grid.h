@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QTableView>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,17 +21,19 @@ class PropGrid final : public QTableView {
 
  public:
   explicit PropGrid(QWidget* parent = nullptr);
+  ~PropGrid() override;
 
   // The values are bytes of the page. The current row stays where the captions are the same.
   void Show(const std::vector<PropertyRow>& rows, const CodePage& page);
+  // Where the chooser of files begins with a relative name.
+  void SetFolder(const QString& folder) { folder_ = folder; }
   // What the cells hold, row by row.
   std::vector<std::string> Values() const;
   // Rows count from 1; 0 is none.
   int CurrentRow() const;
   void SetCurrentRow(int row);
-  // An open cell is committed as if it had been left. False when its text was refused and the cell stays
-  // open.
-  bool CommitOpenCell();
+  // An open cell is committed as if it had been left.
+  void CommitOpenCell();
   // An open cell is closed with nothing told.
   void DiscardOpenCell();
 
@@ -39,23 +42,37 @@ class PropGrid final : public QTableView {
   void Edited(int row);
   void RowChanged(int row);
   void ButtonPressed(int row);
+  void RowDoubleClicked(int row);
   // A character that the page does not hold was typed; the old value is back.
   void Refused(const QString& character);
   // The grid, or a cell of it, has the keyboard.
   void FocusChanged(bool has);
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void focusInEvent(QFocusEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void commitData(QWidget* editor) override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
   QSize sizeHint() const override { return {260, 400}; }
 
  private:
-  void Open(const QModelIndex& index, const QString& typed = {});
+  // With a text, that stands in place of the value.
+  void Open(const QModelIndex& index, const std::optional<QString>& typed = {});
+  void Choose(const QModelIndex& index);
+  bool TakeClipboardKey(const QKeyEvent& event);
+  void KeyInOpenCell(QKeyEvent* event);
+  bool HasOpenCell() const { return state() == QAbstractItemView::EditingState; }
+  bool Holds(const QWidget* widget) const;
+  void TellFocus(const QWidget* now);
 
   PropGridModel* model_;
+  QString folder_;
+  bool committing_ = false;
+  bool focused_ = false;
 };
 
 }  // namespace kev

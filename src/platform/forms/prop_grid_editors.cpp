@@ -2,13 +2,13 @@
 #include "platform/forms/prop_grid_editors.h"
 
 #include <QColorDialog>
-#include <QComboBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QScopedValueRollback>
 #include <QStyle>
 #include <algorithm>
 #include <cmath>
@@ -22,6 +22,7 @@ namespace {
 
 constexpr int kRowRoom = 8;  // pixels above and below a row's text together
 constexpr int kSwatchSide = 12;
+constexpr int kButtonWidth = 22;
 
 const PropGridModel& ModelOf(const QModelIndex& index) {
   return *static_cast<const PropGridModel*>(index.model());
@@ -30,7 +31,6 @@ const PropGridModel& ModelOf(const QModelIndex& index) {
 QString TextOfEditor(const QWidget* editor) {
   if (const auto* combo = qobject_cast<const QComboBox*>(editor)) return combo->currentText();
   if (const auto* arrows = qobject_cast<const ArrowEdit*>(editor)) return arrows->Text();
-  if (const auto* chooser = qobject_cast<const ButtonEdit*>(editor)) return chooser->Line().text();
   if (const auto* line = qobject_cast<const QLineEdit*>(editor)) return line->text();
   return {};
 }
@@ -89,51 +89,76 @@ QAbstractSpinBox::StepEnabled ArrowEdit::stepEnabled() const {
   return StepUpEnabled | StepDownEnabled;
 }
 
+ListEdit::ListEdit(QWidget* parent) : QComboBox(parent) {
+  setFrame(false);
+  connect(this, &QComboBox::textActivated, this, [this] {
+    if (!inKey_) Q_EMIT Picked();
+  });
+}
+
+void ListEdit::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F4) return showPopup();
+  const QScopedValueRollback<bool> inKey(inKey_, true);
+  QComboBox::keyPressEvent(event);
+}
+
 ButtonEdit::ButtonEdit(const QString& buttonName, bool readOnly, QWidget* parent)
-    : QWidget(parent), line_(new QLineEdit(this)), button_(new QToolButton(this)) {
-  auto* layout = new QHBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  layout->addWidget(line_);
-  layout->addWidget(button_);
-  line_->setFrame(false);
-  line_->setReadOnly(readOnly);
-  line_->setAccessibleName(buttonName);
+    : QLineEdit(parent), button_(new QToolButton(this)) {
+  setFrame(false);
+  setReadOnly(readOnly);
+  setTextMargins(0, 0, kButtonWidth, 0);
+  button_->setObjectName(QStringLiteral("cellbutton"));
   button_->setText(QStringLiteral("\u2026"));
   button_->setAccessibleName(buttonName);
   button_->setFocusPolicy(Qt::NoFocus);
-  button_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-  setFocusProxy(line_);
-  setAutoFillBackground(true);
+  button_->setCursor(Qt::ArrowCursor);
   connect(button_, &QToolButton::clicked, this, &ButtonEdit::Pressed);
+}
+
+void ButtonEdit::resizeEvent(QResizeEvent* event) {
+  QLineEdit::resizeEvent(event);
+  button_->setGeometry(width() - kButtonWidth, 0, kButtonWidth, height());
 }
 
 // F4 and Alt+Down open what a list would drop down.
 void ButtonEdit::keyPressEvent(QKeyEvent* event) {
   const bool down = event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
-  if (event->key() == Qt::Key_F4 || down || event->key() == Qt::Key_Space) return button_->click();
-  QWidget::keyPressEvent(event);
+  const bool space = event->key() == Qt::Key_Space && isReadOnly();
+  if (event->key() == Qt::Key_F4 || down || space) return button_->click();
+  QLineEdit::keyPressEvent(event);
 }
 
 // --- Choosers
 // -----------------------------------------------------------------------------------------------------
 
-QString PropGridDelegate::ChooseFile(QWidget* parent, const QString& text, const std::string& tail) {
-  const FileFilter filter = FilterOf(tail);
-  QString patterns = ToQString(filter.Patterns);
-  patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
-  const QString shown = ToQString(filter.Title) + QStringLiteral(" (") + patterns + QStringLiteral(")");
-  return QFileDialog::getOpenFileName(parent, ToQString(filter.Title), text, shown);
+namespace {
+
+// "*.kex *.KEX *.ked *.KED": not every system's dialog takes both cases for one.
+QString PatternsOf(const FileFilter& filter) {
+  QStringList patterns;
+  for (const QString& pattern : ToQString(filter.Patterns).split(QLatin1Char(';')))
+    patterns << pattern << pattern.toUpper();
+  return patterns.join(QLatin1Char(' '));
 }
 
-QString PropGridDelegate::ChooseColour(QWidget* parent, const QString& text) {
+QString ChooseFile(QWidget* parent, const PropertyRow& row, const QString& text, const QString& folder) {
+  const FileFilter filter = FilterOf(row.Tail);
+  const QString title = ToQString(filter.Title);
+  QString name = text;
+  name.replace(QLatin1Char('\\'), QLatin1Char('/'));
+  const QString start = folder.isEmpty() ? name : QDir(folder).filePath(name);
+  return QFileDialog::getOpenFileName(parent, title, start,
+                                      title + QStringLiteral(" (") + PatternsOf(filter) + QLatin1Char(')'));
+}
+
+QString ChooseColour(QWidget* parent, const QString& text) {
   const QColor chosen = QColorDialog::getColor(ColourOf(text), parent);
   return chosen.isValid() ? TextOfColour(chosen) : QString();
 }
 
-QString PropGridDelegate::ChooseFont(QWidget* parent, const QString& text) {
-  const FontValue now =
-      ParseFontValue(FromQString(text, CodePage::Default()).value_or(std::string())).value_or(FontValue{});
+// The row keeps its name where the chosen one can't be written.
+QString ChooseFont(QWidget* parent, const PropertyRow& row) {
+  const FontValue now = ParseFontValue(row.Value).value_or(FontValue{});
   QFont font(ToQString(now.Name), std::max(1, static_cast<int>(now.Size)));
   font.setBold(now.Bold);
   font.setItalic(now.Italic);
@@ -143,6 +168,22 @@ QString PropGridDelegate::ChooseFont(QWidget* parent, const QString& text) {
   const std::string name = FromQString(chosen.family(), CodePage::Default()).value_or(now.Name);
   return ToQString(FontValueText(
       {name, static_cast<std::int32_t>(std::lround(chosen.pointSizeF())), chosen.bold(), chosen.italic()}));
+}
+
+}  // namespace
+
+QString PropGridDelegate::Choose(QWidget* parent, const PropertyRow& row, const QString& text,
+                                 const QString& folder) {
+  switch (row.Editor) {
+    case EditorKind::File:
+      return ChooseFile(parent, row, text, folder);
+    case EditorKind::Colour:
+      return ChooseColour(parent, text);
+    case EditorKind::Font:
+      return ChooseFont(parent, row);
+    default:
+      return {};
+  }
 }
 
 // --- The delegate
@@ -207,44 +248,27 @@ QWidget* PropGridDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
 
 QWidget* PropGridDelegate::MakeList(QWidget* parent, const PropertyRow& row, const QModelIndex& index,
                                     bool open) const {
-  auto* combo = new QComboBox(parent);
-  combo->setEditable(open);
-  combo->setFrame(false);
+  auto* list = new ListEdit(parent);
+  list->setEditable(open);
   for (const std::string& item : row.Items)
-    combo->addItem(ToQString(item, ModelOf(index).Page()));
+    list->addItem(ToQString(item, ModelOf(index).Page()));
   if (open) {
-    combo->setInsertPolicy(QComboBox::NoInsert);
-    combo->setCompleter(nullptr);
-    combo->lineEdit()->setAccessibleName(ToQString(row.Caption));
+    list->setInsertPolicy(QComboBox::NoInsert);
+    list->setCompleter(nullptr);
+    list->lineEdit()->setAccessibleName(ToQString(row.Caption));
   }
-  connect(combo, &QComboBox::textActivated, this, [this, combo] {
-    auto* self = const_cast<PropGridDelegate*>(this);
-    Q_EMIT self->commitData(combo);
-    Q_EMIT self->closeEditor(combo);
+  connect(list, &ListEdit::Picked, this, [this, list] {
+    Q_EMIT Self().commitData(list);
+    Q_EMIT Self().closeEditor(list);
   });
-  return combo;
+  return list;
 }
 
 QWidget* PropGridDelegate::MakeChooser(QWidget* parent, const PropertyRow& row,
                                        const QModelIndex& index) const {
   auto* edit = new ButtonEdit(ToQString(row.Caption), row.Editor == EditorKind::Font, parent);
-  connect(edit, &ButtonEdit::Pressed, this, [this, edit, index = QPersistentModelIndex(index)] {
-    if (!index.isValid()) return;
-    const PropertyRow now = ModelOf(index).RowAt(index);
-    const QPointer<ButtonEdit> alive(edit);
-    QString chosen;
-    if (now.Editor == EditorKind::File) chosen = ChooseFile(edit, edit->Line().text(), now.Tail);
-    if (now.Editor == EditorKind::Colour) chosen = ChooseColour(edit, edit->Line().text());
-    if (now.Editor == EditorKind::Font) chosen = ChooseFont(edit, ModelOf(index).TextAt(index));
-    if (chosen.isEmpty()) return;
-    if (!index.isValid()) return;
-    if (alive) {
-      auto* self = const_cast<PropGridDelegate*>(this);
-      if (now.Editor != EditorKind::Font) edit->Line().setText(chosen);
-      edit->setProperty("chosen", chosen);
-      Q_EMIT self->commitData(edit);
-      Q_EMIT self->closeEditor(edit);
-    }
+  connect(edit, &ButtonEdit::Pressed, this, [this, cell = QPersistentModelIndex(index)] {
+    if (cell.isValid()) Q_EMIT Self().ChooserWanted(cell);
   });
   return edit;
 }
@@ -257,23 +281,15 @@ void PropGridDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
     arrows->SetText(text);
     return arrows->SelectAll();
   }
-  if (auto* chooser = qobject_cast<ButtonEdit*>(editor)) {
-    chooser->Line().setText(model.Shown(model.RowAt(index)));
-    return chooser->Line().selectAll();
-  }
   auto* line = qobject_cast<QLineEdit*>(editor);
-  line->setText(text);
+  line->setText(model.Shown(model.RowAt(index)));
   line->selectAll();
 }
 
 void PropGridDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                     const QModelIndex& index) const {
-  const PropertyRow& row = ModelOf(index).RowAt(index);
-  if (row.Editor == EditorKind::Font) {
-    const QString chosen = editor->property("chosen").toString();
-    if (!chosen.isEmpty()) model->setData(index, chosen);
-    return;
-  }
+  // A font comes from its chooser alone.
+  if (ModelOf(index).RowAt(index).Editor == EditorKind::Font) return;
   // Nothing was picked of a closed list that does not hold the value.
   const auto* combo = qobject_cast<QComboBox*>(editor);
   if (combo != nullptr && !combo->isEditable() && combo->currentIndex() < 0) return;

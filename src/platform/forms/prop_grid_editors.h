@@ -4,10 +4,12 @@
 
 #include <QAbstractSpinBox>
 #include <QColor>
+#include <QComboBox>
 #include <QIcon>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include "properties/property_row.h"
 
@@ -37,24 +39,41 @@ class ArrowEdit final : public QAbstractSpinBox {
   ArrowBounds bounds_;
 };
 
-// A text with a button beside it.
-class ButtonEdit final : public QWidget {
+// A list whose keys only walk its items: an item counts as picked when it was chosen with the pointer or in
+// the list that dropped down.
+class ListEdit final : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit ListEdit(QWidget* parent);
+
+ Q_SIGNALS:
+  void Picked();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  // The wheel scrolls the grid.
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+ private:
+  bool inKey_ = false;
+};
+
+// A text with a button in it.
+class ButtonEdit final : public QLineEdit {
   Q_OBJECT
 
  public:
   ButtonEdit(const QString& buttonName, bool readOnly, QWidget* parent);
-
-  QLineEdit& Line() { return *line_; }
-  const QLineEdit& Line() const { return *line_; }
 
  Q_SIGNALS:
   void Pressed();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  QLineEdit* line_;
   QToolButton* button_;
 };
 
@@ -64,11 +83,9 @@ class PropGridDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
-  // What a button's chooser gives for the present text; an empty text when the user gives up. The defaults
-  // are the window system's own choosers.
-  static QString ChooseFile(QWidget* parent, const QString& text, const std::string& tail);
-  static QString ChooseColour(QWidget* parent, const QString& text);
-  static QString ChooseFont(QWidget* parent, const QString& text);
+  // What the window system's own chooser gives for the present text of a row; an empty text when the user
+  // gives up. A relative file name begins at `folder`.
+  static QString Choose(QWidget* parent, const PropertyRow& row, const QString& text, const QString& folder);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
@@ -79,9 +96,14 @@ class PropGridDelegate final : public QStyledItemDelegate {
   void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const override;
 
+ Q_SIGNALS:
+  // The button of an open cell was pressed.
+  void ChooserWanted(const QModelIndex& cell);
+
  private:
   QWidget* MakeList(QWidget* parent, const PropertyRow& row, const QModelIndex& index, bool open) const;
   QWidget* MakeChooser(QWidget* parent, const PropertyRow& row, const QModelIndex& index) const;
+  PropGridDelegate& Self() const { return const_cast<PropGridDelegate&>(*this); }
 };
 
 }  // namespace kev

@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QStringList>
 #include <algorithm>
+#include <utility>
 
 #include "platform/fonts.h"
 #include "platform/forms/prop_grid_editors.h"
@@ -19,17 +20,22 @@ bool SameCaptions(const std::vector<PropertyRow>& a, const std::vector<PropertyR
 
 }  // namespace
 
-// Where the rows are those of before, only their values are shown anew: the current row keeps its place.
+// Where the rows are those of before, only values that differ are shown anew: the current row keeps its
+// place, and what is being typed into a cell stays.
 void PropGridModel::Show(const std::vector<PropertyRow>& rows, const CodePage& page) {
+  const bool samePage = page_ == &page;
   page_ = &page;
-  if (SameCaptions(rows, rows_)) {
+  if (!SameCaptions(rows, rows_)) {
+    beginResetModel();
     rows_ = rows;
-    if (!rows_.empty()) Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kValue));
+    endResetModel();
     return;
   }
-  beginResetModel();
-  rows_ = rows;
-  endResetModel();
+  const std::vector<PropertyRow> before = std::exchange(rows_, rows);
+  for (int row = 0; row < rowCount(); ++row) {
+    const auto i = static_cast<std::size_t>(row);
+    if (!samePage || before[i] != rows_[i]) Q_EMIT dataChanged(index(row, 0), index(row, kValue));
+  }
 }
 
 QString PropGridModel::TextAt(const QModelIndex& index) const {

@@ -7,6 +7,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadioButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
@@ -19,6 +21,7 @@ namespace {
 
 constexpr int kTitleHeight = 26;
 constexpr int kDescriptionLines = 4;
+constexpr int kSideMargin = 8;
 
 struct FilterRow {
   DisplayFilter filter;
@@ -28,6 +31,34 @@ struct FilterRow {
 constexpr std::array kFilters = {FilterRow{DisplayFilter::All, kTextFilterAll, "seeall"},
                                  FilterRow{DisplayFilter::Ebeu, kTextFilterEndUser, "see_ebeu"},
                                  FilterRow{DisplayFilter::Print, kTextFilterPrint, "see_printnoprint"}};
+
+// As narrow as the panel; a caption that has no room is told by its tip.
+class ElidedRadio final : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+  QSize minimumSizeHint() const override { return {40, QRadioButton::minimumSizeHint().height()}; }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.text = Fitting(option);
+    painter.drawControl(QStyle::CE_RadioButton, option);
+  }
+  void resizeEvent(QResizeEvent* event) override {
+    QRadioButton::resizeEvent(event);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    setToolTip(Fitting(option) == text() ? QString() : text());
+  }
+
+ private:
+  QString Fitting(const QStyleOptionButton& option) const {
+    const QRect room = style()->subElementRect(QStyle::SE_RadioButtonContents, &option, this);
+    return fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
+  }
+};
 
 }  // namespace
 
@@ -107,7 +138,7 @@ PropertyPanel::PropertyPanel(Designer& designer, QWidget* parent)
   description_->setObjectName(QStringLiteral("descriptionlabel"));
   description_->setWordWrap(true);
   description_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-  description_->setContentsMargins(8, 6, 8, 6);
+  description_->setContentsMargins(kSideMargin, 6, kSideMargin, 6);
   description_->setFixedHeight(fontMetrics().lineSpacing() * kDescriptionLines + 12);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -116,34 +147,47 @@ PropertyPanel::PropertyPanel(Designer& designer, QWidget* parent)
   layout->addWidget(grid_, 1);
   layout->addWidget(description_);
   BuildFilters();
-  connect(grid_, &PropGrid::Edited, this, &PropertyPanel::Edited);
-  connect(grid_, &PropGrid::RowChanged, this, &PropertyPanel::ShowDescription);
-  connect(grid_, &PropGrid::ButtonPressed, this,
-          [this](int row) { designer_.GuardedView([&] { designer_.Sheets().PressButton(row); }); });
-  connect(grid_, &PropGrid::Refused, this, [this](const QString& character) {
-    designer_.ShowText(kTextCharacterNotInPage, BoxIcon::Critical, ToNative(character));
-  });
-  connect(grid_, &PropGrid::FocusChanged, this, [this](bool has) {
-    gridFocus_ = has;
-    Q_EMIT GridFocusChanged(has);
-  });
+  ConnectGrid();
   connect(title_, &PanelTitle::SwitchWanted, this, [this] { designer_.Sheets().SwitchPlace(); });
   connect(title_, &PanelTitle::CloseWanted, this, [this] { designer_.Sheets().CloseProperties(); });
 }
 
+void PropertyPanel::ConnectGrid() {
+  connect(grid_, &PropGrid::Edited, this, &PropertyPanel::Edited);
+  connect(grid_, &PropGrid::RowChanged, this, &PropertyPanel::ShowDescription);
+  connect(grid_, &PropGrid::ButtonPressed, this,
+          [this](int row) { designer_.GuardedView([&] { designer_.Sheets().PressButton(row); }); });
+  connect(grid_, &PropGrid::RowDoubleClicked, this,
+          [this] { designer_.GuardedView([&] { designer_.Sheets().DoubleClicked(); }); });
+  connect(grid_, &PropGrid::Refused, this, [this](const QString& character) {
+    designer_.ShowText(kTextCharacterNotInPage, BoxIcon::Critical, ToNative(character));
+  });
+  connect(grid_, &PropGrid::FocusChanged, this,
+          [this](bool has) { designer_.GuardedView([&] { designer_.Sheets().SetGridFocus(has); }); });
+}
+
 void PropertyPanel::BuildFilters() {
   auto* group = new QButtonGroup(this);
+  auto* rows = new QVBoxLayout;
+  rows->setContentsMargins(kSideMargin, 4, kSideMargin, 8);
+  rows->setSpacing(2);
   for (const FilterRow& row : kFilters) {
-    auto* button = new QRadioButton(ToQString(designer_.Text(row.text)), this);
+    auto* button = new ElidedRadio(ToQString(designer_.Text(row.text)), this);
     button->setObjectName(QString::fromLatin1(row.name));
-    button->setContentsMargins(8, 0, 8, 0);
     group->addButton(button);
-    layout()->addWidget(button);
+    rows->addWidget(button);
     filters_.emplace_back(row.filter, button);
     connect(button, &QRadioButton::clicked, this,
             [this, filter = row.filter] { Q_EMIT FilterWanted(filter); });
   }
+  static_cast<QVBoxLayout*>(layout())->addLayout(rows);
   ShowFilter(designer_.Filter());
+}
+
+// Off the page it stands in a window of its own.
+void PropertyPanel::FocusGrid() {
+  window()->activateWindow();
+  grid_->setFocus(Qt::OtherFocusReason);
 }
 
 void PropertyPanel::ShowFilter(DisplayFilter filter) {
@@ -152,14 +196,19 @@ void PropertyPanel::ShowFilter(DisplayFilter filter) {
 }
 
 void PropertyPanel::ShowSheet(const Sheet& sheet, const std::string& title, int selectRow) {
+  // What was typed for something else has no place any more.
+  if (sheet.Object != object_ || sheet.Subject != subject_) grid_->DiscardOpenCell();
+  object_ = sheet.Object;
+  subject_ = sheet.Subject;
   title_->SetTitle(ToQString(title));
+  grid_->SetFolder(FromNative(designer_.TemplateFolder()));
   grid_->setEnabled(sheet.Enabled);
   grid_->Show(sheet.Rows, *designer_.OpenDocument().Page);
   if (selectRow != 0) grid_->SetCurrentRow(selectRow);
   if (sheet.Rows.empty()) description_->clear();
 }
 
-// The rows are shown anew while a cell is being closed; the view must have done with it first.
+// The rows are shown anew while the cell is still being closed.
 void PropertyPanel::Edited(int row) {
   const std::string text = grid_->Values()[static_cast<std::size_t>(row - 1)];
   designer_.Sheets().Edited(row, text);

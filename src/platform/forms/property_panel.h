@@ -52,16 +52,15 @@ class PropertyPanel final : public QWidget {
   void ShowSheet(const Sheet& sheet, const std::string& title, int selectRow);
   void ShowFilter(DisplayFilter filter);
   void CommitOpenCell() { grid_->CommitOpenCell(); }
-  void FocusGrid() { grid_->setFocus(Qt::OtherFocusReason); }
-  bool HasGridFocus() const { return gridFocus_; }
+  void FocusGrid();
   PanelTitle& Title() { return *title_; }
 
  Q_SIGNALS:
   void FilterWanted(kev::DisplayFilter filter);
-  void GridFocusChanged(bool has);
 
  private:
   void BuildFilters();
+  void ConnectGrid();
   void Edited(int row);
   void ShowDescription(int row);
 
@@ -70,7 +69,9 @@ class PropertyPanel final : public QWidget {
   PropGrid* grid_;
   QLabel* description_;
   std::vector<std::pair<DisplayFilter, QRadioButton*>> filters_;
-  bool gridFocus_ = false;
+  // What the grid's cells stand for.
+  int object_ = 0;
+  SheetSubject subject_ = SheetSubject::Document;
 };
 
 }  // namespace kev
