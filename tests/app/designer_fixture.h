@@ -44,7 +44,6 @@ class CountingView final : public DesignerView {
   std::function<void(SetColumnRun&)> OnSetThisColumn;
   // What the user does in the dialog of a subsection; the second is its OK.
   std::function<void(SubsectionDialog&, const std::function<bool()>&)> OnSubsection;
-  std::function<void()> OnCommitOpenCell;
 
   void DocumentReplaced() override { ++Replaced; }
   SurfaceOps& Canvas() override { return Page; }
@@ -77,9 +76,6 @@ class CountingView final : public DesignerView {
   }
   void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override {
     if (OnSubsection) OnSubsection(dialog, accept);
-  }
-  void CommitOpenCell() override {
-    if (OnCommitOpenCell) OnCommitOpenCell();
   }
 };
 

@@ -223,7 +223,7 @@ TEST_F(Saving, WhatIsBeingTypedCountsWhereTheDocumentIsGivenUp) {
 
 TEST_F(Saving, ACellThatIsOpenIsStoredBeforeTheQuestion) {
   const auto designer = Start();
-  view_.OnCommitOpenCell = [&] { designer->MarkModified(); };
+  view_.OnCommitCell = [&] { designer->MarkModified(); };
   host_.Answers = {BoxAnswer::Cancel};
   EXPECT_FALSE(designer->MayClose());
 }
