@@ -184,6 +184,7 @@ TEST_F(PropertySheetsTest, AnOpenCellIsStoredBeforeAFilterOrAToolOrAColumnIsChos
                                                      [this] { Surface().ChooseColumn(0); }};
   for (std::size_t i = 0; i < doings.size(); ++i) {
     designer_->SetFilter(DisplayFilter::All);
+    Surface().Pointer().PendingTool = {};
     Click(alpha_);
     OpenCell("Expression", "Text " + std::to_string(i));
     doings[i]();

@@ -58,8 +58,10 @@ void FormPROPS::TellPlace() {
   Q_EMIT Moved({Twips(x()), Twips(y()), Twips(width()), Twips(height())});
 }
 
-// The panel is closed, not the window: it comes back where it was.
+// The panel is closed, not the window: it comes back where it was. When the main window has closed, the
+// program waits for this one.
 void FormPROPS::closeEvent(QCloseEvent* event) {
+  if (!parentWidget()->isVisible()) return event->accept();
   event->ignore();
   Q_EMIT CloseWanted();
 }

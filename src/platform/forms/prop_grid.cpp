@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include "platform/forms/prop_grid_editors.h"
 #include "platform/forms/prop_grid_model.h"
@@ -17,6 +18,7 @@ namespace kev {
 namespace {
 
 constexpr int kCaptionWidth = 127;  // 1900 twips
+constexpr int kLeastValueWidth = 24;
 
 bool IsText(const QKeyEvent& event) {
   const Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
@@ -66,13 +68,18 @@ PropGrid::PropGrid(QWidget* parent) : QTableView(parent), model_(new PropGridMod
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-  horizontalHeader()->setStretchLastSection(true);
+  horizontalHeader()->setMinimumSectionSize(kLeastValueWidth);
+  horizontalHeader()->setSectionResizeMode(PropGridModel::kCaption, QHeaderView::Fixed);
+  horizontalHeader()->setSectionResizeMode(PropGridModel::kValue, QHeaderView::Stretch);
   setColumnWidth(PropGridModel::kCaption, kCaptionWidth);
   setShowGrid(false);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  // Captions stay in sight, however narrow the grid is.
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this,
+          [this] { horizontalScrollBar()->setValue(0); });
   setTabKeyNavigation(false);
   setFrameShape(QFrame::NoFrame);
   connect(model_, &PropGridModel::Edited, this, &PropGrid::Edited);
@@ -143,7 +150,7 @@ void PropGrid::commitData(QWidget* editor) {
 
 // Other rows may have closed the cell while it was committed.
 void PropGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-  if (HasOpenCell()) QTableView::closeEditor(editor, hint);
+  if (editor == nullptr || !editor->isHidden()) QTableView::closeEditor(editor, hint);
 }
 
 void PropGrid::Open(const QModelIndex& index, const std::optional<QString>& typed) {

@@ -10,6 +10,7 @@
 #include <QPixmap>
 #include <QScopedValueRollback>
 #include <QStyle>
+#include <QStyleOptionButton>
 #include <algorithm>
 #include <cmath>
 
@@ -189,17 +190,34 @@ QString PropGridDelegate::Choose(QWidget* parent, const PropertyRow& row, const 
 // --- The delegate
 // -------------------------------------------------------------------------------------------------
 
+namespace {
+
+void PaintButton(QPainter& painter, const QStyleOptionViewItem& option, bool enabled) {
+  QStyleOptionButton button;
+  button.rect = option.rect.adjusted(2, 1, -2, -2);
+  button.palette = option.palette;
+  button.state = QStyle::State_Raised | (enabled ? QStyle::State_Enabled : QStyle::State_None);
+  button.text = QStringLiteral("\u2026");
+  option.widget->style()->drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);
+}
+
+}  // namespace
+
 void PropGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
   QStyleOptionViewItem plain = option;
   // The caption carries the mark of the current row; the value stays easy to read.
-  if (index.column() == PropGridModel::kValue) plain.state &= ~QStyle::State_Selected;
+  if (index.column() == PropGridModel::kValue) {
+    plain.state &= ~QStyle::State_Selected;
+    painter->fillRect(option.rect, option.palette.base());
+  }
   QStyledItemDelegate::paint(painter, plain, index);
   painter->setPen(QColor(0xE1, 0xE4, 0xE8));
   painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
   if (index.column() != PropGridModel::kValue) return;
   painter->drawLine(option.rect.topLeft(), option.rect.bottomLeft());
   const PropertyRow& row = ModelOf(index).RowAt(index);
+  if (row.Editor == EditorKind::Button) return PaintButton(*painter, option, row.Enabled);
   const bool drops = row.Editor == EditorKind::ClosedList || row.Editor == EditorKind::OpenList;
   if (!drops || !row.Enabled) return;
   QStyleOption arrow;

@@ -216,8 +216,11 @@ void PropertyPanel::Edited(int row) {
 
 void PropertyPanel::ShowDescription(int row) {
   if (row == 0) return;
-  if (const std::optional<std::string> text = designer_.Sheets().Description(row))
-    description_->setText(ToQString(*text));
+  const std::optional<std::string> text = designer_.Sheets().Description(row);
+  if (!text) return;
+  description_->setText(ToQString(*text));
+  // In a narrow panel a long text has not room enough.
+  description_->setToolTip(ToQString(*text));
 }
 
 }  // namespace kev
