@@ -9,6 +9,8 @@
 namespace kev {
 namespace {
 
+const UpperLayer::Takes kAnything = [](const PointerInput&) { return true; };
+
 class UpperLayerTest : public testing::Test {
  protected:
   QString ShownText(const char* name) {
@@ -37,11 +39,11 @@ TEST_F(UpperLayerTest, ALineIsHadFromTwoPixelsBesideIt) {
   layer_.PlaceWidget("linecolumn(7)", 1500, 0, 15, 9000);
   layer_.ShowWidget("linecolumn(7)", true);
   for (const double x : {1470.0, 1500.0, 1530.0}) {
-    EXPECT_EQ(layer_.At({x, 300}).Source, PointerSource::ColumnLine) << x;
-    EXPECT_EQ(layer_.At({x, 300}).Index, 7) << x;
+    EXPECT_EQ(layer_.At({x, 300}, kAnything).Source, PointerSource::ColumnLine) << x;
+    EXPECT_EQ(layer_.At({x, 300}, kAnything).Index, 7) << x;
   }
-  EXPECT_EQ(layer_.At({1469, 300}).Source, PointerSource::Page);
-  EXPECT_EQ(layer_.At({1531, 300}).Source, PointerSource::Page);
+  EXPECT_EQ(layer_.At({1469, 300}, kAnything).Source, PointerSource::Page);
+  EXPECT_EQ(layer_.At({1531, 300}, kAnything).Source, PointerSource::Page);
 }
 
 TEST_F(UpperLayerTest, GuidesLetThePointerThrough) {
@@ -49,7 +51,7 @@ TEST_F(UpperLayerTest, GuidesLetThePointerThrough) {
   layer_.ShowWidget("linecolumn(7)", true);
   layer_.PlaceWidget("indicatorX", 1500, 0, 15, 9000);
   layer_.ShowWidget("indicatorX", true);
-  EXPECT_EQ(layer_.At({1500, 300}).Source, PointerSource::ColumnLine);
+  EXPECT_EQ(layer_.At({1500, 300}, kAnything).Source, PointerSource::ColumnLine);
 }
 
 }  // namespace
