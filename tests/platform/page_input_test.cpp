@@ -90,8 +90,8 @@ TEST_F(PageInputTest, AnObjectIsDraggedByTheMouse) {
   EXPECT_EQ(Objects().CurrentObject, label);
   // Now by its overlay.
   const QPoint again = PixelAt(label, 60, 60);
-  Drag(again, again - QPoint(20, 0));
-  EXPECT_EQ(Objects()[label].XValue, "500");
+  Drag(again, again - QPoint(40, 0));
+  EXPECT_EQ(Objects()[label].XValue, "200");
   EXPECT_EQ(Surface().Undo().UndoIndex(), 2);
 }
 
