@@ -15,7 +15,7 @@ constexpr double kMargin = 6;       // pixels around a place, for pens and round
 constexpr double kReach = 3;        // pixels beside a thin thing from which it is still had
 constexpr double kColumnReach = 2;  // the same for column lines
 const QColor kAccent(0x1F, 0x6F, 0xC5);
-const QColor kColumnColour(0x2E, 0x9E, 0x6B);
+const QColor kColumnColour(0x2E, 0x9E, 0x6B, 120);
 const QColor kBandColour(0, 0, 255);
 
 constexpr std::array kRows = {
