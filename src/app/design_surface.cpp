@@ -23,8 +23,7 @@ PageWork DesignSurface::Work() {
       designer_.ZoomFactor(),   designer_.Filter(), designer_.Images(), canvasWidth_, canvasHeight_};
 }
 
-// --- Painting
-// -----------------------------------------------------------------------------------------------
+// --- Painting ---
 
 void DesignSurface::Redraw() {
   Document& document = designer_.OpenDocument();
@@ -72,8 +71,7 @@ void DesignSurface::ToggleDrawGrid() {
   designer_.GuardedView([this] { Redraw(); }, [this] { drawGrid_ = !drawGrid_; });
 }
 
-// --- What the designer tells
-// ----------------------------------------------------------------------------------
+// --- What the designer tells ---
 
 void DesignSurface::DocumentReplaced() {
   PageWork work = Work();
@@ -120,8 +118,7 @@ void DesignSurface::GoToObject(int row) {
   SelectionChanged();
 }
 
-// --- Selection and words
-// ----------------------------------------------------------------------------------------
+// --- Selection and words ---
 
 void DesignSurface::SelectionChanged() {
   designer_.TheHost().ShowSelectionStatus(SelectionText(Work()));
@@ -143,8 +140,7 @@ BoxAnswer DesignSurface::ShowBox(int textNumber, BoxIcon icon, BoxButtons button
   return designer_.TheHost().ShowMessage(box);
 }
 
-// --- The window
-// ---------------------------------------------------------------------------------------------------
+// --- The window ---
 
 void DesignSurface::OpenContextMenu(ContextMenu menu) {
   // What it offers depends on what is below the pointer.

@@ -28,8 +28,7 @@ class DesignSurface final : public PageServices {
   explicit DesignSurface(Designer& designer);
   ~DesignSurface() override;
 
-  // --- What the user does
-  // ------------------------------------------------------------------------------------
+  // --- What the user does ---
   void PointerPress(const PointerInput& input);
   void PointerMove(const PointerInput& input);
   void PointerRelease(const PointerInput& input);
@@ -53,8 +52,7 @@ class DesignSurface final : public PageServices {
   // A row from the findings: selected and shown.
   void GoToObject(int row);
 
-  // --- What the designer tells it
-  // ----------------------------------------------------------------------------
+  // --- What the designer tells it ---
   void DocumentReplaced();
   // The page was zoomed: places of the pointer follow.
   void ZoomChanged(double before);
@@ -64,8 +62,7 @@ class DesignSurface final : public PageServices {
   // Paints the page. Painting may store measured sizes in rows.
   void Redraw();
 
-  // --- What is shown
-  // -----------------------------------------------------------------------------------------
+  // --- What is shown ---
   bool DrawGrid() const { return drawGrid_; }
   void ToggleDrawGrid();
   // The unit of the rulers, see surface/rulers.h.
@@ -80,8 +77,7 @@ class DesignSurface final : public PageServices {
   bool Busy() const { return tracker_.Busy(); }
   PageWork Work();
 
-  // --- PageServices
-  // ------------------------------------------------------------------------------------------
+  // --- PageServices ---
   void PushUndo() override;
   void MarkChanged() override;
   void FullRepaint() override;

@@ -95,8 +95,7 @@ PageInput::PageInput(Designer& designer, PageCanvas& canvas, UpperLayer& layer, 
   connect(field_, &FieldScreen::GivenUp, this, [this] { designer_.Surface().EndFieldScreen(false); });
 }
 
-// --- Pointer
-// ----------------------------------------------------------------------------------------------------
+// --- Pointer ---
 
 PointerInput PageInput::InputAt(const PagePointer& event) const {
   // Whole units: the page lies between pixels where its margin does, and a place on an edge must be on it.
@@ -184,8 +183,7 @@ void PageInput::RefreshCursor() {
   if (canvas_.viewport()->underMouse()) ShowCursor(InputAt(last_));
 }
 
-// --- Keys and windows
-// ---------------------------------------------------------------------------------------------
+// --- Keys and windows ---
 
 bool PageInput::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
@@ -248,8 +246,7 @@ void PageInput::TellRefused(const QString& character) {
   designer_.ShowText(kTextCharacterNotInPage, BoxIcon::Critical, ToNative(character));
 }
 
-// --- The text box and the timer
-// -------------------------------------------------------------------------------------
+// --- The text box and the timer ---
 
 void PageInput::ShowFieldScreen(const FieldScreenLook& look) {
   fieldPage_ = &PageOfCharSet(look.Font.CharSet, *designer_.OpenDocument().Page);

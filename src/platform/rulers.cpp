@@ -34,8 +34,7 @@ Ruler::Ruler(Qt::Orientation orientation, PageCanvas& canvas, FontCache& fonts, 
 
 Ruler::~Ruler() = default;
 
-// --- What it shows
-// ------------------------------------------------------------------------------------------
+// --- What it shows ---
 
 void Ruler::ShowPlan(const RulerPlan& plan, int mode) {
   if (plan == plan_ && mode == mode_) return;
@@ -80,8 +79,7 @@ std::size_t Ruler::Count() const {
                          [](std::size_t sum, const auto& part) { return sum + part->list.Count(); });
 }
 
-// --- Along with the page
-// --------------------------------------------------------------------------------------
+// --- Along with the page ---
 
 // The pixels that stay in sight are moved, and only what comes into it is painted.
 void Ruler::Follow() {
@@ -134,8 +132,7 @@ void Ruler::paintEvent(QPaintEvent* event) {
   if (marker_) painter.fillRect(MarkerArea(), palette().highlight());
 }
 
-// --- The pointer
-// ----------------------------------------------------------------------------------------------
+// --- The pointer ---
 
 void Ruler::Tell(PagePointer::Action action, const QMouseEvent& event) {
   if (event.button() != Qt::RightButton || !canvas_) return;

@@ -55,8 +55,7 @@ void Refuse(const SheetWork& work, const Refusal& refusal, std::size_t row, Shee
   if (refusal.SelectsRow) outcome.SelectRow = static_cast<int>(row) + 1;
 }
 
-// --- An object
-// -----------------------------------------------------------------------------------------------
+// --- An object ---
 
 void StoreRow(const RowTarget& target, const ObjectRow& row, std::size_t number, const std::string& text,
               SheetOutcome& outcome) {
@@ -99,8 +98,7 @@ void ApplyToObject(SheetWork& work, const ChangedTexts& texts, SheetOutcome& out
   work.page.services.FullRepaint();
 }
 
-// --- The document
-// ----------------------------------------------------------------------------------------------
+// --- The document ---
 
 void StoreSetting(const SheetWork& work, const DocumentRow& row, const std::string& text) {
   if (row.store != nullptr) return row.store(work, text);

@@ -44,8 +44,7 @@ constexpr int kWidestLine = 10;
 
 }  // namespace
 
-// --- Positions
-// ---------------------------------------------------------------------------------------------------
+// --- Positions ---
 
 Verdict CheckX(const RowTarget& target, std::string_view text) {
   if (MayBePosition(OrZero(text), target.TheDocument())) return std::nullopt;
@@ -89,8 +88,7 @@ Verdict CheckLineWidth(const RowTarget&, std::string_view text) {
   return Int32Of(text) > kWidestLine ? Verdict(RefusedWith(kTextLineWidthRefused)) : std::nullopt;
 }
 
-// --- Contents
-// ----------------------------------------------------------------------------------------------------
+// --- Contents ---
 
 Verdict CheckNotBlank(const RowTarget&, std::string_view text) {
   return Trim(text).empty() ? Verdict(RefusedWith(kTextEmptyTextRefused)) : std::nullopt;
@@ -107,8 +105,7 @@ void MeasureIfText(const RowTarget& target) {
     MeasureText(target.Record(), target.work.page.measurer);
 }
 
-// --- Font
-// --------------------------------------------------------------------------------------------------------
+// --- Font ---
 
 std::string ReadFont(const RowSource& source) {
   const ObjectRecord& record = source.Record();
@@ -144,8 +141,7 @@ void StoreCharset(const RowTarget& target, std::string_view text) {
   MeasureIfText(target);
 }
 
-// --- Words for codes
-// -----------------------------------------------------------------------------------------------
+// --- Words for codes ---
 
 std::string ReadAlignment(const RowSource& source) {
   return WordOf(kAlignments, source.Record().Align);
@@ -180,8 +176,7 @@ std::string_view CodeOfItem(std::string_view item) {
   return NthToken(Trim(item), 1, kBlank);
 }
 
-// --- Colours
-// -----------------------------------------------------------------------------------------------------
+// --- Colours ---
 
 namespace {
 

@@ -13,8 +13,7 @@ inline Refusal RefusedWith(int text, BoxIcon icon = BoxIcon::Critical) {
   return {.Text = text, .Icon = icon};
 }
 
-// --- Positions. An empty row counts as 0.
-// -----------------------------------------------------------------------
+// --- Positions. An empty row counts as 0. ---
 Verdict CheckX(const RowTarget& target, std::string_view text);
 Verdict CheckXNotNegative(const RowTarget& target, std::string_view text);
 void StoreX(const RowTarget& target, std::string_view text);
@@ -25,23 +24,20 @@ Verdict CheckY(const RowTarget& target, std::string_view text);
 Verdict CheckNotNegative(const RowTarget& target, std::string_view text);
 Verdict CheckLineWidth(const RowTarget& target, std::string_view text);
 
-// --- Contents, stored as typed; a LABEL or COMMAND is measured again
-// -------------------------------------------------
+// --- Contents, stored as typed; a LABEL or COMMAND is measured again ---
 Verdict CheckNotBlank(const RowTarget& target, std::string_view text);
 void StoreContent(const RowTarget& target, std::string_view text);
 // LABEL and COMMAND are as wide and high as their text; other kinds stay.
 void MeasureIfText(const RowTarget& target);
 
-// --- Font
-// ------------------------------------------------------------------------------------------------------
+// --- Font ---
 std::string ReadFont(const RowSource& source);
 Verdict CheckFont(const RowTarget& target, std::string_view text);
 void StoreFont(const RowTarget& target, std::string_view text);
 std::string ReadCharset(const RowSource& source);
 void StoreCharset(const RowTarget& target, std::string_view text);
 
-// --- Words for codes
-// -----------------------------------------------------------------------------------------------
+// --- Words for codes ---
 std::string ReadAlignment(const RowSource& source);
 // By the first letter; another one leaves the alignment as it is.
 void StoreAlignment(const RowTarget& target, std::string_view text);
@@ -52,8 +48,7 @@ void StoreValueType(const RowTarget& target, std::string_view text);
 std::string ItemOfCode(std::string_view tail, std::string_view code);
 std::string_view CodeOfItem(std::string_view item);
 
-// --- Colours, as "red,green,blue"
-// ---------------------------------------------------------------------------------
+// --- Colours, as "red,green,blue" ---
 std::string ReadForeColour(const RowSource& source);
 void StoreForeColour(const RowTarget& target, std::string_view text);
 std::string ReadBackColour(const RowSource& source);

@@ -33,8 +33,7 @@ DocumentSettings& SettingsOf(const SheetWork& work) {
   return work.page.document.Settings;
 }
 
-// --- Orientation, preview
-// ------------------------------------------------------------------------------------------
+// --- Orientation, preview ---
 
 std::string ShowOrientation(const std::string& value) {
   return value.starts_with('1') ? "1 - Portrait" : "2 - Landscape";
@@ -54,8 +53,7 @@ std::string ShowPercent(const std::string& value) {
   return isNumber ? value + "%" : value;
 }
 
-// --- Sample file
-// -------------------------------------------------------------------------------------------------
+// --- Sample file ---
 
 // Texts of the document are in its code page, and names on disk may be either.
 std::optional<std::string> FindSample(const SheetWork& work, std::string_view name) {
@@ -99,8 +97,7 @@ Verdict CheckSample(const SheetWork& work, std::string_view text) {
   return RefusalOf(CheckSampleFile(*file));
 }
 
-// --- Paper
-// -------------------------------------------------------------------------------------------------------
+// --- Paper ---
 
 void StorePaper(const SheetWork& work, std::string_view text) {
   DocumentSettings& settings = SettingsOf(work);
@@ -125,8 +122,7 @@ void StorePageSize(const SheetWork& work, std::string_view text) {
   SettingsOf(work)[PAPERSIZE] = kCustomPaper;
 }
 
-// --- Block characters
-// ------------------------------------------------------------------------------------------------
+// --- Block characters ---
 
 bool IsLetter(char c, const CodePage& page) {
   const std::string one(1, c);
@@ -146,8 +142,7 @@ Verdict CheckBlockCharacter(const SheetWork& work, std::string_view text) {
   return good ? Verdict() : RefusedWith(kTextBlockCharacterRefused, BoxIcon::Warning);
 }
 
-// --- Numbers
-// -----------------------------------------------------------------------------------------------------
+// --- Numbers ---
 
 void StoreCopies(const SheetWork& work, std::string_view text) {
   const double copies = NumericPrefix(text);

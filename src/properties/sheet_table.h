@@ -90,8 +90,7 @@ inline bool ShowsAt(const ObjectRow& row, SheetPlace place) {
 extern const ObjectSheet kLabelSheet, kTextBoxSheet, kPictureSheet, kBoxSheet, kLineSheet, kAnyLineSheet,
     kCircleSheet, kBarcodeSheet, kQrSheet, kChartSheet, kCommandSheet, kSectionSheet, kSubsectionSheet;
 
-// --- The document's
-// -------------------------------------------------------------------------------------------
+// --- The document's ---
 
 struct DocumentRow {
   std::string_view caption;

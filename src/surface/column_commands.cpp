@@ -34,8 +34,7 @@ int SlotForNewColumn(const Document& document) {
   return 0;
 }
 
-// --- Organising
-// -------------------------------------------------------------------------------------------------
+// --- Organising ---
 
 bool MayOrganize(const PageWork& work, const SavedText& savedText) {
   const std::string saved = savedText();
@@ -133,8 +132,7 @@ std::vector<double> ObjectPlaces(const Document& document) {
   return places;
 }
 
-// --- Using a column
-// -----------------------------------------------------------------------------------------------
+// --- Using a column ---
 
 std::vector<int> RowsForColumn(const PageWork& work) {
   const ObjectTable& objects = work.document.Objects;

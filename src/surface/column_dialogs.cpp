@@ -32,8 +32,7 @@ int FirstFreeSlot(const ColumnTable& columns) {
   return 0;
 }
 
-// --- inscol01
-// -----------------------------------------------------------------------------------------------------
+// --- inscol01 ---
 
 std::vector<std::string> ListItems(const ColumnTable& columns) {
   std::vector<std::string> items;
@@ -66,8 +65,7 @@ ColumnsDialog Emptied(const Document& document, std::size_t proposedNumber) {
   return dialog;
 }
 
-// --- SetThisColumn
-// --------------------------------------------------------------------------------------------------
+// --- SetThisColumn ---
 
 // What neither a position nor a line of the file could hold.
 bool IsUsableName(std::string_view name, const DocumentSettings& settings) {

@@ -52,8 +52,7 @@ QString inscol01::Text(int number) const {
   return ToQString(texts_.Text(number));
 }
 
-// --- Building
-// ---------------------------------------------------------------------------------------------------
+// --- Building ---
 
 void inscol01::Build() {
   auto* grid = new QGridLayout(this);
@@ -118,8 +117,7 @@ void inscol01::Connect() {
   });
 }
 
-// --- What happens
-// -----------------------------------------------------------------------------------------------
+// --- What happens ---
 
 void inscol01::Choose(int item) {
   run_.Choose(item);

@@ -67,8 +67,7 @@ void PageFrame::AddZoomKeys() {
   add("Ctrl+-", -1);
 }
 
-// --- Rulers
-// -------------------------------------------------------------------------------------------------
+// --- Rulers ---
 
 void PageFrame::ShowRulers(const Document& document, double zoom, int mode) {
   const RulerPlan plan = PlanRulers(document, zoom, QtMeasurer(fonts_));
@@ -97,8 +96,7 @@ void PageFrame::FollowPointer(const QPoint& viewportPoint) {
   rverint_->ShowMarker(inside ? std::optional(viewportPoint.y()) : std::nullopt);
 }
 
-// --- The panel
-// ------------------------------------------------------------------------------------------------
+// --- The panel ---
 
 void PageFrame::ConnectDivider() {
   connect(divider_, &PanelDivider::Dragged, this, [this](int left) {

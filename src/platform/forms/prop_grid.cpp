@@ -127,8 +127,7 @@ void PropGrid::SetCurrentRow(int row) {
   if (row >= 1 && row <= model_->rowCount()) setCurrentIndex(model_->index(row - 1, PropGridModel::kValue));
 }
 
-// --- Cells
-// -------------------------------------------------------------------------------------------------------
+// --- Cells ---
 
 void PropGrid::CommitOpenCell() {
   if (!HasOpenCell() || committing_) return;
@@ -175,8 +174,7 @@ void PropGrid::Choose(const QModelIndex& index) {
   setFocus(Qt::OtherFocusReason);
 }
 
-// --- Keys
-// --------------------------------------------------------------------------------------------------------
+// --- Keys ---
 
 // The menus would take these keys before the grid sees them.
 bool PropGrid::event(QEvent* event) {
@@ -237,8 +235,7 @@ void PropGrid::keyPressEvent(QKeyEvent* event) {
   QTableView::keyPressEvent(event);
 }
 
-// --- Current row, focus, pointer
-// ---------------------------------------------------------------------------------
+// --- Current row, focus, pointer ---
 
 void PropGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);

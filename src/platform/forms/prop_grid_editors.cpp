@@ -71,8 +71,7 @@ QIcon Swatch(const QColor& colour) {
   return pixmap;
 }
 
-// --- Editors
-// ------------------------------------------------------------------------------------------------------
+// --- Editors ---
 
 ArrowEdit::ArrowEdit(const ArrowBounds& bounds, QWidget* parent) : QAbstractSpinBox(parent), bounds_(bounds) {
   setFrame(false);
@@ -129,8 +128,7 @@ void ButtonEdit::keyPressEvent(QKeyEvent* event) {
   QLineEdit::keyPressEvent(event);
 }
 
-// --- Choosers
-// -----------------------------------------------------------------------------------------------------
+// --- Choosers ---
 
 namespace {
 
@@ -187,8 +185,7 @@ QString PropGridDelegate::Choose(QWidget* parent, const PropertyRow& row, const 
   }
 }
 
-// --- The delegate
-// -------------------------------------------------------------------------------------------------
+// --- The delegate ---
 
 namespace {
 

@@ -62,8 +62,7 @@ class ElidedRadio final : public QRadioButton {
 
 }  // namespace
 
-// --- The title bar
-// ------------------------------------------------------------------------------------------------
+// --- The title bar ---
 
 PanelTitle::PanelTitle(const QString& closeName, QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("bartitle1"));
@@ -124,8 +123,7 @@ void PanelTitle::mouseReleaseEvent(QMouseEvent* event) {
   Q_EMIT DragEnded();
 }
 
-// --- The panel
-// ----------------------------------------------------------------------------------------------------
+// --- The panel ---
 
 PropertyPanel::PropertyPanel(Designer& designer, QWidget* parent)
     : QWidget(parent),
