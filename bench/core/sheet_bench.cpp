@@ -50,7 +50,14 @@ class NoHost final : public Host {
   std::optional<std::string> ChooseFileToOpen(const FileChoice&) override { return std::nullopt; }
   std::optional<std::string> ChooseFileToSave(const FileChoice&) override { return std::nullopt; }
   void ShowCaption(std::string_view, bool) override {}
+  bool ProgressStopped() override { return false; }
   void FetchPicture(std::string_view, std::string_view, std::function<void(bool)>) override {}
+  std::optional<ProcessId> StartProgram(const ProgramStart&, std::function<void()>) override {
+    return std::nullopt;
+  }
+  void WaitForProcess(ProcessId) override {}
+  bool OpenAddress(std::string_view) override { return false; }
+  bool OpenWithDesktop(const std::string&) override { return false; }
 };
 
 int LastLabel(const Document& document) {

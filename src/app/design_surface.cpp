@@ -20,7 +20,8 @@ DesignSurface::~DesignSurface() = default;
 PageWork DesignSurface::Work() {
   return {
       designer_.OpenDocument(), pointer_,           designer_.Canvas(), *this,        designer_.Measurer(),
-      designer_.ZoomFactor(),   designer_.Filter(), designer_.Images(), canvasWidth_, canvasHeight_};
+      designer_.ZoomFactor(),   designer_.Filter(), designer_.Images(), canvasWidth_, canvasHeight_,
+      designer_.Made()};
 }
 
 // --- Painting ---
@@ -29,7 +30,7 @@ void DesignSurface::Redraw() {
   Document& document = designer_.OpenDocument();
   PaintContext context{
       document, designer_.Canvas(), designer_.Measurer(), designer_.ZoomFactor(), designer_.Filter(),
-      0,        designer_.Images()};
+      0,        designer_.Images(), designer_.Made()};
   const SortedRows sorted = SetSortKeys(document);
   painted_ = PaintPage(context, drawGrid_, sorted);
   canvasWidth_ = context.canvasWidth;

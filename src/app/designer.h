@@ -233,6 +233,7 @@ class Designer {
   // A surface that shows nothing while there is no window.
   SurfaceOps& Canvas() { return view_ != nullptr ? view_->Canvas() : nowhere_; }
   WorkImages Images() const { return {folders_.TempFolder, session_}; }
+  MadePictures Made() { return {}; }
   void PageShown();
   void ShowRulers();
   void ShowArea(const CanvasArea& area);

@@ -35,6 +35,13 @@ struct FileChoice {
   std::vector<std::pair<std::string, std::string>> Filters;  // caption and patterns ("*.kev *.KEV")
 };
 
+// A program to start. The arguments reach it one by one as they stand; no shell ever sees them.
+struct ProgramStart {
+  std::string Program;                 // a file, or a name to look up in PATH; native bytes
+  std::vector<std::string> Arguments;  // native bytes
+};
+using ProcessId = std::int64_t;
+
 class Host {
  public:
   virtual ~Host() = default;
@@ -49,6 +56,8 @@ class Host {
   virtual void BeginProgress(std::string_view text, int maximum) = 0;
   virtual void StepProgress(int value, std::string_view text) = 0;
   virtual void EndProgress() = 0;
+  // Whether the user has asked, since BeginProgress, that the work ends early.
+  virtual bool ProgressStopped() = 0;
 
   // Native paths; nothing when the user gives up.
   virtual std::optional<std::string> ChooseFileToOpen(const FileChoice& choice) = 0;
@@ -60,6 +69,18 @@ class Host {
   // Starts fetching an address into a file behind the call; `done` tells whether the file is there.
   virtual void FetchPicture(std::string_view address, std::string_view file,
                             std::function<void(bool)> done) = 0;
+
+  // Starts a program and goes on. Nothing when it could not be started. `ended` runs when it has ended,
+  // however it did, and never before this call has returned; a program that is told nothing of outlives us.
+  virtual std::optional<ProcessId> StartProgram(const ProgramStart& start,
+                                                std::function<void()> ended = {}) = 0;
+  // Until a program started with `ended` has ended; the window goes on answering the user meanwhile. A
+  // process that is not known has ended. No limit of time.
+  virtual void WaitForProcess(ProcessId process) = 0;
+  // Hands an address, as it stands, to the program that the desktop knows for its scheme.
+  virtual bool OpenAddress(std::string_view address) = 0;
+  // Opens a file with the desktop's own program for it; native path.
+  virtual bool OpenWithDesktop(const std::string& path) = 0;
 };
 
 }  // namespace kev

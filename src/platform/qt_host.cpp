@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt_host.h"
 
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -116,6 +117,7 @@ void QtHost::ShowSelectionStatus(std::string_view text) {
 }
 
 void QtHost::BeginProgress(std::string_view text, int maximum) {
+  progressStopped_ = false;
   Q_EMIT ProgressBegun(ToQString(text), maximum);
 }
 
@@ -158,6 +160,19 @@ void QtHost::ShowCaption(std::string_view documentTitle, bool modified) {
 
 void QtHost::FetchPicture(std::string_view address, std::string_view file, std::function<void(bool)> done) {
   fetcher_.Fetch(QUrl(ToQString(address)), std::string(file), std::move(done));
+}
+
+std::optional<ProcessId> QtHost::StartProgram(const ProgramStart& start, std::function<void()> ended) {
+  return ended ? processes_.Start(start, std::move(ended)) : Processes::StartDetached(start);
+}
+
+// Not by QDesktopServices: it makes a url of the text, and what is registered gets another one.
+bool QtHost::OpenAddress(std::string_view address) {
+  return Processes::StartDetached({"xdg-open", {std::string(address)}}).has_value();
+}
+
+bool QtHost::OpenWithDesktop(const std::string& path) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(FromNative(path)));
 }
 
 }  // namespace kev

@@ -12,6 +12,7 @@
 
 #include "base/host.h"
 #include "platform/picture_fetcher.h"
+#include "platform/processes.h"
 
 class QAbstractButton;
 class QFileDialog;
@@ -41,7 +42,15 @@ class QtHost final : public QObject, public Host {
   std::optional<std::string> ChooseFileToOpen(const FileChoice& choice) override;
   std::optional<std::string> ChooseFileToSave(const FileChoice& choice) override;
   void ShowCaption(std::string_view documentTitle, bool modified) override;
+  bool ProgressStopped() override { return progressStopped_; }
   void FetchPicture(std::string_view address, std::string_view file, std::function<void(bool)> done) override;
+  std::optional<ProcessId> StartProgram(const ProgramStart& start, std::function<void()> ended) override;
+  void WaitForProcess(ProcessId process) override { processes_.Wait(process); }
+  bool OpenAddress(std::string_view address) override;
+  bool OpenWithDesktop(const std::string& path) override;
+
+  // The user has had enough of what is under way.
+  void StopProgress() { progressStopped_ = true; }
 
  Q_SIGNALS:
   void StatusChanged(const QString& text);
@@ -59,6 +68,8 @@ class QtHost final : public QObject, public Host {
   QHash<BoxAnswer, QString> captions_;
   bool nativeDialogs_ = true;
   PictureFetcher fetcher_;
+  Processes processes_;
+  bool progressStopped_ = false;
 };
 
 }  // namespace kev

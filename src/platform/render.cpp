@@ -53,7 +53,8 @@ struct PaintedPage {
                          .measurer = measurer,
                          .ZoomFactor = options.ZoomFactor,
                          .filter = options.filter,
-                         .images = options.images};
+                         .images = options.images,
+                         .pictures = options.pictures};
     PaintPage(context, options.grid, SetSortKeys(document));
   }
 

@@ -21,6 +21,7 @@ struct RenderOptions {
   DesignerFolders folders;     // where the pictures of the page lie
   std::string TemplateFolder;  // native; empty for a document without a file
   WorkImages images;
+  MadePictures pictures = {};
 };
 
 // A page of more pixels than this is refused instead of filling the memory.

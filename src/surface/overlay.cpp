@@ -35,8 +35,8 @@ CanvasArea PanelAreaOf(const PageWork& work, const ObjectRecord& record) {
 void PaintBody(PageWork& work, SurfaceOps& panel, int row, const CanvasArea& area) {
   const ObjectRecord& record = work.document.Objects[row];
   if (record.Kind == ObjectKind::Barcode && Int32Of(record.BarcodeKind) == kPageOnlySymbology) return;
-  PaintContext context{work.document,    panel,      work.measurer, work.ZoomFactor, work.filter,
-                       work.canvasWidth, work.images};
+  PaintContext context{work.document,    panel,       work.measurer, work.ZoomFactor, work.filter,
+                       work.canvasWidth, work.images, work.pictures};
   PaintObject(context, row);
   if (record.Kind != ObjectKind::TextBox) return;
   panel.SetPen(kBlack, 1, PenStyle::Solid);

@@ -84,6 +84,7 @@ struct PageWork {
   DisplayFilter filter = DisplayFilter::All;
   WorkImages images;
   double canvasWidth = 0, canvasHeight = 0;  // canvas units
+  MadePictures pictures = {};
 };
 
 }  // namespace kev

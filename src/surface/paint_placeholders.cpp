@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Objects whose own picture is made elsewhere: their place is framed and named. A file that bears the name of
 // such a picture may be another run's, so none is painted that this run has not made.
-#include <algorithm>
-#include <array>
-
-#include "base/numbers.h"
-#include "document/symbologies.h"
 #include "surface/paint_kinds.h"
 
 namespace kev {
@@ -15,18 +10,6 @@ constexpr Rgb kFrame = 0xA0A0A0;
 constexpr Rgb kCaption = 0x707070;
 constexpr double kCaptionPoints = 8;
 constexpr std::size_t kLongestCaption = 100;
-constexpr std::array kCode128 = {1282, 1283, 12821};
-
-std::string_view SymbologyNameOf(const ObjectRecord& record) {
-  const Symbology* row = SymbologyOfKind(Int32Of(record.BarcodeKind));
-  return row == nullptr || row->name.empty() ? "BARCODE" : row->name;
-}
-
-std::string ChartCaption(const ObjectRecord& record) {
-  return record.ChartValues.empty() || record.ChartValues.front().empty()
-             ? "CHART"
-             : "CHART " + record.ChartValues.front();
-}
 
 // As much of the text as has room, with dots for the rest; nothing where not even one character has.
 std::string Elided(SurfaceOps& surface, std::string_view text, double room) {
@@ -37,12 +20,6 @@ std::string Elided(SurfaceOps& surface, std::string_view text, double room) {
     if (surface.TextWidth(shown) <= room) return shown;
   }
   return {};
-}
-
-// The bars of these are made at their own size and stand where the record says, whatever the zoom.
-bool IsPaintedUnzoomed(const ObjectRecord& record) {
-  const int kind = Int32Of(record.BarcodeKind);
-  return IsVerticalBarcode(record) || std::find(kCode128.begin(), kCode128.end(), kind) != kCode128.end();
 }
 
 }  // namespace
@@ -58,21 +35,6 @@ void PaintPlaceholder(PaintContext& context, const CanvasArea& area, std::string
   surface.SetForeground(kCaption);
   surface.PrintText(area.Left + (area.Width() - surface.TextWidth(shown)) / 2,
                     area.Top + (area.Height() - height) / 2, shown);
-}
-
-void PaintBarcode(PaintContext& context, const ObjectRecord& record) {
-  const double zoom = IsPaintedUnzoomed(record) ? 1 : context.ZoomFactor;
-  PaintPlaceholder(context, AreaOf(record, context.document, zoom), SymbologyNameOf(record));
-}
-
-void PaintQr(PaintContext& context, ObjectRecord& record, int row) {
-  record.PictureFile = QrImageName(context.images, row, record.Y);
-  PaintPlaceholder(context, AreaOf(record, context.document, context.ZoomFactor), "QR");
-}
-
-void PaintChart(PaintContext& context, ObjectRecord& record, int row) {
-  record.PictureFile = ChartImageName(context.images, row);
-  PaintPlaceholder(context, AreaOf(record, context.document, context.ZoomFactor), ChartCaption(record));
 }
 
 }  // namespace kev

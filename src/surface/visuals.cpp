@@ -140,8 +140,12 @@ PaintResult RedrawDocument(PaintContext& context, const SortedRows& sorted) {
 void ApplyRedrawWriteBack(Document& document, const TextMeasurer& measurer, DisplayFilter filter,
                           const WorkImages& images) {
   NullSurface surface;
-  PaintContext context{
-      .document = document, .surface = surface, .measurer = measurer, .filter = filter, .images = images};
+  PaintContext context{.document = document,
+                       .surface = surface,
+                       .measurer = measurer,
+                       .filter = filter,
+                       .images = images,
+                       .pictures = {}};
   RedrawDocument(context, SetSortKeys(document));
 }
 

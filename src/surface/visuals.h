@@ -30,6 +30,24 @@ struct WorkImages {
 std::string QrImageName(const WorkImages& images, int row, std::int32_t y);
 std::string ChartImageName(const WorkImages& images, int row);
 
+// The images of QR codes and of charts are made beside the painting and lie in files. Whether the image of a
+// row may be painted from `file` (as its PictureFile names it). Where it has to be made first, that is begun,
+// and the page is painted again once it is there. Who has none to give paints a frame with a caption instead.
+class QrPictures {
+ public:
+  virtual ~QrPictures() = default;
+  virtual bool IsReady(int row, const ObjectRecord& record, const std::string& file) = 0;
+};
+class ChartPictures {
+ public:
+  virtual ~ChartPictures() = default;
+  virtual bool IsReady(int row, const ObjectRecord& record, const std::string& file, double zoom) = 0;
+};
+struct MadePictures {
+  QrPictures* Qr = nullptr;
+  ChartPictures* Charts = nullptr;
+};
+
 struct PaintContext {
   Document& document;
   SurfaceOps& surface;
@@ -38,6 +56,7 @@ struct PaintContext {
   DisplayFilter filter = DisplayFilter::All;
   double canvasWidth = 0;  // canvas units, as DrawPageBackground gives it
   WorkImages images;
+  MadePictures pictures = {};
 };
 
 struct PaintResult {

@@ -5,7 +5,9 @@
 #include <deque>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/host.h"
@@ -29,6 +31,18 @@ class ScriptedHost final : public Host {
   std::deque<std::optional<std::string>> FilesToOpen, FilesToSave;
   std::vector<FileChoice> Choices;
   std::vector<Fetch> Fetches;
+  struct Started {
+    ProgramStart Start;
+    std::function<void()> Ended;
+    ProcessId Id = 0;
+  };
+  std::vector<Started> Programs;
+  std::vector<ProcessId> Waits;
+  std::vector<std::string> Addresses, DesktopFiles;
+  std::set<std::string> MissingPrograms;               // can't be started
+  std::function<void(const ProgramStart&)> OnProgram;  // what the program does, while it is waited for
+  bool AddressKnown = true, DesktopKnown = true;
+  bool Stopped = false;
   std::function<void()> OnStep;  // what happens in the window while it shows progress
 
   BoxAnswer ShowMessage(const MessageBox& box) override {
@@ -65,6 +79,31 @@ class ScriptedHost final : public Host {
   void FetchPicture(std::string_view address, std::string_view file,
                     std::function<void(bool)> done) override {
     Fetches.push_back({std::string(address), std::string(file), std::move(done)});
+  }
+  bool ProgressStopped() override { return Stopped; }
+  std::optional<ProcessId> StartProgram(const ProgramStart& start, std::function<void()> ended) override {
+    if (MissingPrograms.contains(start.Program)) return std::nullopt;
+    const auto id = static_cast<ProcessId>(Programs.size()) + 1;
+    Programs.push_back({start, std::move(ended), id});
+    return id;
+  }
+  void WaitForProcess(ProcessId process) override {
+    Waits.push_back(process);
+    EndProgram(process);
+  }
+  // What a program that was started and told of does, and its end.
+  void EndProgram(ProcessId process) {
+    Started& started = Programs.at(static_cast<std::size_t>(process) - 1);
+    if (OnProgram) OnProgram(started.Start);
+    if (const auto ended = std::exchange(started.Ended, {})) ended();
+  }
+  bool OpenAddress(std::string_view address) override {
+    Addresses.emplace_back(address);
+    return AddressKnown;
+  }
+  bool OpenWithDesktop(const std::string& path) override {
+    DesktopFiles.push_back(path);
+    return DesktopKnown;
   }
 
  private:
