@@ -33,8 +33,11 @@ constexpr std::array kCommands = {
                kGroup},
     CommandRow{Command::Undo, MenuId::Edit, "undochanges_", kTextMenuUndo, "Ctrl+Z"},
     CommandRow{Command::Redo, MenuId::Edit, "redochanges", kTextMenuRedo, "Ctrl+Y"},
-    CommandRow{Command::DeleteObject, MenuId::Edit, "deleteobject", kTextMenuDelete, "Del",
-               CommandKind::Plain, kNoDialog, kGroup},
+    CommandRow{Command::Cut, MenuId::Edit, "Cuthis", kTextMenuCut, "Ctrl+X", CommandKind::Plain, kNoDialog,
+               kGroup},
+    CommandRow{Command::Copy, MenuId::Edit, "copythis", kTextMenuCopy, "Ctrl+C"},
+    CommandRow{Command::Paste, MenuId::Edit, "pastehere", kTextMenuPaste, "Ctrl+V"},
+    CommandRow{Command::DeleteObject, MenuId::Edit, "deleteobject", kTextMenuDelete, "Del"},
     CommandRow{Command::SelectAll, MenuId::Edit, "selectall", kTextMenuSelectAll, "Ctrl+A",
                CommandKind::Plain, kNoDialog, kGroup},
     CommandRow{Command::MoveUp, MenuId::Edit, "moveup", kTextMenuMoveUp, "", CommandKind::Plain, kNoDialog,
@@ -68,6 +71,20 @@ constexpr std::array kCommands = {
     CommandRow{Command::SetColumn, MenuId::None, "setcolumn", kTextMenuSetColumn, "", CommandKind::Plain,
                kDialog},
     CommandRow{Command::OrganizeColumns, MenuId::Columns, "organizecolumns", kTextMenuOrganizeColumns, ""},
+    CommandRow{Command::CutContext, MenuId::None, "CutContext", kTextMenuCut, ""},
+    CommandRow{Command::CopyContext, MenuId::None, "copycontext", kTextMenuCopy, ""},
+    CommandRow{Command::CutGroup, MenuId::None, "cut22", kTextMenuCut, ""},
+    CommandRow{Command::CopyGroup, MenuId::None, "copyuy", kTextMenuCopy, ""},
+    CommandRow{Command::DeleteSelection, MenuId::None, "deleteselection", kTextMenuDeleteSelection, ""},
+    CommandRow{Command::AlignHorizontally, MenuId::None, "alignhor", kTextMenuAlignHorizontally, ""},
+    CommandRow{Command::PlaceAt, MenuId::None, "placethis", kTextMenuPlaceAt, "", CommandKind::Plain,
+               kDialog},
+    CommandRow{Command::AlignToGrid, MenuId::None, "aligntogrid", kTextMenuAlignToGrid, "",
+               CommandKind::Plain, kDialog},
+    CommandRow{Command::ModifyEndUser, MenuId::None, "modienduser", kTextMenuModifiable, "",
+               CommandKind::Plain, kDialog},
+    CommandRow{Command::PrintNoPrint, MenuId::None, "menprintnoprint", kTextMenuPrintOrNot, "",
+               CommandKind::Plain, kDialog},
     CommandRow{Command::Properties, MenuId::View, "Properties", kTextMenuProperties, "F4"},
     CommandRow{Command::SeeAll, MenuId::View, "seeall", kTextFilterAll, "", CommandKind::Exclusive, kNoDialog,
                kGroup},
@@ -125,14 +142,20 @@ bool IsPageCommand(Command id) {
 
 std::span<const std::optional<Command>> ContextMenuRows(ContextMenu menu) {
   using Row = std::optional<Command>;
-  static constexpr std::array kObject = {Row(Command::DeleteObject), Row(), Row(Command::MoveUp),
-                                         Row(Command::MoveDown),     Row(), Row(Command::Properties)};
-  static constexpr std::array kEdit = {Row(Command::Undo), Row(Command::Redo), Row(),
-                                       Row(Command::SelectAll)};
+  static constexpr std::array kObject = {
+      Row(Command::CutContext), Row(Command::CopyContext), Row(), Row(Command::DeleteObject), Row(),
+      Row(Command::MoveUp),     Row(Command::MoveDown),    Row(), Row(Command::Properties)};
+  static constexpr std::array kEdit = {
+      Row(Command::Undo), Row(Command::Redo), Row(), Row(Command::Paste), Row(), Row(Command::SelectAll)};
   static constexpr std::array kRuler = {Row(Command::InsertColumnHere), Row(Command::SetColumns)};
   static constexpr std::array kColumn = {Row(Command::SetColumn), Row(Command::RemoveColumn), Row(),
                                          Row(Command::OrganizeColumns)};
-  static constexpr std::array kGroupMenu = {Row(Command::DeleteObject), Row(), Row(Command::SelectAll)};
+  static constexpr std::array kGroupMenu = {Row(Command::CutGroup),          Row(Command::CopyGroup),
+                                            Row(Command::DeleteSelection),   Row(),
+                                            Row(Command::SelectAll),         Row(),
+                                            Row(Command::AlignHorizontally), Row(Command::PlaceAt),
+                                            Row(Command::AlignToGrid),       Row(),
+                                            Row(Command::ModifyEndUser),     Row(Command::PrintNoPrint)};
   switch (menu) {
     case ContextMenu::Edit:
       return kEdit;

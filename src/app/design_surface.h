@@ -11,6 +11,8 @@
 
 #include "app/commands.h"
 #include "app/recovery.h"
+#include "surface/clipboard.h"
+#include "surface/font_tools.h"
 #include "surface/insertion.h"
 #include "surface/page_keys.h"
 #include "surface/page_work.h"
@@ -49,6 +51,12 @@ class DesignSurface final : public PageServices {
   void ChooseColumn(int item);
   // A button of the tool bar: the tool waits for the next click on the page, or waits no more.
   void ToggleTool(std::string_view tool);
+  // The tools for text, on the current object or the group. What is chosen while the tools are being filled
+  // is nobody's choice.
+  void ChooseFont(std::string_view name);
+  void ChooseFontSize(std::string_view size);
+  void PressFontTool(FontTool tool);
+  void ChooseTextColour();
   // A row from the findings: selected and shown.
   void GoToObject(int row);
 
@@ -72,6 +80,7 @@ class DesignSurface final : public PageServices {
   const PointerState& Pointer() const { return pointer_; }
   PointerState& Pointer() { return pointer_; }
   const UndoStore& Undo() const { return undo_; }
+  const ClipboardTable& Clipboard() const { return clipboard_; }
   const TextEdit& Edit() const { return edit_; }
   Recovery& TheRecovery() { return recovery_; }
   bool Busy() const { return tracker_.Busy(); }
@@ -105,6 +114,11 @@ class DesignSurface final : public PageServices {
   void DoUndo();
   void DoRedo();
   void RunColumnCommand(PageWork& work, Command command);
+  void RunClipboardCommand(PageWork& work, Command command);
+  void RunGroupCommand(PageWork& work, Command command);
+  bool TextHasKeys() const;
+  void ShowFontTools();
+  void UseTextTool(const std::function<void(PageWork&)>& change);
   void HoverColumn(const PointerInput& input);
   // Behind another level: no selection, everything shown anew.
   void ShowLevel();
@@ -115,6 +129,8 @@ class DesignSurface final : public PageServices {
   UndoStore undo_;
   Recovery recovery_;
   TextEdit edit_;
+  ClipboardTable clipboard_;
+  bool fillingTools_ = false;
   PaintResult painted_;
   double canvasWidth_ = 0, canvasHeight_ = 0;
   bool drawGrid_ = false;

@@ -25,6 +25,7 @@ bool DesignSurface::Run(Command command) {
       case Command::Redo:
         return DoRedo();
       case Command::DeleteObject:
+      case Command::DeleteSelection:
         return DeleteSelected(work);
       case Command::SelectAll:
         return SelectAll(work);
@@ -40,6 +41,20 @@ bool DesignSurface::Run(Command command) {
       case Command::SetColumn:
       case Command::OrganizeColumns:
         return RunColumnCommand(work, command);
+      case Command::Cut:
+      case Command::CutContext:
+      case Command::CutGroup:
+      case Command::Copy:
+      case Command::CopyContext:
+      case Command::CopyGroup:
+      case Command::Paste:
+        return RunClipboardCommand(work, command);
+      case Command::AlignHorizontally:
+      case Command::PlaceAt:
+      case Command::AlignToGrid:
+      case Command::ModifyEndUser:
+      case Command::PrintNoPrint:
+        return RunGroupCommand(work, command);
       default:
         if (const auto what = InsertionOf(command)) {
           InsertionWork insertion = Inserting(work);
@@ -61,6 +76,22 @@ bool DesignSurface::Enabled(Command command) const {
       return undo_.CanRedo();
     case Command::DeleteObject:
       return current || pointer_.MultiSelected;
+    case Command::Cut:
+    case Command::CutContext:
+    case Command::CutGroup:
+    case Command::Copy:
+    case Command::CopyContext:
+    case Command::CopyGroup:
+      return !TextHasKeys() && (current || pointer_.MultiSelected);
+    case Command::Paste:
+      return !TextHasKeys() && !clipboard_.Empty();
+    case Command::DeleteSelection:
+    case Command::AlignHorizontally:
+    case Command::PlaceAt:
+    case Command::AlignToGrid:
+    case Command::ModifyEndUser:
+    case Command::PrintNoPrint:
+      return pointer_.MultiSelected;
     case Command::MoveUp:
     case Command::MoveDown:
       return current && objects[objects.CurrentObject].Kind == ObjectKind::Subsection;

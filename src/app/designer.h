@@ -49,6 +49,9 @@ inline constexpr double kLargestZoom = 800;
 
 class ColumnsDialogRun;
 class SetColumnRun;
+class PlaceSelectionRun;
+class AlignToGridRun;
+class GroupFlagRun;
 
 // What the window does when the document has changed under it. The window implements it; every call comes
 // from the one thread, and none before AttachView.
@@ -91,6 +94,15 @@ class DesignerView {
   // The dialogs `inscol01` and `SetThisColumn`; each returns when its dialog has closed.
   virtual void OpenColumnsDialog(ColumnsDialogRun&) {}
   virtual void OpenSetThisColumn(SetColumnRun&) {}
+  // The dialogs of the group's menu: `placeselection`, `AlignToGridFrm`, `Modifyenduser`, `PrintNoPrintFrm`.
+  virtual void OpenPlaceSelection(PlaceSelectionRun&) {}
+  virtual void OpenAlignToGrid(AlignToGridRun&) {}
+  virtual void OpenModifyEndUser(GroupFlagRun&) {}
+  virtual void OpenPrintNoPrint(GroupFlagRun&) {}
+  // What the tools for text show and whether they can be used.
+  virtual void ShowFontTools(const FontTools&) {}
+  // Asks for a colour, with this one to begin with; nothing when the user gives up.
+  virtual std::optional<Colour> ChooseColour(const Colour&) { return std::nullopt; }
 };
 
 // What a process gives to its designer.

@@ -9,6 +9,7 @@
 
 #include "app/commands.h"
 #include "base/text_numbers.h"
+#include "surface/font_tools.h"
 #include "surface/insertion_table.h"
 
 namespace kev {
@@ -21,10 +22,12 @@ struct ToolButtonRow {
   int tooltip;             // number of the text; 0 where the next column tells it
   std::string_view fixedTooltip;
   ToolBarId bar;
-  // One of the two; a button that has neither is not shown.
+  // One of the two; a button that has neither, and no font tool, is not shown.
   std::optional<Command> command;
   std::string_view tool;         // waits for a click on the page; its button stays down meanwhile
   bool separatorBefore = false;  // a new group of the bar begins
+  // Changes a text and stays down while the text is so; such a button has neither of the two above.
+  std::optional<FontTool> fontTool = std::nullopt;
 };
 
 inline constexpr std::string_view kButtonImages = "\\Pbms\\";
@@ -39,14 +42,20 @@ inline constexpr auto kToolButtons = std::to_array<ToolButtonRow>({
     {"ImgButton5", "propics", kTextTipProperties, "", ToolBarId::First, Command::Properties, ""},
     {"ImgButton21", "undoicss", kTextTipUndo, "", ToolBarId::First, Command::Undo, "", true},
     {"ImgButton22", "redoicss", kTextTipRedo, "", ToolBarId::First, Command::Redo, ""},
-    {"ImgButton17", "cuticss", kTextTipCut, "", ToolBarId::First, std::nullopt, "", true},
-    {"ImgButton18", "copyicss", kTextTipCopy, "", ToolBarId::First, std::nullopt, ""},
-    {"ImgButton10", "boldicss", kTextTipFontBold, "", ToolBarId::First, std::nullopt, "", true},
-    {"ImgButton11", "italicicss", 0, "Font Italic", ToolBarId::First, std::nullopt, ""},
-    {"ImgButton12", "underlineicss", kTextTipFontUnderline, "", ToolBarId::First, std::nullopt, ""},
-    {"ImgButton13", "lefticss", kTextTipAlignLeft, "", ToolBarId::First, std::nullopt, "", true},
-    {"ImgButton14", "centericss", kTextTipAlignCentre, "", ToolBarId::First, std::nullopt, ""},
-    {"ImgButton15", "righticss", kTextTipAlignRight, "", ToolBarId::First, std::nullopt, ""},
+    {"ImgButton17", "cuticss", kTextTipCut, "", ToolBarId::First, Command::Cut, "", true},
+    {"ImgButton18", "copyicss", kTextTipCopy, "", ToolBarId::First, Command::Copy, ""},
+    {"ImgButton10", "boldicss", kTextTipFontBold, "", ToolBarId::First, std::nullopt, "", true,
+     FontTool::Bold},
+    {"ImgButton11", "italicicss", 0, "Font Italic", ToolBarId::First, std::nullopt, "", false,
+     FontTool::Italic},
+    {"ImgButton12", "underlineicss", kTextTipFontUnderline, "", ToolBarId::First, std::nullopt, "", false,
+     FontTool::Underline},
+    {"ImgButton13", "lefticss", kTextTipAlignLeft, "", ToolBarId::First, std::nullopt, "", true,
+     FontTool::AlignLeft},
+    {"ImgButton14", "centericss", kTextTipAlignCentre, "", ToolBarId::First, std::nullopt, "", false,
+     FontTool::AlignCentre},
+    {"ImgButton15", "righticss", kTextTipAlignRight, "", ToolBarId::First, std::nullopt, "", false,
+     FontTool::AlignRight},
     {"ImgButton6", "labelICs", kTextTipInsertLabel, "", ToolBarId::Second, std::nullopt, "LABEL"},
     {"ImgButton32", "atICs", kTextTipInsertNextVariable, "", ToolBarId::Second, std::nullopt, "LABELVAR"},
     {"ImgButton24", "textboxICs", 0, "insert a textbox", ToolBarId::Second, std::nullopt, "TEXTBOX"},

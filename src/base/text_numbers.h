@@ -172,6 +172,9 @@ inline constexpr int kTextGroupModifiable = 238;
 inline constexpr int kTextGroupNotModifiable = 239;
 inline constexpr int kTextGroupPrint = 240;
 inline constexpr int kTextGroupNoPrint = 241;
+// Beside them
+inline constexpr int kTextPasteRefused = 350;
+inline constexpr int kTextGridPropertySet = 351;
 
 // Chart wizard: caption and its four pages
 inline constexpr int kTextChartDialog = 250;

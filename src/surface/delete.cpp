@@ -65,20 +65,8 @@ void DeleteCurrent(PageWork& work) {
     work.services.FullRepaint();
 }
 
-// The members that the page shows: nothing is deleted unseen.
-std::vector<int> Members(const PageWork& work) {
-  const ObjectTable& objects = work.document.Objects;
-  std::vector<int> rows;
-  for (int row = 1; row <= objects.LastScanned(); ++row) {
-    const ObjectRecord& record = objects[row];
-    if (record.Kind == ObjectKind::None || IsBand(record.Kind)) continue;
-    if (record.Selected == kTrue && PassesFilter(record, work.filter)) rows.push_back(row);
-  }
-  return rows;
-}
-
 void DeleteGroup(PageWork& work) {
-  const std::vector<int> members = Members(work);
+  const std::vector<int> members = GroupMembers(work);
   if (members.empty()) return;
   work.services.PushUndo();
   for (const int row : members)

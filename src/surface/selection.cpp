@@ -51,6 +51,17 @@ bool MayJoinGroup(const PageWork& work, int row) {
   return kind != ObjectKind::None && !IsBand(kind);
 }
 
+std::vector<int> GroupMembers(const PageWork& work) {
+  const ObjectTable& objects = work.document.Objects;
+  std::vector<int> rows;
+  for (int row = 1; row <= objects.LastScanned(); ++row) {
+    const ObjectRecord& record = objects[row];
+    const bool isMember = record.Selected == kTrue && MayJoinGroup(work, row);
+    if (isMember && PassesFilter(record, work.filter)) rows.push_back(row);
+  }
+  return rows;
+}
+
 void EndGroup(PageWork& work) {
   ObjectTable& objects = work.document.Objects;
   for (int row = 1; row <= objects.LastScanned(); ++row)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "surface/page_work.h"
 
@@ -39,6 +40,9 @@ void ShowBoxOverlay(PageWork& work, int row);
 
 // SECTION, SUBSECTION and end bars are no members of a group.
 bool MayJoinGroup(const PageWork& work, int row);
+// The members of the group that the page shows, in the order of their rows: no command changes the others
+// unseen.
+std::vector<int> GroupMembers(const PageWork& work);
 
 void SelectAll(PageWork& work);
 

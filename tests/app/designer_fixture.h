@@ -14,6 +14,7 @@
 
 #include "app/column_runs.h"
 #include "app/designer.h"
+#include "app/group_runs.h"
 #include "app/recover.h"
 #include "base/text_numbers.h"
 #include "document/text_measurer.h"
@@ -42,6 +43,14 @@ class CountingView final : public DesignerView {
   // What the user does in the dialogs of the columns.
   std::function<void(ColumnsDialogRun&)> OnColumnsDialog;
   std::function<void(SetColumnRun&)> OnSetThisColumn;
+  // What the user does in the dialogs of a group, and the colour that is chosen.
+  std::function<void(PlaceSelectionRun&)> OnPlaceSelection;
+  std::function<void(AlignToGridRun&)> OnAlignToGrid;
+  std::function<void(GroupFlagRun&)> OnModifyEndUser, OnPrintNoPrint;
+  std::optional<Colour> ChosenColour;
+  Colour OfferedColour;
+  FontTools Fonts;
+  std::function<void()> OnFontTools;  // while the tools are being filled
   // What the user does in the dialog of a subsection; the second is its OK.
   std::function<void(SubsectionDialog&, const std::function<bool()>&)> OnSubsection;
 
@@ -73,6 +82,26 @@ class CountingView final : public DesignerView {
   }
   void OpenSetThisColumn(SetColumnRun& run) override {
     if (OnSetThisColumn) OnSetThisColumn(run);
+  }
+  void OpenPlaceSelection(PlaceSelectionRun& run) override {
+    if (OnPlaceSelection) OnPlaceSelection(run);
+  }
+  void OpenAlignToGrid(AlignToGridRun& run) override {
+    if (OnAlignToGrid) OnAlignToGrid(run);
+  }
+  void OpenModifyEndUser(GroupFlagRun& run) override {
+    if (OnModifyEndUser) OnModifyEndUser(run);
+  }
+  void OpenPrintNoPrint(GroupFlagRun& run) override {
+    if (OnPrintNoPrint) OnPrintNoPrint(run);
+  }
+  void ShowFontTools(const FontTools& tools) override {
+    Fonts = tools;
+    if (OnFontTools) OnFontTools();
+  }
+  std::optional<Colour> ChooseColour(const Colour& first) override {
+    OfferedColour = first;
+    return ChosenColour;
   }
   void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override {
     if (OnSubsection) OnSubsection(dialog, accept);
