@@ -30,7 +30,8 @@ class ToolBarsTest : public testing::Test {
     window_ = std::make_unique<QMainWindow>();
     bars_ = new ToolBars(*window_, *designer_,
                          {[this](Command command) { run_.push_back(command); },
-                          [this](std::string_view tool) { toggled_.emplace_back(tool); }});
+                          [this](std::string_view tool) { toggled_.emplace_back(tool); },
+                          [this](FontTool tool) { pressed_.push_back(tool); }});
   }
   QToolButton* Button(std::string_view name) const {
     return window_->findChild<QToolButton*>(ToQString(name));
@@ -48,16 +49,17 @@ class ToolBarsTest : public testing::Test {
   ToolBars* bars_ = nullptr;
   std::vector<Command> run_;
   std::vector<std::string> toggled_;
+  std::vector<FontTool> pressed_;
 };
 
 TEST_F(ToolBarsTest, HoldAButtonForEachRowThatCanDoSomething) {
   for (const ToolButtonRow& row : kToolButtons) {
     const QToolButton* button = Button(row.name);
-    EXPECT_EQ(button != nullptr, row.command || !row.tool.empty()) << row.name;
+    EXPECT_EQ(button != nullptr, row.command || row.fontTool || !row.tool.empty()) << row.name;
     if (button == nullptr) continue;
     EXPECT_FALSE(button->accessibleName().isEmpty()) << row.name;
     EXPECT_EQ(button->parentWidget(), row.bar == ToolBarId::First ? &bars_->First() : &bars_->Second());
-    EXPECT_EQ(button->isCheckable(), !row.tool.empty()) << row.name;
+    EXPECT_EQ(button->isCheckable(), row.fontTool || !row.tool.empty()) << row.name;
   }
   EXPECT_EQ(bars_->First().objectName(), QStringLiteral("toolbar1"));
   EXPECT_EQ(bars_->Second().objectName(), QStringLiteral("toolbar2"));
@@ -87,6 +89,22 @@ TEST_F(ToolBarsTest, OnlyTheToolThatWaitsIsPressed) {
   }
   Show("");
   EXPECT_FALSE(Button("ImgButton25")->isChecked());
+}
+
+TEST_F(ToolBarsTest, TheButtonsForTextShowTheText) {
+  FontTools tools;
+  tools.Enabled = true;
+  tools.Italic = true;
+  bars_->ShowFontTools(tools);
+  EXPECT_TRUE(Button("ImgButton11")->isChecked());
+  EXPECT_FALSE(Button("ImgButton10")->isChecked());
+  EXPECT_TRUE(Button("ImgButton10")->isEnabled());
+  EXPECT_FALSE(Button("ImgButton13")->isEnabled()) << "nothing can be aligned";
+  Button("ImgButton10")->click();
+  EXPECT_EQ(pressed_, std::vector<FontTool>{FontTool::Bold});
+  bars_->ShowFontTools({});
+  EXPECT_FALSE(Button("ImgButton11")->isChecked());
+  EXPECT_FALSE(Button("ImgButton11")->isEnabled());
 }
 
 TEST_F(ToolBarsTest, WhatCannotBeUsedIsDisabled) {

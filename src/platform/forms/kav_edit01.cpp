@@ -33,6 +33,7 @@
 #include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
 #include "platform/forms/status_panels.h"
+#include "platform/forms/text_tools.h"
 #include "platform/forms/tool_bars.h"
 #include "platform/forms/zoom_box.h"
 #include "platform/forms/zoom_menu.h"
@@ -124,8 +125,10 @@ void KavEdit01::BuildToolRow() {
                               designer_.Surface().ToggleTool(tool);
                               // Escape gives the tool up.
                               page_.Canvas().setFocus();
-                            }});
+                            },
+                            [this](FontTool tool) { designer_.Surface().PressFontTool(tool); }});
   QToolBar& bar = toolBars_->First();
+  textTools_ = new TextTools(bar, designer_, [this] { page_.Canvas().setFocus(); });
   bar.addSeparator();
   auto* label = new QLabel(MenuCaption(kTextMenuZoom), &bar);
   label->setObjectName(QStringLiteral("zoomlabel"));

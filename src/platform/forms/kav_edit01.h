@@ -21,6 +21,7 @@ class PanelPlace;
 class PageFrame;
 class ProgressWindow;
 class StatusPanels;
+class TextTools;
 class ToolBars;
 class ZoomBox;
 class ZoomMenu;
@@ -59,7 +60,12 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowColumnList(const ColumnList& list) override;
   void OpenColumnsDialog(ColumnsDialogRun& run) override;
   void OpenSetThisColumn(SetColumnRun& run) override;
-
+  void OpenPlaceSelection(PlaceSelectionRun& run) override;
+  void OpenAlignToGrid(AlignToGridRun& run) override;
+  void OpenModifyEndUser(GroupFlagRun& run) override;
+  void OpenPrintNoPrint(GroupFlagRun& run) override;
+  void ShowFontTools(const FontTools& tools) override;
+  std::optional<Colour> ChooseColour(const Colour& first) override;
 
  protected:
   bool event(QEvent* event) override;
@@ -96,6 +102,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
   ToolBars* toolBars_ = nullptr;
+  TextTools* textTools_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;
   Combocol* columnBox_ = nullptr;
   StatusPanels* status_ = nullptr;

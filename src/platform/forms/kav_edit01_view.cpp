@@ -1,20 +1,27 @@
 // SPDX-License-Identifier: MIT
 // What the designer shows in the main window: the page, its panels and the dialogs above it.
+#include <QColorDialog>
 #include <QMenu>
 #include <QTimer>
 #include <utility>
 
+#include "base/numbers.h"
+#include "base/text_numbers.h"
+#include "platform/forms/align_to_grid_frm.h"
 #include "platform/forms/combocol.h"
 #include "platform/forms/command_menus.h"
 #include "platform/forms/findings_dock.h"
+#include "platform/forms/group_flag_forms.h"
 #include "platform/forms/inscol01.h"
 #include "platform/forms/kav_edit01.h"
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
+#include "platform/forms/placeselection.h"
 #include "platform/forms/recover_form.h"
 #include "platform/forms/set_this_column.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/sub_section_propert.h"
+#include "platform/forms/text_tools.h"
 #include "platform/forms/tool_bars.h"
 #include "platform/forms/zoom_box.h"
 #include "platform/forms/zoom_menu.h"
@@ -102,6 +109,34 @@ void KavEdit01::OpenColumnsDialog(ColumnsDialogRun& run) {
 
 void KavEdit01::OpenSetThisColumn(SetColumnRun& run) {
   SetThisColumn(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::OpenPlaceSelection(PlaceSelectionRun& run) {
+  placeselection(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::OpenAlignToGrid(AlignToGridRun& run) {
+  AlignToGridFrm(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::OpenModifyEndUser(GroupFlagRun& run) {
+  Modifyenduser(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::OpenPrintNoPrint(GroupFlagRun& run) {
+  PrintNoPrintFrm(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::ShowFontTools(const FontTools& tools) {
+  toolBars_->ShowFontTools(tools);
+  textTools_->Show(tools);
+}
+
+std::optional<Colour> KavEdit01::ChooseColour(const Colour& first) {
+  const QColor chosen = QColorDialog::getColor(QColor(first.Red, first.Green, first.Blue), this,
+                                               ToQString(designer_.Text(kTextToolFontColor)));
+  if (!chosen.isValid()) return std::nullopt;
+  return Colour{ToInt16(chosen.red()), ToInt16(chosen.green()), ToInt16(chosen.blue())};
 }
 
 }  // namespace kev

@@ -40,7 +40,7 @@ ToolBars::ToolBars(QMainWindow& window, const Designer& designer, Actions action
   first_ = NewBar(window, designer, "toolbar1", kTextTools);
   second_ = NewBar(window, designer, "toolbar2", kTextMenuInsert);
   for (const ToolButtonRow& row : kToolButtons)
-    if (row.command || !row.tool.empty()) AddButton(row, designer);
+    if (row.command || row.fontTool || !row.tool.empty()) AddButton(row, designer);
 }
 
 QToolBar* ToolBars::NewBar(QMainWindow& window, const Designer& designer, const char* name, int text) {
@@ -78,6 +78,13 @@ void ToolBars::Connect(QToolButton& button, const ToolButtonRow& row) {
     return;
   }
   button.setCheckable(true);
+  if (row.fontTool) {
+    button.setEnabled(false);
+    connect(&button, &QToolButton::clicked, this, [this, tool = *row.fontTool] {
+      if (actions_.pressFontTool) actions_.pressFontTool(tool);
+    });
+    return;
+  }
   connect(&button, &QToolButton::clicked, this, [this, tool = row.tool] { actions_.toggleTool(tool); });
 }
 
@@ -85,9 +92,17 @@ void ToolBars::Show(const std::function<bool(Command)>& enabled, std::string_vie
   for (const auto& [row, button] : buttons_) {
     if (row.command) {
       button->setEnabled(enabled(*row.command));
-    } else {
+    } else if (!row.fontTool) {
       button->setChecked(row.tool == pendingTool);
     }
+  }
+}
+
+void ToolBars::ShowFontTools(const FontTools& tools) {
+  for (const auto& [row, button] : buttons_) {
+    if (!row.fontTool) continue;
+    button->setEnabled(tools.CanUse(*row.fontTool));
+    button->setChecked(tools.Enabled && tools.Checked(*row.fontTool));
   }
 }
 

@@ -23,6 +23,7 @@ class ToolBars final : public QObject {
   struct Actions {
     std::function<void(Command)> run;
     std::function<void(std::string_view)> toggleTool;
+    std::function<void(FontTool)> pressFontTool = {};
   };
 
   // Puts both bars into the window, which owns them. The designer is needed while it is made.
@@ -32,6 +33,8 @@ class ToolBars final : public QObject {
   QToolBar& Second() const { return *second_; }
   // Enables what can be used, and presses the button of the tool that waits for a click.
   void Show(const std::function<bool(Command)>& enabled, std::string_view pendingTool);
+  // Enables the buttons for text and presses those that the text of now is.
+  void ShowFontTools(const FontTools& tools);
 
  private:
   static QToolBar* NewBar(QMainWindow& window, const Designer& designer, const char* name, int text);
