@@ -6,38 +6,12 @@
 
 #include "document/sections.h"
 #include "properties/apply_sheet_edit.h"
+#include "support/layout_only.h"
 #include "support/sample_template.h"
 #include "surface/null_surface.h"
 
 namespace kev::bench {
 namespace {
-
-// Lays the page out as the designer does, and paints nothing.
-class LayoutOnly final : public PageServices {
- public:
-  explicit LayoutOnly(Document& document) : document_(document) {}
-
-  void PushUndo() override {}
-  void MarkChanged() override {}
-  void FullRepaint() override { benchmark::DoNotOptimize(DeriveGeometry(document_)); }
-  void BandsChanged() override { FullRepaint(); }
-  void BuildRulers() override {}
-  void SelectionChanged() override {}
-  void CommandsChanged() override {}
-  const std::string& Text(int) const override { return text_; }
-  // An edit of this benchmark is never refused.
-  BoxAnswer ShowBox(int, BoxIcon, BoxButtons) override { std::abort(); }
-  void OpenContextMenu(ContextMenu) override {}
-  void OpenProperties(int) override {}
-  void ShowFieldScreen(const FieldScreenLook&) override {}
-  void HideFieldScreen() override {}
-  void StartAllowTimer(int, std::function<void()>) override {}
-  void RunPendingTool() override {}
-
- private:
-  Document& document_;
-  std::string text_;
-};
 
 class NoHost final : public Host {
  public:
