@@ -20,6 +20,7 @@ class FindingsDock;
 class PanelPlace;
 class PageFrame;
 class ProgressWindow;
+class RecentMenu;
 class StatusPanels;
 class ToolBars;
 class ZoomBox;
@@ -59,7 +60,10 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowColumnList(const ColumnList& list) override;
   void OpenColumnsDialog(ColumnsDialogRun& run) override;
   void OpenSetThisColumn(SetColumnRun& run) override;
-
+  void ShowRecentFiles(const std::vector<std::string>& captions) override;
+  std::string PaintThumbnail(const ThumbnailLook& look) override { return page_.Thumbnail(look); }
+  void OpenWelcome(WelcomeRun& run) override;
+  void OpenDocumentProperties(DocumentPropertiesRun& run) override;
 
  protected:
   bool event(QEvent* event) override;
@@ -71,6 +75,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void BuildMenus();
   void BuildZoomMenu();
   void BuildLanguageMenu();
+  void BuildRecentMenu();
   QString MenuCaption(int text) const;
   void BuildToolRow();
   void BuildPage(FontCache& fonts);
@@ -95,6 +100,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   PanelPlace* panel_ = nullptr;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
+  RecentMenu* recentMenu_ = nullptr;
   ToolBars* toolBars_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;
   Combocol* columnBox_ = nullptr;

@@ -6,11 +6,14 @@
 
 #include "platform/forms/combocol.h"
 #include "platform/forms/command_menus.h"
+#include "platform/forms/docpropertiesfrm.h"
+#include "platform/forms/fastopen.h"
 #include "platform/forms/findings_dock.h"
 #include "platform/forms/inscol01.h"
 #include "platform/forms/kav_edit01.h"
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
+#include "platform/forms/recent_menu.h"
 #include "platform/forms/recover_form.h"
 #include "platform/forms/set_this_column.h"
 #include "platform/forms/status_panels.h"
@@ -102,6 +105,21 @@ void KavEdit01::OpenColumnsDialog(ColumnsDialogRun& run) {
 
 void KavEdit01::OpenSetThisColumn(SetColumnRun& run) {
   SetThisColumn(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::ShowRecentFiles(const std::vector<std::string>& captions) {
+  recentMenu_->Show(captions);
+}
+
+// Whoever wants the program to end wants no welcome.
+void KavEdit01::OpenWelcome(WelcomeRun& run) {
+  if (closeWanted_ || ended_) return;
+  const std::string images = InProgramFolder(designer_.Folders(), kButtonImages);
+  Fastopen(run, designer_.Texts(), FromNative(images), this).exec();
+}
+
+void KavEdit01::OpenDocumentProperties(DocumentPropertiesRun& run) {
+  docpropertiesfrm(run, designer_.Texts(), this).exec();
 }
 
 }  // namespace kev
