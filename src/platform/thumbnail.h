@@ -11,9 +11,9 @@
 
 namespace kev {
 
-// The bytes of a bitmap file: what `look` names, without selection and grid, whatever zoom and filter the window
-// has. The document is left alone, and no picture of a QR code or chart is made that is not there. Empty where
-// it can't be painted.
+// The bytes of a bitmap file: what `look` names, without selection and grid, whatever zoom and filter the
+// window has. The document is left alone, and no picture of a QR code or chart is made that is not there.
+// Empty where it can't be painted.
 std::string ThumbnailOf(Designer& designer, FontCache& fonts, ImageCache& images, const ThumbnailLook& look);
 
 }  // namespace kev

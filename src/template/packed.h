@@ -26,8 +26,8 @@ int IsPackedBytes(std::string_view bytes);
 // The packed form of a plain template. The same template gives the same bytes. `memberName` is the name that
 // an archive program shows.
 Result<std::string> PackedBytes(std::string_view plain, const std::string& memberName);
-// The first member of the archive, whatever its name and the archive's comment are. The reason of a failure is
-// kReasonPackedDamaged, or kReasonPackedTooLarge for one that is larger than any template.
+// The first member of the archive, whatever its name and the archive's comment are. The reason of a failure
+// is kReasonPackedDamaged, or kReasonPackedTooLarge for one that is larger than any template.
 Result<std::string> UnpackedBytes(std::string_view packed);
 
 // Whether a document's FILEFORMAT asks for the packed form.

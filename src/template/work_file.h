@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A file that is needed for one piece of work. It appears whole, no other run touches it, and it goes with its
-// owner.
+// A file that is needed for one piece of work. It appears whole, no other run touches it, and it goes with
+// its owner.
 #pragma once
 
 #include <string>

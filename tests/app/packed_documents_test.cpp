@@ -152,9 +152,9 @@ TEST_F(PackedDocuments, WhatCannotBeUnpackedIsRefusedAsNoTemplate) {
   const std::string open = Made("open.kev", kTwoLabels);
   const auto designer = Start({open});
   const std::string packed = Packed(kTwoLabels);
-  for (const std::string& bytes : {packed.substr(0, packed.size() / 2), std::string("PP4 1234567890"),
-                                   std::string("TH4 1234567890"), packed.substr(0, 9), Packed("Hello"),
-                                   Packed(packed)}) {
+  for (const std::string& bytes :
+       {packed.substr(0, packed.size() / 2), std::string("PP4 1234567890"), std::string("TH4 1234567890"),
+        packed.substr(0, 9), Packed("Hello"), Packed(packed)}) {
     const std::string file = Made("bad.kev", bytes);
     EXPECT_FALSE(designer->OpenTemplate(file));
     ASSERT_EQ(host_.Messages.size(), 1U);

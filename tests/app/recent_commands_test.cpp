@@ -18,7 +18,8 @@ class Recent : public test::DesignerTest {
   }
 };
 
-// --- The list -----------------------------------------------------------------------------------------------
+// --- The list
+// -----------------------------------------------------------------------------------------------
 
 TEST_F(Recent, EachOpenAndSavePutsThePathAtTheTop) {
   const std::string first = Template("a.kev"), second = Template("b.kev"), third = Work("c.kev");
@@ -91,7 +92,8 @@ TEST_F(Recent, AMissingFolderWasToldAtTheStart) {
   EXPECT_FALSE(host_.Status.starts_with(designer->Text(kTextRecentNotStored)));
 }
 
-// --- Thumbnails ---------------------------------------------------------------------------------------------
+// --- Thumbnails
+// ---------------------------------------------------------------------------------------------
 
 TEST_F(Recent, EachOpenAndSaveTakesAPicture) {
   const std::string file = Template("a b.kev");
@@ -121,7 +123,8 @@ TEST_F(Recent, WhereNoPictureCanBeHadNoneIsStored) {
   EXPECT_EQ(designer->RecentShown(), Paths{file});
 }
 
-// --- The menu -----------------------------------------------------------------------------------------------
+// --- The menu
+// -----------------------------------------------------------------------------------------------
 
 TEST_F(Recent, AnEntryOpensItsFileBehindTheQuestion) {
   const std::string first = Template("a.kev"), second = Template("b.kev");
@@ -164,7 +167,8 @@ TEST_F(Recent, SixtyObjectsLeaveNothingBehindAFileOfFiftyFive) {
   EXPECT_EQ(test::CountOf(*designer, ObjectKind::Label), 55);
 }
 
-// --- The welcome screen -------------------------------------------------------------------------------------
+// --- The welcome screen
+// -------------------------------------------------------------------------------------
 
 class Welcome : public Recent {
  protected:
@@ -293,7 +297,8 @@ TEST_F(Welcome, ShowsThePictureOfTheChosenFileWithTheViewer) {
   ExpectMessage(*designer, kTextProgramNotStarted);
 }
 
-// --- Facts about the document -------------------------------------------------------------------------------
+// --- Facts about the document
+// -------------------------------------------------------------------------------
 
 class DocumentFactsTest : public Recent {
  protected:

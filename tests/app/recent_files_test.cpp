@@ -3,10 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <thread>
 
 #include "base/files.h"
+#include "base/text.h"
 #include "support/run_tool.h"
 
 namespace kev {
@@ -139,7 +141,8 @@ TEST_F(RecentFiles, AThumbnailIsNamedAfterTheWholePath) {
   const std::string folder = home_ / "data/Kev/temp/";
   EXPECT_EQ(ThumbnailPath(folders_, "/home/u/a b.kev"), folder + "_home_u_a_b.kev.bmp");
   EXPECT_EQ(ThumbnailPath(folders_, "C:\\My Reports\\a.kev"), folder + "C__My_Reports_a.kev.bmp");
-  EXPECT_EQ(ThumbnailPath(folders_, "/" + std::string(250, 'a')), folder + "_" + std::string(250, 'a') + ".bmp");
+  EXPECT_EQ(ThumbnailPath(folders_, "/" + std::string(250, 'a')),
+            folder + "_" + std::string(250, 'a') + ".bmp");
   EXPECT_EQ(ThumbnailPath(folders_, "/" + std::string(251, 'a')), std::nullopt);
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What opening does to a packed template of any bytes, and that packing any bytes gives a template which unpacks
-// to the same.
+// What opening does to a packed template of any bytes, and that packing any bytes gives a template which
+// unpacks to the same.
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>

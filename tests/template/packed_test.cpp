@@ -51,7 +51,8 @@ class PackedFiles : public testing::Test {
   test::TemporaryFolder folder_;
 };
 
-// --- What is packed -----------------------------------------------------------------------------------------
+// --- What is packed
+// -----------------------------------------------------------------------------------------
 
 TEST(IsPacked, KnowsThreeSignaturesBehindTenBytes) {
   EXPECT_EQ(IsPackedBytes(std::string("60\x03\x04"
@@ -76,7 +77,8 @@ TEST_F(PackedFiles, AFileThatCannotBeReadIsNotPacked) {
   EXPECT_EQ(IsPackedFile(Made("packed.kev", Packed(kPlain))), 1);
 }
 
-// --- Packing ------------------------------------------------------------------------------------------------
+// --- Packing
+// ------------------------------------------------------------------------------------------------
 
 TEST_F(PackedFiles, APackedFileBeginsWithSixtyAndIsAnArchiveBehindIt) {
   const std::string plain = Made("plain.kev", kPlain);
@@ -118,7 +120,8 @@ TEST(Packing, AnyBytesComeBack) {
     EXPECT_EQ(*UnpackedBytes(Packed(plain)), plain);
 }
 
-// --- Unpacking ----------------------------------------------------------------------------------------------
+// --- Unpacking
+// ----------------------------------------------------------------------------------------------
 
 TEST_F(PackedFiles, UnpackingTurnsThePathToAPlainFileThatGoesAgain) {
   const std::string packed = Made("my report.kev", Packed(kPlain));
@@ -254,7 +257,8 @@ TEST(Unpacking, ADamagedMemberIsNoticed) {
   EXPECT_EQ(refused, 20);
 }
 
-// --- Reading either form ------------------------------------------------------------------------------------
+// --- Reading either form
+// ------------------------------------------------------------------------------------
 
 TEST_F(PackedFiles, BothFormsReadAlike) {
   const std::string plain = Made("plain.kev", kPlain);

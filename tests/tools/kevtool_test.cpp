@@ -255,7 +255,8 @@ TEST_F(Kevtool, EvaluatesNothingInARefusedTemplate) {
 
 // ---- pack, unpack
 
-constexpr const char* kEncoded = "FILEFORMAT=2\r\nKEXVER=4\r\n[HEADER]\r\n{100;}A{\\n}\r\n[DATA]\r\n[FOOTER]\r\n";
+constexpr const char* kEncoded =
+    "FILEFORMAT=2\r\nKEXVER=4\r\n[HEADER]\r\n{100;}A{\\n}\r\n[DATA]\r\n[FOOTER]\r\n";
 
 class PackedByKevtool : public Kevtool {
  protected:

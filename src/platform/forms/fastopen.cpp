@@ -42,7 +42,9 @@ constexpr const char* kSheet = R"(
 class HeadBand final : public QWidget {
  public:
   HeadBand(const QString& images, QWidget* parent)
-      : QWidget(parent), bar_(images + QStringLiteral("bar.prbm")), logo_(images + QStringLiteral("logobar2.prbm")) {
+      : QWidget(parent),
+        bar_(images + QStringLiteral("bar.prbm")),
+        logo_(images + QStringLiteral("logobar2.prbm")) {
     setObjectName(QStringLiteral("welcomehead"));
     setFixedHeight(kHeadHeight);
     bar_.setAspectRatioMode(Qt::IgnoreAspectRatio);
@@ -193,7 +195,8 @@ void Fastopen::Connect() {
     run_.Choose(row);
     ShowChosen();
   });
-  connect(list_, &QListWidget::itemEntered, this, [this](QListWidgetItem* item) { ShowPicture(list_->row(item)); });
+  connect(list_, &QListWidget::itemEntered, this,
+          [this](QListWidgetItem* item) { ShowPicture(list_->row(item)); });
   connect(list_, &QListWidget::itemActivated, this, [this] { CloseIf(run_.Open()); });
   connect(openbutt, &QPushButton::clicked, this, [this] { CloseIf(run_.Open()); });
   connect(prevbutt, &QPushButton::clicked, this, [this] { run_.Preview(); });
