@@ -97,7 +97,9 @@ Fastopen::Fastopen(WelcomeRun& run, const LanguageTexts& texts, const QString& i
   Connect();
   resize(kFirstSize);
   ShowChosen();
-  (list_->count() > 0 ? static_cast<QWidget*>(list_) : new_)->setFocus();
+  // Enter goes on where the last run ended.
+  if (!run_.Files().empty()) list_->setCurrentRow(0);
+  (run_.Files().empty() ? static_cast<QWidget*>(new_) : list_)->setFocus();
 }
 
 QString Fastopen::Text(int number) const {
