@@ -29,6 +29,8 @@ constexpr std::array kCommands = {
                kGroup},
     CommandRow{Command::SaveAs, MenuId::File, "saveas", kTextMenuSaveAs, "Ctrl+Shift+S", CommandKind::Plain,
                kDialog},
+    CommandRow{Command::DocumentProperties, MenuId::File, "docproperties", kTextMenuDocumentProperties, "",
+               CommandKind::Plain, kDialog, kGroup},
     CommandRow{Command::Exit, MenuId::File, "exitmen", kTextMenuExit, "Ctrl+Q", CommandKind::Plain, kNoDialog,
                kGroup},
     CommandRow{Command::Undo, MenuId::Edit, "undochanges_", kTextMenuUndo, "Ctrl+Z"},

@@ -52,6 +52,9 @@ class SetColumnRun;
 class PlaceSelectionRun;
 class AlignToGridRun;
 class GroupFlagRun;
+class WelcomeRun;
+class DocumentPropertiesRun;
+struct ThumbnailLook;
 
 // What the window does when the document has changed under it. The window implements it; every call comes
 // from the one thread, and none before AttachView.
@@ -103,6 +106,13 @@ class DesignerView {
   virtual void ShowFontTools(const FontTools&) {}
   // Asks for a colour, with this one to begin with; nothing when the user gives up.
   virtual std::optional<Colour> ChooseColour(const Colour&) { return std::nullopt; }
+  // The entries `archivo1` to `archivo8`: their captions as native bytes; those behind the last are hidden.
+  virtual void ShowRecentFiles(const std::vector<std::string>& /*captions*/) {}
+  // The top of the page as a bitmap file's bytes, without selection and grid; empty where there is none.
+  virtual std::string PaintThumbnail(const ThumbnailLook&) { return {}; }
+  // The forms `Fastopen` and `docpropertiesfrm`; each returns when it has closed.
+  virtual void OpenWelcome(WelcomeRun&) {}
+  virtual void OpenDocumentProperties(DocumentPropertiesRun&) {}
 };
 
 // What a process gives to its designer.
@@ -154,6 +164,16 @@ class Designer {
   bool AskAndOpen(const std::string& path);
   bool ChooseAndOpen();
   bool AskAndNew();
+  // The templates that the file menu offers, newest first: those of the list that are there. Native bytes.
+  const std::vector<std::string>& RecentShown() const { return recent_; }
+  // Fills the menu anew.
+  void RefreshRecentMenu();
+  // An entry of the menu, counted from 0. False when the user gave up or the file was refused.
+  bool OpenRecent(std::size_t entry);
+  // The welcome screen and what was chosen there.
+  void ShowWelcome();
+  // Facts about the document.
+  void ShowDocumentProperties();
   // False when the user gave up or the file could not be written.
   bool Save();
   bool SaveAs();
@@ -293,6 +313,13 @@ class Designer {
   void Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept;
   void ShowAdopted(std::vector<Finding> findings);
   bool SaveTo(const std::string& path);
+  // Whether FILEFORMAT asks for the packed form.
+  bool IsEncoded() const;
+  WriteReport WriteEncoded(const std::string& path);
+  void TellUnreadable(const std::string& path, const std::string& reason);
+  // Behind each open and save: the list, the thumbnail and the menu. A document without a file is none of it.
+  void AddRecentFile();
+  std::optional<FileFailure> StoreThumbnail();
   std::optional<std::string> ChooseTarget();
   std::optional<std::string> ChooseTarget(FileChoice choice);
   void CheckSaved(const std::string& path, const std::string& oldFolder);
@@ -322,6 +349,7 @@ class Designer {
   SampleCopy samples_;
   std::string documentPath_;
   std::string documentTitle_{kFreshTitle};
+  std::vector<std::string> recent_;
   // The file of an earlier run that was opened where it lay.
   Recovery opened_;
   std::vector<Finding> findings_;

@@ -27,6 +27,9 @@ constexpr auto kReasonNumbers = std::to_array<std::pair<std::string_view, int>>(
     {kReasonTooManyParts, kTextReasonTooManyParts},
     {kReasonTextsTooLarge, kTextReasonTextsTooLarge},
     {kReasonBlocksTooOften, kTextReasonBlocksTooOften},
+    {kReasonPackedDamaged, kTextReasonPackedDamaged},
+    {kReasonPackedTooLarge, kTextReasonPackedTooLarge},
+    {kReasonNotPacked, kTextReasonNotPacked},
 });
 
 }  // namespace

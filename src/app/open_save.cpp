@@ -8,10 +8,12 @@
 #include "app/message_texts.h"
 #include "app/read_back.h"
 #include "base/files.h"
+#include "base/reasons.h"
 #include "base/text.h"
 #include "base/text_numbers.h"
 #include "chart/definition.h"
 #include "document/sections.h"
+#include "template/packed.h"
 #include "template/skeleton.h"
 #include "template/template_check.h"
 
@@ -19,6 +21,14 @@ namespace kev {
 namespace {
 
 constexpr std::string_view kExtension = ".kev";
+// The values of FILEFORMAT, and the kinds of file that stand for them in the chooser; the third kind, any
+// file, leaves the format as it is.
+constexpr std::string_view kPlainFormat = "1";
+constexpr std::string_view kEncodedFormat = "2";
+constexpr int kPlainFilter = 0;
+constexpr int kEncodedFilter = 1;
+// In TempFolder: what is packed. No plain text ever stands beside a packed template.
+constexpr std::string_view kToPackName = "pack.kev";
 // The question stands under this title in all languages.
 constexpr std::string_view kClosingTitle = "Kev Visual Editor";
 
@@ -74,15 +84,21 @@ bool Designer::OpenTemplate(const std::string& path, OpenedFrom from) {
     RefuseMissing(path, from);
     return false;
   }
-  const Result<std::string> bytes = ReadWholeFile(file);
+  const Result<std::string> bytes = ReadPlainTemplate(file, folders_.TempFolder);
   if (!bytes) {
-    TellReadFailure(path, bytes.Error().reason);
+    TellUnreadable(path, bytes.Error().reason);
     return false;
   }
   if (checked && Refuse(file, *bytes)) return false;
   if (ReadAndAdopt(AbsolutePath(file), *bytes)) return true;
   NewTemplate();
   return false;
+}
+
+// An archive from which nothing can be had is no template.
+void Designer::TellUnreadable(const std::string& path, const std::string& reason) {
+  if (reason == kReasonPackedDamaged) return ShowText(kTextNotATemplate, BoxIcon::Critical, path);
+  TellReadFailure(path, reason);
 }
 
 void Designer::RefuseMissing(const std::string& path, OpenedFrom from) {
@@ -124,6 +140,7 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std
     surface_.TheRecovery().Delete();
     opened_.LeaveBehind();
     GuardedView([&] { ShowAdopted(std::move(findings)); });
+    AddRecentFile();
   } else {
     pictures_.SetTemplateFolder(TemplateFolder());
   }
@@ -200,9 +217,24 @@ bool Designer::SaveAs() {
   choice.Title = Text(kTextMenuSaveAs);
   choice.Folder = documentPath_.empty() ? std::string() : FolderOf(documentPath_);
   choice.SuggestedName = documentTitle_;
-  choice.Filters = {{Text(kTextFilesPlain), "*.kev *.KEV"}, {Text(kTextFilesAll), "*"}};
+  choice.Filters = {{Text(kTextFilesPlain), "*.kev *.KEV"},
+                    {Text(kTextFilesEncoded), "*.kev *.KEV"},
+                    {Text(kTextFilesAll), "*"}};
+  int kind = IsEncoded() ? kEncodedFilter : kPlainFilter;
+  choice.Filter = &kind;
   const std::optional<std::string> target = ChooseTarget(std::move(choice));
-  return target && SaveTo(*target);
+  if (!target) return false;
+  std::string& format = document_.Settings[Setting::FILEFORMAT];
+  const std::string before = format;
+  if (kind == kPlainFilter) format = kPlainFormat;
+  if (kind == kEncodedFilter && !IsEncoded()) format = kEncodedFormat;
+  if (SaveTo(*target)) return true;
+  document_.Settings[Setting::FILEFORMAT] = before;
+  return false;
+}
+
+bool Designer::IsEncoded() const {
+  return AsksForPacking(document_.Settings);
 }
 
 // The chooser asks before it lets a file be replaced, so a name that only becomes one of an existing file by
@@ -236,10 +268,19 @@ WriteReport Designer::WriteDocument(const std::string& path) {
   return report;
 }
 
+WriteReport Designer::WriteEncoded(const std::string& path) {
+  WriteReport report;
+  report.SampleFailure = samples_.Renew(folders_.TempFolder, input_.Clock(), SampleDataPath(), path);
+  const std::string text = TemplateText(document_, WriteOptions{command_.WriterComments()}, report);
+  const Result<WorkFile> plain = WorkFile::Write(folders_.TempFolder, std::string(kToPackName), text);
+  report.Failure = plain ? PackTemplate(plain->Path(), path) : plain.Error();
+  return report;
+}
+
 bool Designer::SaveTo(const std::string& path) {
   host_.ShowStatus(Text(kTextStatusSaving));
   WriteReport report;
-  const bool done = Guarded([&] { report = WriteDocument(path); });
+  const bool done = Guarded([&] { report = IsEncoded() ? WriteEncoded(path) : WriteDocument(path); });
   if (!done || report.Failure) {
     host_.ShowStatus("");
     if (report.Failure)
@@ -257,6 +298,7 @@ bool Designer::SaveTo(const std::string& path) {
   host_.ShowStatus("");
   for (const std::string& symbology : report.UnnamedSymbologies)
     host_.ShowMessage({Text(kTextProgramTitle), symbology, {}, BoxIcon::Warning});
+  AddRecentFile();
   CheckSaved(path, oldFolder);
   return true;
 }
@@ -283,7 +325,9 @@ ReadBack Designer::ReadBackFrom(const std::string& path) {
   // Sizes of pictures are not compared unless the template gives them, so that none is looked at or fetched.
   NoPictures pictures;
   ReadServices services{measurer_, pictures, settings_.DefaultPaperSize, document_.Page, nullptr};
-  Result<ReadOutcome> outcome = ReadTemplate(path, services);
+  const Result<std::string> bytes = ReadPlainTemplate(path);
+  Result<ReadOutcome> outcome =
+      bytes ? ReadTemplateBytes(*bytes, services) : Result<ReadOutcome>(bytes.Error());
   if (!outcome) {
     const std::string reason = ReasonInLanguage(texts_, outcome.Error().reason);
     return {{{0, 0, FindingKind::WillNotComeBack, document_.Page->FromUtf8(reason).value_or(reason), 0}},

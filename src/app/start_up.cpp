@@ -77,7 +77,10 @@ void Designer::AfterSplash() {
   sheets_.Start();
   TellMissingFolders();
   TellUnknownSettings();
+  RefreshRecentMenu();
   if (!OfferRecovered()) DecideTemplate();
+  const bool isFresh = documentPath_.empty() && !modified_;
+  if (isFresh && options_.ShowWelcome == 1) ShowWelcome();
 }
 
 void Designer::TellMissingFolders() {

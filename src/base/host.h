@@ -33,6 +33,8 @@ struct FileChoice {
   std::string Folder;                                        // native bytes
   std::string SuggestedName;                                 // native bytes
   std::vector<std::pair<std::string, std::string>> Filters;  // caption and patterns ("*.kev *.KEV")
+  // Where it is set: the index in Filters that stands first, and then the one that a file was chosen with.
+  int* Filter = nullptr;
 };
 
 // A program to start. The arguments reach it one by one as they stand; no shell ever sees them.

@@ -12,5 +12,8 @@ inline constexpr const char* kReasonTooManyColumns = "a template holds at most 1
 inline constexpr const char* kReasonTooManyParts = "a text has more than 200 parts";
 inline constexpr const char* kReasonTextsTooLarge = "the texts of the template are too large";
 inline constexpr const char* kReasonBlocksTooOften = "the blocks of the template are applied too often";
+inline constexpr const char* kReasonPackedDamaged = "the encoded template is damaged";
+inline constexpr const char* kReasonPackedTooLarge = "the encoded template holds more than 64 megabytes";
+inline constexpr const char* kReasonNotPacked = "the template can't be encoded";
 
 }  // namespace kev

@@ -482,6 +482,13 @@ inline constexpr int kTextReasonTooManyParts = 1254;
 inline constexpr int kTextReasonTextsTooLarge = 1255;
 inline constexpr int kTextReasonBlocksTooOften = 1256;
 
+inline constexpr int kTextReasonPackedDamaged = 370;
+inline constexpr int kTextReasonPackedTooLarge = 371;
+inline constexpr int kTextReasonNotPacked = 372;
+
+// Recent files
+inline constexpr int kTextRecentNotStored = 373;
+
 // What needs a folder, behind 1222
 inline constexpr int kTextFolderRoleWork = 1260;
 inline constexpr int kTextFolderRoleCache = 1261;

@@ -4,6 +4,7 @@
 #include <QScrollBar>
 
 #include "platform/text_bridge.h"
+#include "platform/thumbnail.h"
 
 namespace kev {
 
@@ -32,6 +33,10 @@ void PageView::Shown() {
 void PageView::DocumentReplaced() {
   canvas_->verticalScrollBar()->setValue(canvas_->verticalScrollBar()->minimum());
   canvas_->horizontalScrollBar()->setValue(canvas_->horizontalScrollBar()->minimum());
+}
+
+std::string PageView::Thumbnail(const ThumbnailLook& look) {
+  return ThumbnailOf(designer_, fonts_, images_, look);
 }
 
 void PageView::SetZoom(const QString& text, const QPointF& anchor) {

@@ -26,6 +26,9 @@ class PageView {
   // The names on the page and its bytes are those of another document.
   void DocumentReplaced();
 
+  // A small picture of the page; see platform/thumbnail.h.
+  std::string Thumbnail(const ThumbnailLook& look);
+
   // Changes the zoom; the point of the page below `anchor` (pixels of the viewport) stays where it is.
   void SetZoom(const QString& text, const QPointF& anchor);
   void SetZoom(const QString& text);

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
+#include <algorithm>
 #include <array>
 
 #include "base/files.h"
@@ -148,9 +149,12 @@ std::optional<std::string> QtHost::Choose(const FileChoice& choice, bool save) {
   for (const auto& filter : choice.Filters)
     filters << FilterLine(filter);
   if (!filters.isEmpty()) dialog.setNameFilters(filters);
+  if (choice.Filter != nullptr) dialog.selectNameFilter(filters.value(*choice.Filter));
   if (save && !choice.Filters.empty()) dialog.setDefaultSuffix(SuffixOf(choice.Filters.front().second));
   if (!choice.SuggestedName.empty()) dialog.selectFile(FromNative(choice.SuggestedName));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  if (choice.Filter != nullptr)
+    *choice.Filter = std::max(0, static_cast<int>(filters.indexOf(dialog.selectedNameFilter())));
   return ToNative(dialog.selectedFiles().constFirst());
 }
 

@@ -13,6 +13,7 @@
 #include "document/position.h"
 #include "surface/column_lines.h"
 #include "surface/selection.h"
+#include "template/packed.h"
 
 namespace kev {
 namespace {
@@ -160,7 +161,7 @@ void TieToColumn(ObjectRecord& record, std::string_view name, const Document& do
 
 std::string SavedTemplateText(const std::string& path) {
   if (path.empty() || !FileExists(path)) return {};
-  Result<std::string> bytes = ReadWholeFile(path);
+  Result<std::string> bytes = ReadPlainTemplate(path);
   if (!bytes) throw std::runtime_error(bytes.Error().path + ": " + bytes.Error().reason);
   return std::move(*bytes);
 }

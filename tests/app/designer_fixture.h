@@ -15,7 +15,10 @@
 #include "app/column_runs.h"
 #include "app/designer.h"
 #include "app/group_runs.h"
+#include "app/document_properties.h"
+#include "app/recent_files.h"
 #include "app/recover.h"
+#include "app/welcome_run.h"
 #include "base/text_numbers.h"
 #include "document/text_measurer.h"
 #include "support/recording_surface.h"
@@ -53,6 +56,28 @@ class CountingView final : public DesignerView {
   std::function<void()> OnFontTools;  // while the tools are being filled
   // What the user does in the dialog of a subsection; the second is its OK.
   std::function<void(SubsectionDialog&, const std::function<bool()>&)> OnSubsection;
+
+  // The recent files.
+  std::vector<std::string> RecentCaptions;
+  std::vector<ThumbnailLook> Thumbnails;
+  std::string Bitmap = "a bitmap";
+  // What the user does on the welcome screen and in the facts about the document.
+  int Welcomes = 0;
+  std::function<void(WelcomeRun&)> OnWelcome;
+  std::function<void(DocumentPropertiesRun&)> OnDocumentProperties;
+
+  void ShowRecentFiles(const std::vector<std::string>& captions) override { RecentCaptions = captions; }
+  std::string PaintThumbnail(const ThumbnailLook& look) override {
+    Thumbnails.push_back(look);
+    return Bitmap;
+  }
+  void OpenWelcome(WelcomeRun& run) override {
+    ++Welcomes;
+    if (OnWelcome) OnWelcome(run);
+  }
+  void OpenDocumentProperties(DocumentPropertiesRun& run) override {
+    if (OnDocumentProperties) OnDocumentProperties(run);
+  }
 
   void DocumentReplaced() override { ++Replaced; }
   SurfaceOps& Canvas() override { return Page; }

@@ -43,6 +43,15 @@ TEST(Theme, AllKeysAreKept) {
   EXPECT_THROW(static_cast<void>(theme["NOKEY"]), std::out_of_range);
 }
 
+TEST(Theme, TheOneThatComesWithTheProgramHasEveryKeyAndTheDesktopsColour) {
+  const std::string file = KEV_TEST_DATA_DIR "/../assets/md1.trp";
+  const std::string bytes = test::ReadBytes(file);
+  for (const std::string_view key : kThemeKeys)
+    EXPECT_NE(bytes.find("\n" + std::string(key) + "="), std::string::npos) << key;
+  EXPECT_EQ(LoadTheme(file)["TEMANAME"], "Plain");
+  EXPECT_EQ(LoadTheme(file).ToolbarColour(), std::nullopt);
+}
+
 TEST(Theme, AKeyThatTheFileLacksIsEmpty) {
   EXPECT_EQ(LoadTheme("/nowhere/md1.trp")["TEMANAME"], "");
 }

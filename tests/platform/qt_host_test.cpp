@@ -64,8 +64,8 @@ TEST(QtHostMessages, ShowTheWholeOfALongText) {
         << label->width();
     modal.close();
   });
-  host.ShowMessage({"Kev", "The saved template uses columns that will get other names. Organize them all?", "",
-                    BoxIcon::Warning, BoxButtons::YesNo});
+  host.ShowMessage({"Kev", "The saved template uses columns that will get other names. Organize them all?",
+                    "", BoxIcon::Warning, BoxButtons::YesNo});
   qApp->setStyleSheet(QString());
 }
 
@@ -144,6 +144,27 @@ TEST_F(ChooserTest, TheSuggestedNameStandsInTheDialog) {
     QTest::keyClick(&modal, Qt::Key_Escape);
   });
   EXPECT_EQ(host.ChooseFileToSave(Choice()), std::nullopt);
+}
+
+TEST_F(ChooserTest, TheKindOfFileIsOfferedAndTold) {
+  FileChoice choice = Choice();
+  choice.Filters = {{"Plain", "*.kev"}, {"Encoded", "*.kev"}, {"All", "*"}};
+  int kind = 1;
+  choice.Filter = &kind;
+  QString offered;
+  WhenModal([&](QWidget& modal) {
+    auto& dialog = dynamic_cast<QFileDialog&>(modal);
+    offered = dialog.selectedNameFilter();
+    dialog.selectNameFilter(QStringLiteral("Plain (*.kev)"));
+    AnswerFileDialog(modal, QStringLiteral("two"));
+  });
+  EXPECT_EQ(host.ChooseFileToSave(choice), folder.path().toStdString() + "/two.kev");
+  EXPECT_EQ(offered, QStringLiteral("Encoded (*.kev)"));
+  EXPECT_EQ(kind, 0);
+  kind = 2;
+  WhenModal([](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Escape); });
+  EXPECT_EQ(host.ChooseFileToSave(choice), std::nullopt);
+  EXPECT_EQ(kind, 2);
 }
 
 TEST_F(ChooserTest, AnExistingFileIsChosenToOpen) {

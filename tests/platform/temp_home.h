@@ -4,6 +4,7 @@
 
 #include <QTemporaryDir>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,6 +19,12 @@ class TempHome {
     for (const char* folder : {"temp/Kev/Cache", "temp/Kev/Temp", "data/Kev/temp", "work"}) {
       std::filesystem::create_directories(Path(folder));
     }
+    ShowWelcome(false);
+  }
+
+  // Whether an empty document begins with the welcome screen.
+  void ShowWelcome(bool shown) const {
+    std::ofstream(Path("data/Kev/LASTRV.DAT")) << "SHOWWELCOME=" << (shown ? 1 : 0) << "\r\n";
   }
 
   std::string Path(std::string_view below) const {

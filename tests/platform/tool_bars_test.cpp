@@ -8,6 +8,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <filesystem>
+#include <fstream>
 #include <set>
 
 #include "platform/fonts.h"
@@ -118,6 +119,20 @@ TEST_F(ToolBarsTest, AButtonWithoutItsImageShowsItsName) {
   Make();
   EXPECT_TRUE(Button("ImgButton1")->icon().isNull());
   EXPECT_EQ(Button("ImgButton1")->text(), ToQString(designer_->Text(kTextTipNewTemplate)));
+}
+
+TEST_F(ToolBarsTest, BothBarsHaveTheColourOfTheTheme) {
+  home_.InstallProgram();
+  std::ofstream(home_.Path("program/md1.trp")) << "TOOLBARCOLOR=255\r\n";
+  Make();
+  for (const QToolBar* bar : {&bars_->First(), &bars_->Second()}) {
+    EXPECT_EQ(bar->palette().color(QPalette::Window), QColor(Qt::red));
+    EXPECT_TRUE(bar->autoFillBackground());
+  }
+  std::ofstream(home_.Path("program/md1.trp")) << "TOOLBARCOLOR=-1\r\n";
+  Make();
+  EXPECT_FALSE(bars_->First().autoFillBackground());
+  EXPECT_EQ(bars_->First().palette().color(QPalette::Window), window_->palette().color(QPalette::Window));
 }
 
 TEST(ButtonImages, CanAllBeDrawnAndAreAllDifferent) {

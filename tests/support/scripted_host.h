@@ -29,6 +29,8 @@ class ScriptedHost final : public Host {
   bool CaptionModified = false;
   int ProgressMaximum = 0, ProgressValue = 0, ProgressBegun = 0, ProgressEnded = 0;
   std::deque<std::optional<std::string>> FilesToOpen, FilesToSave;
+  std::deque<int> FiltersToTake;   // the kind of file chosen, one for each file to save; else the first shown
+  std::deque<int> FiltersOffered;  // the kinds that stood first
   std::vector<FileChoice> Choices;
   std::vector<Fetch> Fetches;
   struct Started {
@@ -70,6 +72,11 @@ class ScriptedHost final : public Host {
   }
   std::optional<std::string> ChooseFileToSave(const FileChoice& choice) override {
     Choices.push_back(choice);
+    if (choice.Filter != nullptr) {
+      FiltersOffered.push_back(*choice.Filter);
+      *choice.Filter = Take(FiltersToTake, *choice.Filter);
+      Choices.back().Filter = nullptr;
+    }
     return Take(FilesToSave, std::optional<std::string>());
   }
   void ShowCaption(std::string_view documentTitle, bool modified) override {

@@ -253,5 +253,52 @@ TEST_F(Kevtool, EvaluatesNothingInARefusedTemplate) {
          "no.kev: no template: it has no [HEADER], [DATA] or [FOOTER] line\n");
 }
 
+// ---- pack, unpack
+
+constexpr const char* kEncoded =
+    "FILEFORMAT=2\r\nKEXVER=4\r\n[HEADER]\r\n{100;}A{\\n}\r\n[DATA]\r\n[FOOTER]\r\n";
+
+class PackedByKevtool : public Kevtool {
+ protected:
+  PackedByKevtool() {
+    WriteBytes(folder / "plain.kev", kEncoded);
+    EXPECT_EQ(Run({"pack", "plain.kev", "packed.kev"}).ExitCode, 0);
+  }
+};
+
+TEST_F(PackedByKevtool, PackingAndUnpackingGivesTheSameFile) {
+  EXPECT_TRUE(ReadBytes(folder / "packed.kev").starts_with(std::string("60\x03\x04")));
+  Expect({"unpack", "packed.kev", "back.kev"}, 0, "", "");
+  EXPECT_EQ(ReadBytes(folder / "back.kev"), kEncoded);
+}
+
+TEST_F(PackedByKevtool, PackedTemplatesAreReadLikePlainOnes) {
+  EXPECT_EQ(Run({"dump", "packed.kev"}).Output, Run({"dump", "plain.kev"}).Output);
+  EXPECT_EQ(Run({"check", "packed.kev"}).Output, "packed.kev: 11113\n");
+  Expect({"eval", "packed.kev", "7"}, 0, "7\n", "");
+}
+
+TEST_F(PackedByKevtool, RewritingSavesInTheFormThatTheTemplateAsksFor) {
+  for (const char* from : {"packed.kev", "plain.kev"}) {
+    Expect({"rewrite", from, "out.kev"}, 0, "", "");
+    EXPECT_TRUE(ReadBytes(folder / "out.kev").starts_with("60")) << from;
+  }
+  Expect({"rewrite", "small.kev", "out.kev"}, 0, "", "");
+  EXPECT_FALSE(ReadBytes(folder / "out.kev").starts_with("60"));
+  Expect({"rewrite", "packed.kev", "no/out.kev"}, 1, "", "no/out.kev: No such file or directory\n");
+}
+
+TEST_F(PackedByKevtool, TheReasonIsTold) {
+  Expect({"pack", "gone.kev", "out.kev"}, 1, "", "gone.kev: No such file or directory\n");
+  Expect({"pack", "packed.kev", "out.kev"}, 1, "", "packed.kev: is packed already\n");
+  Expect({"pack", "plain.kev", "no/out.kev"}, 1, "", "no/out.kev: No such file or directory\n");
+  Expect({"unpack", "plain.kev", "out.kev"}, 1, "", "plain.kev: is no packed template\n");
+  Expect({"unpack", "gone.kev", "out.kev"}, 1, "", "gone.kev: No such file or directory\n");
+  WriteBytes(folder / "damaged.kev", ReadBytes(folder / "packed.kev").substr(0, 50));
+  Expect({"unpack", "damaged.kev", "out.kev"}, 1, "", "damaged.kev: the encoded template is damaged\n");
+  Expect({"check", "damaged.kev"}, 1, "", "damaged.kev: the encoded template is damaged\n");
+  EXPECT_FALSE(std::filesystem::exists(folder / "out.kev"));
+}
+
 }  // namespace
 }  // namespace kev::test

@@ -18,6 +18,9 @@ int Check(const std::vector<std::string>& files);
 int Dump(const std::string& file, bool geometry);
 int Rewrite(const std::string& in, const std::string& out, bool comments);
 int Eval(const std::string& file, const std::string& expression);
+// From the plain form of a template to the packed one, and back. The target appears whole or not at all.
+int Pack(const std::string& in, const std::string& out);
+int Unpack(const std::string& in, const std::string& out);
 
 struct RenderChoice {
   std::string in;

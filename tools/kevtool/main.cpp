@@ -56,6 +56,17 @@ void AddEval(CLI::App& app, Invocation& invocation) {
       [&invocation, file, expression] { invocation.run = [=] { return Eval(*file, *expression); }; });
 }
 
+void AddPacking(CLI::App& app, Invocation& invocation, const char* name, const char* what,
+                int (*work)(const std::string&, const std::string&)) {
+  auto* command = app.add_subcommand(name, what);
+  auto in = std::make_shared<std::string>();
+  auto out = std::make_shared<std::string>();
+  command->add_option("IN", *in, "Template to read")->required();
+  command->add_option("OUT", *out, "Template to write")->required();
+  command->callback(
+      [&invocation, in, out, work] { invocation.run = [in, out, work] { return work(*in, *out); }; });
+}
+
 #ifdef KEV_WITH_QT
 void AddRender(CLI::App& app, Invocation& invocation) {
   auto* command = app.add_subcommand("render", "Paint the page as the designer does, to PNG, PDF or SVG");
@@ -85,6 +96,8 @@ int main(int argc, char** argv) {
   AddDump(app, invocation);
   AddRewrite(app, invocation);
   AddEval(app, invocation);
+  AddPacking(app, invocation, "pack", "Write a template in its packed form", Pack);
+  AddPacking(app, invocation, "unpack", "Write the plain form of a packed template", Unpack);
 #ifdef KEV_WITH_QT
   AddRender(app, invocation);
 #endif

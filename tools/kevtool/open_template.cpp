@@ -4,6 +4,7 @@
 #include "base/files.h"
 #include "commands.h"
 #include "local_pictures.h"
+#include "template/packed.h"
 #include "template/template_check.h"
 
 namespace kev::tool {
@@ -27,7 +28,7 @@ std::string_view RefusalReason(Refusal refusal) {
 
 Opened Open(const std::string& file) {
   const auto refuse = [&file](std::string_view reason) { std::cerr << file << ": " << reason << '\n'; };
-  const Result<std::string> bytes = ReadWholeFile(file);
+  const Result<std::string> bytes = ReadPlainTemplate(file);
   if (!bytes) {
     refuse(bytes.Error().reason);
     return {};

@@ -1,14 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include <iostream>
 
+#include "base/files.h"
 #include "base/numbers.h"
 #include "commands.h"
 #include "document/position.h"
 #include "document/sections.h"
 #include "surface/visuals.h"
+#include "template/packed.h"
 #include "template/writer.h"
 
 namespace kev::tool {
+namespace {
+
+WriteReport WritePacked(const std::string& path, Document& document, const WriteOptions& options) {
+  WriteReport report;
+  const Result<std::string> packed = PackedBytes(TemplateText(document, options, report), FileNameOf(path));
+  report.Failure = packed ? WriteWholeFile(path, *packed) : FileFailure{path, packed.Error().reason};
+  return report;
+}
+
+}  // namespace
 
 int Check(const std::vector<std::string>& files) {
   int status = kGood;
@@ -35,7 +47,9 @@ int Rewrite(const std::string& in, const std::string& out, bool comments) {
   DeriveGeometry(outcome->Read);
   ApplyRedrawWriteBack(outcome->Read, BuiltInMeasurer(), DisplayFilter::All);
   DeriveGeometry(outcome->Read);
-  const WriteReport report = WriteTemplate(out, outcome->Read, {comments});
+  const WriteReport report = AsksForPacking(outcome->Read.Settings)
+                                 ? WritePacked(out, outcome->Read, {comments})
+                                 : WriteTemplate(out, outcome->Read, {comments});
   if (report.Failure) {
     std::cerr << report.Failure->path << ": " << report.Failure->reason << '\n';
     return kRefused;

@@ -32,6 +32,7 @@
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
+#include "platform/forms/recent_menu.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/text_tools.h"
 #include "platform/forms/tool_bars.h"
@@ -93,6 +94,7 @@ void KavEdit01::BuildMenus() {
   menus_->ActionOf(Command::SeeAll).setChecked(true);
   BuildZoomMenu();
   BuildLanguageMenu();
+  BuildRecentMenu();
 }
 
 void KavEdit01::BuildZoomMenu() {
@@ -111,6 +113,14 @@ void KavEdit01::BuildLanguageMenu() {
     designer_.GuardedView([&] {
       if (designer_.ChooseLanguage(letter)) languages->Mark(letter);
     });
+  });
+}
+
+void KavEdit01::BuildRecentMenu() {
+  recentMenu_ = new RecentMenu(menus_->MenuOf(MenuId::File), [this](std::size_t entry) {
+    if (designer_.Surface().Busy()) return;
+    designer_.Surface().CommitOpenEdits();
+    designer_.GuardedView([&] { designer_.OpenRecent(entry); });
   });
 }
 
@@ -296,6 +306,9 @@ void KavEdit01::Dispatch(Command command) {
       break;
     case Command::SaveAs:
       designer_.SaveAs();
+      break;
+    case Command::DocumentProperties:
+      designer_.ShowDocumentProperties();
       break;
     case Command::Exit:
       close();

@@ -20,6 +20,7 @@ class FindingsDock;
 class PanelPlace;
 class PageFrame;
 class ProgressWindow;
+class RecentMenu;
 class StatusPanels;
 class TextTools;
 class ToolBars;
@@ -66,6 +67,10 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void OpenPrintNoPrint(GroupFlagRun& run) override;
   void ShowFontTools(const FontTools& tools) override;
   std::optional<Colour> ChooseColour(const Colour& first) override;
+  void ShowRecentFiles(const std::vector<std::string>& captions) override;
+  std::string PaintThumbnail(const ThumbnailLook& look) override { return page_.Thumbnail(look); }
+  void OpenWelcome(WelcomeRun& run) override;
+  void OpenDocumentProperties(DocumentPropertiesRun& run) override;
 
  protected:
   bool event(QEvent* event) override;
@@ -77,6 +82,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void BuildMenus();
   void BuildZoomMenu();
   void BuildLanguageMenu();
+  void BuildRecentMenu();
   QString MenuCaption(int text) const;
   void BuildToolRow();
   void BuildPage(FontCache& fonts);
@@ -101,6 +107,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   PanelPlace* panel_ = nullptr;
   CommandMenus* menus_ = nullptr;
   ZoomMenu* zoomMenu_ = nullptr;
+  RecentMenu* recentMenu_ = nullptr;
   ToolBars* toolBars_ = nullptr;
   TextTools* textTools_ = nullptr;
   ZoomBox* zoomBox_ = nullptr;

@@ -10,6 +10,8 @@
 #include "platform/forms/align_to_grid_frm.h"
 #include "platform/forms/combocol.h"
 #include "platform/forms/command_menus.h"
+#include "platform/forms/docpropertiesfrm.h"
+#include "platform/forms/fastopen.h"
 #include "platform/forms/findings_dock.h"
 #include "platform/forms/group_flag_forms.h"
 #include "platform/forms/inscol01.h"
@@ -17,6 +19,7 @@
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/placeselection.h"
+#include "platform/forms/recent_menu.h"
 #include "platform/forms/recover_form.h"
 #include "platform/forms/set_this_column.h"
 #include "platform/forms/status_panels.h"
@@ -137,6 +140,21 @@ std::optional<Colour> KavEdit01::ChooseColour(const Colour& first) {
                                                ToQString(designer_.Text(kTextToolFontColor)));
   if (!chosen.isValid()) return std::nullopt;
   return Colour{ToInt16(chosen.red()), ToInt16(chosen.green()), ToInt16(chosen.blue())};
+}
+
+void KavEdit01::ShowRecentFiles(const std::vector<std::string>& captions) {
+  recentMenu_->Show(captions);
+}
+
+// Whoever wants the program to end wants no welcome.
+void KavEdit01::OpenWelcome(WelcomeRun& run) {
+  if (closeWanted_ || ended_) return;
+  const std::string images = InProgramFolder(designer_.Folders(), kButtonImages);
+  Fastopen(run, designer_.Texts(), FromNative(images), this).exec();
+}
+
+void KavEdit01::OpenDocumentProperties(DocumentPropertiesRun& run) {
+  docpropertiesfrm(run, designer_.Texts(), this).exec();
 }
 
 }  // namespace kev

@@ -41,6 +41,21 @@ ToolBars::ToolBars(QMainWindow& window, const Designer& designer, Actions action
   second_ = NewBar(window, designer, "toolbar2", kTextMenuInsert);
   for (const ToolButtonRow& row : kToolButtons)
     if (row.command || row.fontTool || !row.tool.empty()) AddButton(row, designer);
+  ApplyToolbarColour(designer);
+  LoadButtonImages(designer);
+}
+
+void ToolBars::ApplyToolbarColour(const Designer& designer) {
+  for (QToolBar* bar : {first_, second_})
+    ColourBar(*bar, designer.CurrentTheme().ToolbarColour());
+}
+
+void ToolBars::LoadButtonImages(const Designer& designer) {
+  for (const auto& [row, button] : buttons_) {
+    button->setIcon(SvgIcon(ImageOf(row, designer)));
+    button->setToolTip(TooltipOf(row, designer));
+    button->setIconSize(kIconSize);
+  }
 }
 
 QToolBar* ToolBars::NewBar(QMainWindow& window, const Designer& designer, const char* name, int text) {
@@ -49,7 +64,6 @@ QToolBar* ToolBars::NewBar(QMainWindow& window, const Designer& designer, const 
   bar->setAccessibleName(ToQString(designer.Text(text)));
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  ColourBar(*bar, designer.CurrentTheme().ToolbarColour());
   window.addToolBar(bar);
   return bar;
 }
@@ -59,12 +73,9 @@ void ToolBars::AddButton(const ToolButtonRow& row, const Designer& designer) {
   if (row.separatorBefore && !bar.actions().isEmpty()) bar.addSeparator();
   auto* button = new QToolButton(&bar);
   button->setObjectName(ToQString(row.name));
-  button->setToolTip(TooltipOf(row, designer));
   button->setAccessibleName(NameOf(row, designer));
   // Shown where the image can't be had.
   button->setText(NameOf(row, designer));
-  button->setIcon(SvgIcon(ImageOf(row, designer)));
-  button->setIconSize(kIconSize);
   button->setAutoRaise(true);
   button->setFocusPolicy(Qt::TabFocus);
   bar.addWidget(button);

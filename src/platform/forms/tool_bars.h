@@ -38,6 +38,10 @@ class ToolBars final : public QObject {
 
  private:
   static QToolBar* NewBar(QMainWindow& window, const Designer& designer, const char* name, int text);
+  // The theme's colour behind both bars; without one the desktop's.
+  void ApplyToolbarColour(const Designer& designer);
+  // Image, tooltip and size of each button, in the order of the table.
+  void LoadButtonImages(const Designer& designer);
   void AddButton(const ToolButtonRow& row, const Designer& designer);
   void Connect(QToolButton& button, const ToolButtonRow& row);
 
