@@ -9,6 +9,7 @@
 #include "surface/column_lines.h"
 #include "surface/null_surface.h"
 #include "surface/page_background.h"
+#include "surface/qr_image.h"
 #include "surface/selection.h"
 
 namespace kev {
@@ -41,6 +42,26 @@ void DesignSurface::Redraw() {
   PageWork work = Work();
   SyncColumnLines(work);
   designer_.PageShown();
+}
+
+void DesignSurface::ShowMadePictures() {
+  Redraw();
+  PageWork work = Work();
+  const ObjectTable& objects = designer_.OpenDocument().Objects;
+  // Other overlays show nothing of it, and one may lie below a text that is being typed.
+  if (objects[objects.CurrentObject].Kind == ObjectKind::Qr) ShowCurrentAgain(work);
+}
+
+void DesignSurface::RemakeQrImage(int row) {
+  PageWork work = Work();
+  if (MakeQrImage(work, row)) ShowMadePictures();
+}
+
+void DesignSurface::Renew(PageWork& work) {
+  work.ZoomFactor = designer_.ZoomFactor();
+  work.filter = designer_.Filter();
+  work.canvasWidth = canvasWidth_;
+  work.canvasHeight = canvasHeight_;
 }
 
 void DesignSurface::FullRepaint() {

@@ -69,6 +69,10 @@ class DesignSurface final : public PageServices {
   void PutBackLevels(UndoStore levels) noexcept { undo_ = std::move(levels); }
   // Paints the page. Painting may store measured sizes in rows.
   void Redraw();
+  // Images that the page waited for are there.
+  void ShowMadePictures();
+  // The image of the QR in the row, after its text, size or place was edited.
+  void RemakeQrImage(int row);
 
   // --- What is shown ---
   bool DrawGrid() const { return drawGrid_; }
@@ -103,6 +107,7 @@ class DesignSurface final : public PageServices {
   void StartAllowTimer(int milliseconds, std::function<void()> done) override;
   void RunPendingTool() override;
   void ShowColumnList(const ColumnList& list) override;
+  void Renew(PageWork& work) override;
 
  private:
   // For a bar, or for a new one where the row is 0. Until the dialog is closed.

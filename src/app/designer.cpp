@@ -60,9 +60,17 @@ struct Designer::Kept {
 };
 
 Designer::Designer(Host& host, const TextMeasurer& measurer, StartInput input)
-    : host_(host), measurer_(measurer), input_(std::move(input)), pictures_(host, folders_) {
+    : host_(host),
+      measurer_(measurer),
+      input_(std::move(input)),
+      pictures_(host, folders_),
+      qrImages_(host, folders_, document_) {
   pictures_.OnArrival([this](const std::string& pictureFile, bool there) {
     arrivals_.emplace_back(pictureFile, there);
+    TakeArrivals();
+  });
+  qrImages_.OnMade([this] {
+    imagesMade_ = true;
     TakeArrivals();
   });
 }
@@ -101,12 +109,14 @@ void Designer::DeriveGeometryAndRedraw() {
 bool Designer::Guarded(const GuardedWork& work, const std::function<void()>& body) {
   const HeldArrivals held(*this);
   std::optional<Kept> kept;
+  const int generation = generation_;
   const std::optional<std::string> failure = FailureOf([&] {
     kept.emplace(document_, surface_.Undo());
     body();
   });
   if (!failure) return true;
-  if (kept) PutBack(std::move(*kept));
+  // While a program was waited for, another document may have been opened.
+  if (kept && generation == generation_) PutBack(std::move(*kept));
   TellFailure(work, *failure);
   return false;
 }
@@ -219,6 +229,13 @@ void Designer::TakeArrivals() noexcept {
     arrivals_.erase(arrivals_.begin());
     PictureArrived(pictureFile, there);
   }
+  // A gesture that is under way ends in a guard, and this is asked again.
+  if (holds_ == 0 && imagesMade_ && !surface_.Busy()) ShowMadePictures();
+}
+
+void Designer::ShowMadePictures() {
+  imagesMade_ = false;
+  GuardedView([this] { surface_.ShowMadePictures(); });
 }
 
 void Designer::PictureArrived(const std::string& pictureFile, bool there) {

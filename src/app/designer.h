@@ -19,6 +19,7 @@
 #include "app/options.h"
 #include "app/picture_source.h"
 #include "app/property_sheets.h"
+#include "app/qr_images.h"
 #include "app/read_back.h"
 #include "app/theme.h"
 #include "base/finding.h"
@@ -265,7 +266,7 @@ class Designer {
   // A surface that shows nothing while there is no window.
   SurfaceOps& Canvas() { return view_ != nullptr ? view_->Canvas() : nowhere_; }
   WorkImages Images() const { return {folders_.TempFolder, session_}; }
-  MadePictures Made() { return {}; }
+  MadePictures Made() { return {&qrImages_, nullptr}; }
   void PageShown();
   void ShowRulers();
   void ShowArea(const CanvasArea& area);
@@ -325,6 +326,7 @@ class Designer {
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);
+  void ShowMadePictures();
   void TakeArrivals() noexcept;
   void PutBack(Kept kept) noexcept;
   void TellFailure(const GuardedWork& work, const std::string& reason);
@@ -346,6 +348,7 @@ class Designer {
   LanguageTexts texts_;
   CommandLineParts command_;
   FolderPictures pictures_;
+  QrImages qrImages_;
   SampleCopy samples_;
   std::string documentPath_;
   std::string documentTitle_{kFreshTitle};
@@ -355,7 +358,11 @@ class Designer {
   std::vector<Finding> findings_;
   // Pictures that came while something else was under way, and whether they are there.
   std::vector<std::pair<std::string, bool>> arrivals_;
+  // Images that the page shows were made beside it.
+  bool imagesMade_ = false;
   int holds_ = 0;
+  // Counts the documents that have stood in the tables.
+  int generation_ = 0;
   double zoomPercent_ = 100;
   DisplayFilter filter_ = DisplayFilter::All;
   int session_ = 0;

@@ -149,6 +149,7 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std
 
 // Moves only: half of a document never stands in the tables.
 void Designer::Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept {
+  ++generation_;
   document_ = std::move(outcome.Read);
   attributes_ = std::move(outcome.Attributes);
   cursor_ = {};

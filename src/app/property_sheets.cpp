@@ -36,6 +36,7 @@ void PropertySheets::Show(int selectRow) {
 void PropertySheets::Edited(int row, std::string text) {
   const Sheet edited = sheet_;
   int selectRow = 0;
+  bool qrImageIsOld = false;
   designer_.Guarded([&] {
     PageWork page = designer_.Surface().Work();
     const std::string folder = designer_.DocumentPath().empty() ? std::string() : designer_.TemplateFolder();
@@ -44,9 +45,12 @@ void PropertySheets::Edited(int row, std::string text) {
     SheetOutcome outcome = ApplySheetEdit(work, edited, edits);
     sheet_ = std::move(outcome.Shown);
     selectRow = outcome.SelectRow;
+    qrImageIsOld = outcome.QrImageIsOld;
   });
   // Also behind a refusal or a failure: the cells show what the record holds.
   Show(selectRow);
+  // Last, since the user can act while the tools are waited for.
+  if (qrImageIsOld) designer_.GuardedView([&] { designer_.Surface().RemakeQrImage(edited.Object); });
 }
 
 void PropertySheets::PressButton(int row) {

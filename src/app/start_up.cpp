@@ -116,6 +116,7 @@ std::optional<FileFailure> Designer::ShutDownSilently() {
     surface_.TheRecovery().Delete();
   }
   opened_.LeaveBehind();
+  qrImages_.End();
   std::optional<FileFailure> failure = WriteLastRunOptions();
   DeleteSampleCopies(folders_.DataFolder);
   samples_.Delete();

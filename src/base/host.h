@@ -79,6 +79,8 @@ class Host {
   // Until a program started with `ended` has ended; the window goes on answering the user meanwhile. A
   // process that is not known has ended. No limit of time.
   virtual void WaitForProcess(ProcessId process) = 0;
+  // Ends a program that was started with `ended`, which is not called any more.
+  virtual void StopProgram(ProcessId) {}
   // Hands an address, as it stands, to the program that the desktop knows for its scheme.
   virtual bool OpenAddress(std::string_view address) = 0;
   // Opens a file with the desktop's own program for it; native path.

@@ -238,6 +238,9 @@ inline constexpr int kTextColorBlue = 297;
 inline constexpr int kTextColorPalette = 298;
 inline constexpr int kTextColorResult = 299;
 
+// The window that shows a picture
+inline constexpr int kTextPictureUnreadable = 305;
+
 // Buttons of all dialogs
 inline constexpr int kTextOk = 642;
 inline constexpr int kTextCancel = 643;

@@ -90,7 +90,8 @@ class DisplayList::Painting {
   void operator()(const Rect& rect);
   void operator()(const Circle& circle);
   void operator()(const Image& image) {
-    list_.images_.Paint(painter_, image.file, QRectF(At(image.area.topLeft()), image.area.size() * kPixel));
+    list_.images_.Paint(painter_, image.file, QRectF(At(image.area.topLeft()), image.area.size() * kPixel),
+                        image.scaling);
   }
   void operator()(const Text& text);
   void operator()(const Dots& dots);
@@ -284,7 +285,12 @@ void DisplayList::DrawCircle(double cx, double cy, double radius) {
 
 void DisplayList::PaintImage(std::string_view file, double x, double y, double width, double height) {
   const QRectF area(x, y, width, height);
-  if (!file.empty() && !area.isEmpty()) Keep(area, Image{std::string(file), area});
+  if (!file.empty() && !area.isEmpty()) Keep(area, Image{std::string(file), area, Scaling::Smooth});
+}
+
+void DisplayList::PaintImageSharp(std::string_view file, double x, double y, double width, double height) {
+  const QRectF area(x, y, width, height);
+  if (!file.empty() && !area.isEmpty()) Keep(area, Image{std::string(file), area, Scaling::Sharp});
 }
 
 void DisplayList::SetFont(const FontSpec& font) {

@@ -58,6 +58,7 @@ class DisplayList final : public SurfaceOps {
   void DrawRectColour(double x1, double y1, double x2, double y2, Rgb colour, bool filled) override;
   void DrawCircle(double cx, double cy, double radius) override;
   void PaintImage(std::string_view file, double x, double y, double width, double height) override;
+  void PaintImageSharp(std::string_view file, double x, double y, double width, double height) override;
   void SetFont(const FontSpec& font) override;
   void SetForeground(Rgb colour) override { foreground_ = colour; }
   void PrintText(double x, double y, std::string_view text) override;
@@ -91,6 +92,7 @@ class DisplayList final : public SurfaceOps {
   struct Image {
     std::string file;
     QRectF area;
+    Scaling scaling;
   };
   struct Text {
     Rgb colour;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/images.h"
 
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -10,7 +9,8 @@
 #include <QSvgRenderer>
 #include <algorithm>
 
-#include "platform/fonts.h"
+#include "base/file_stamp.h"
+#include "platform/text_bridge.h"
 
 namespace kev {
 namespace {
@@ -26,15 +26,14 @@ bool IsSvgFile(const QFileInfo& file) {
 }  // namespace
 
 struct ImageCache::Entry {
-  QDateTime changed;
-  qint64 bytes = 0;
+  FileStamp stamp;
   QImage bitmap;
   std::unique_ptr<QSvgRenderer> drawing;
   // The bitmap at the size at which it was painted last, so that a photograph is not reduced at each paint.
   mutable QImage reduced;
 
   int Kilobytes() const {
-    return static_cast<int>(std::max(bytes, bitmap.sizeInBytes() + qint64{0}) / 1024) + 1;
+    return static_cast<int>(std::max<std::int64_t>(stamp.Size, bitmap.sizeInBytes()) / 1024) + 1;
   }
 };
 
@@ -81,14 +80,13 @@ const QString& ImageCache::PathOf(std::string_view file) {
 std::shared_ptr<const ImageCache::Entry> ImageCache::Find(std::string_view file) {
   const QString& path = PathOf(file);
   if (path.isEmpty()) return nullptr;
-  const QFileInfo info(path);
-  if (!info.isFile()) return nullptr;
+  const std::optional<FileStamp> stamp = StampOf(ToNative(path));
+  if (!stamp) return nullptr;
   if (const auto* known = entries_.object(path))
-    if ((*known)->changed == info.lastModified() && (*known)->bytes == info.size()) return *known;
+    if ((*known)->stamp == *stamp) return *known;
   auto entry = std::make_shared<Entry>();
-  entry->changed = info.lastModified();
-  entry->bytes = info.size();
-  if (IsSvgFile(info))
+  entry->stamp = *stamp;
+  if (IsSvgFile(QFileInfo(path)))
     entry->drawing = ReadDrawing(path);
   else
     entry->bitmap = ReadBitmap(path);
@@ -109,12 +107,21 @@ void ImageCache::PaintBitmap(QPainter& painter, const Entry& entry, const QRectF
   painter.drawImage(target, entry.reduced);
 }
 
-void ImageCache::Paint(QPainter& painter, std::string_view file, const QRectF& target) {
+void ImageCache::PaintSharp(QPainter& painter, const QImage& bitmap, const QRectF& target) {
+  const QPainter::RenderHints before = painter.renderHints();
+  painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing, false);
+  painter.drawImage(target, bitmap);
+  painter.setRenderHints(before);
+}
+
+void ImageCache::Paint(QPainter& painter, std::string_view file, const QRectF& target, Scaling scaling) {
   if (target.isEmpty()) return;
   const auto entry = Find(file);
   if (!entry) return;
   if (entry->drawing)
     entry->drawing->render(&painter, target);
+  else if (!entry->bitmap.isNull() && scaling == Scaling::Sharp)
+    PaintSharp(painter, entry->bitmap, target);
   else if (!entry->bitmap.isNull())
     PaintBitmap(painter, *entry, target);
 }

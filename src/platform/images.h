@@ -7,6 +7,7 @@
 #include <QRectF>
 #include <QSize>
 #include <QString>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -22,6 +23,9 @@ namespace kev {
 // "\" are the designer's own; all others are as a template wrote them.
 using ImageResolver = std::function<std::string(std::string_view file)>;
 
+// Smooth goes by the painter's own hint; Sharp takes the nearest pixel, as codes that are scanned need it.
+enum class Scaling : std::uint8_t { Smooth, Sharp };
+
 class ImageCache {
  public:
   explicit ImageCache(ImageResolver resolver);
@@ -32,7 +36,8 @@ class ImageCache {
   // Looks the names up again, since files come and go between two redraws.
   void Forget();
   // Stretched into the rectangle of the painter's own units; a file that cannot be had paints nothing.
-  void Paint(QPainter& painter, std::string_view file, const QRectF& target);
+  void Paint(QPainter& painter, std::string_view file, const QRectF& target,
+             Scaling scaling = Scaling::Smooth);
   // Pixels of a bitmap or of an SVG drawing; empty when there is none.
   QSize SizeOf(std::string_view file);
 
@@ -40,6 +45,7 @@ class ImageCache {
   struct Entry;
   std::shared_ptr<const Entry> Find(std::string_view file);
   const QString& PathOf(std::string_view file);
+  static void PaintSharp(QPainter& painter, const QImage& bitmap, const QRectF& target);
   static void PaintBitmap(QPainter& painter, const Entry& entry, const QRectF& target);
 
   ImageResolver resolver_;

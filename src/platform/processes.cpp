@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/processes.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
 #include <utility>
@@ -12,7 +11,8 @@ namespace kev {
 
 namespace {
 
-constexpr int kWaitSlice = 100;  // milliseconds
+// Milliseconds
+constexpr int kQuietStart = 250;
 constexpr int kStartLimit = 5000;
 
 QStringList ArgumentsOf(const ProgramStart& start) {
@@ -28,27 +28,33 @@ void ThrowAwayOutput(QProcess& process) {
   process.setStandardErrorFile(QProcess::nullDevice());
 }
 
+void Kill(QProcess& process) {
+  process.kill();
+  process.waitForFinished();
+}
+
 }  // namespace
 
 Processes::~Processes() {
   for (auto& [id, running] : running_) {
     running.process->disconnect(this);
-    running.process->kill();
-    running.process->waitForFinished();
+    Kill(*running.process);
   }
 }
 
 std::optional<ProcessId> Processes::Start(const ProgramStart& start, std::function<void()> ended) {
   auto process = std::make_unique<QProcess>();
   ThrowAwayOutput(*process);
-  process->start(FromNative(start.Program), ArgumentsOf(start), QIODevice::NotOpen);
-  if (!process->waitForStarted(kStartLimit)) return std::nullopt;
-  const ProcessId id = process->processId();
+  const ProcessId id = ++last_;
+  // Before the start, since it may have ended when that returns; queued, since it must be told later.
   connect(
       process.get(), &QProcess::finished, this, [this, id] { OnEnded(id); }, Qt::QueuedConnection);
-  const bool over = process->state() == QProcess::NotRunning;
-  running_.insert_or_assign(id, Running{std::move(process), std::move(ended)});
-  if (over) QTimer::singleShot(0, this, [this, id] { OnEnded(id); });
+  process->start(FromNative(start.Program), ArgumentsOf(start), QIODevice::ReadOnly);
+  if (!process->waitForStarted(kStartLimit)) {
+    Kill(*process);
+    return std::nullopt;
+  }
+  running_.emplace(id, Running{std::move(process), std::move(ended)});
   return id;
 }
 
@@ -57,14 +63,29 @@ std::optional<ProcessId> Processes::StartDetached(const ProgramStart& start) {
   ThrowAwayOutput(process);
   process.setProgram(FromNative(start.Program));
   process.setArguments(ArgumentsOf(start));
-  qint64 id = 0;
-  return process.startDetached(&id) ? std::optional<ProcessId>(id) : std::nullopt;
+  return process.startDetached() ? std::optional<ProcessId>(++last_) : std::nullopt;
 }
 
 void Processes::Wait(ProcessId process) {
-  while (running_.contains(process) && !QCoreApplication::closingDown()) {
-    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, kWaitSlice);
-  }
+  if (!running_.contains(process)) return;
+  ++waits_;
+  QEventLoop loop;
+  connect(this, &Processes::Ended, &loop, [&loop, process](qint64 ended) {
+    if (ended == process) loop.quit();
+  });
+  QTimer::singleShot(kQuietStart, &loop, &QEventLoop::quit);
+  // Both return at once where the program is to end.
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  if (running_.contains(process)) loop.exec();
+  if (--waits_ == 0) Q_EMIT WaitsEnded();
+}
+
+void Processes::Stop(ProcessId process) {
+  auto node = running_.extract(process);
+  if (node.empty()) return;
+  node.mapped().process->disconnect(this);
+  Kill(*node.mapped().process);
+  Q_EMIT Ended(process);
 }
 
 void Processes::OnEnded(ProcessId id) {
@@ -73,6 +94,7 @@ void Processes::OnEnded(ProcessId id) {
   // Deleted behind this event, which may be one of its own.
   node.mapped().process.release()->deleteLater();
   node.mapped().ended();
+  Q_EMIT Ended(id);
 }
 
 }  // namespace kev

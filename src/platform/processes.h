@@ -18,15 +18,25 @@ class Processes final : public QObject {
 
  public:
   Processes() = default;
-  // What still runs is killed.
+  // What still runs is killed, and told to nobody.
   ~Processes() override;
 
-  // Nothing when it can't be started. What it prints is thrown away. `ended` runs in a later event.
+  // Nothing when it can't be started. What it prints is thrown away. `ended` runs once, in a later event.
   std::optional<ProcessId> Start(const ProgramStart& start, std::function<void()> ended);
-  // Outlives this program.
-  static std::optional<ProcessId> StartDetached(const ProgramStart& start);
-  // Handles events until the process has ended, or this program wants to end.
+  // Outlives this program; nobody can wait for it.
+  std::optional<ProcessId> StartDetached(const ProgramStart& start);
+  // Handles events until the process has ended and that was told, or this program wants to end. What the user
+  // does is held back for a moment, so that with a quick program nothing overtakes the event that waits.
   void Wait(ProcessId process);
+  // Kills it; its `ended` is not called.
+  void Stop(ProcessId process);
+
+  bool Waiting() const { return waits_ > 0; }
+
+ Q_SIGNALS:
+  void Ended(qint64 process);
+  // The outermost wait is over.
+  void WaitsEnded();
 
  private:
   void OnEnded(ProcessId id);
@@ -36,6 +46,9 @@ class Processes final : public QObject {
     std::function<void()> ended;
   };
   std::map<ProcessId, Running> running_;
+  // Numbers of our own: the system gives those of ended processes to others.
+  ProcessId last_ = 0;
+  int waits_ = 0;
 };
 
 }  // namespace kev

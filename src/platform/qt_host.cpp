@@ -83,7 +83,9 @@ QString SuffixOf(const std::string& patterns) {
 
 }  // namespace
 
-QtHost::QtHost(QObject* parent) : QObject(parent) {}
+QtHost::QtHost(QObject* parent) : QObject(parent) {
+  connect(&processes_, &Processes::WaitsEnded, this, &QtHost::WaitsEnded);
+}
 
 BoxAnswer QtHost::ShowMessage(const MessageBox& asked) {
   QMessageBox box(window_);
@@ -167,12 +169,12 @@ void QtHost::FetchPicture(std::string_view address, std::string_view file, std::
 }
 
 std::optional<ProcessId> QtHost::StartProgram(const ProgramStart& start, std::function<void()> ended) {
-  return ended ? processes_.Start(start, std::move(ended)) : Processes::StartDetached(start);
+  return ended ? processes_.Start(start, std::move(ended)) : processes_.StartDetached(start);
 }
 
 // Not by QDesktopServices: it makes a url of the text, and what is registered gets another one.
 bool QtHost::OpenAddress(std::string_view address) {
-  return Processes::StartDetached({"xdg-open", {std::string(address)}}).has_value();
+  return processes_.StartDetached({"xdg-open", {std::string(address)}}).has_value();
 }
 
 bool QtHost::OpenWithDesktop(const std::string& path) {

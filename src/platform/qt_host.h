@@ -46,9 +46,12 @@ class QtHost final : public QObject, public Host {
   void FetchPicture(std::string_view address, std::string_view file, std::function<void(bool)> done) override;
   std::optional<ProcessId> StartProgram(const ProgramStart& start, std::function<void()> ended) override;
   void WaitForProcess(ProcessId process) override { processes_.Wait(process); }
+  void StopProgram(ProcessId process) override { processes_.Stop(process); }
   bool OpenAddress(std::string_view address) override;
   bool OpenWithDesktop(const std::string& path) override;
 
+  // Whether a program is waited for.
+  bool Waiting() const { return processes_.Waiting(); }
   // The user has had enough of what is under way.
   void StopProgress() { progressStopped_ = true; }
 
@@ -59,6 +62,7 @@ class QtHost final : public QObject, public Host {
   void ProgressBegun(const QString& text, int maximum);
   void ProgressStepped(int value, const QString& text);
   void ProgressEnded();
+  void WaitsEnded();
 
  private:
   void AddButtons(QMessageBox& box, const MessageBox& asked) const;

@@ -8,6 +8,7 @@
 #include "data/next_variable.h"
 #include "document/kind_defaults.h"
 #include "document/sections.h"
+#include "surface/qr_image.h"
 #include "surface/selection.h"
 
 namespace kev {
@@ -62,6 +63,8 @@ int Insert(InsertionWork& work, Insertion what) {
   ObjectRecord& record = page.document.Objects[row];
   FillInserted(record, RowOf(what), work);
   Place(record, page.document.Objects[bar], page);
+  // While the tools are waited for, the user may take the object away again.
+  if (what == Insertion::Qr && !MakeQrImage(page, row)) return 0;
   Show(page, row);
   if (what == Insertion::Picture) ChoosePicture(work, row);
   if (what == Insertion::NextVariable) PutNextVariable(work, row, false);

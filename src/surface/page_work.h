@@ -31,6 +31,7 @@ struct FieldScreenLook {
 };
 
 struct ColumnList;
+struct PageWork;
 
 // The designer's part in it. Whatever changes the document calls PushUndo before the change, never after, and
 // FullRepaint behind it.
@@ -72,6 +73,8 @@ class PageServices {
   virtual void RunPendingTool() = 0;
   // The toolbar's list of columns is another one, or shows another text.
   virtual void ShowColumnList(const ColumnList&) {}
+  // Behind a wait in which the user could act: zoom, filter and sizes as they are now.
+  virtual void Renew(PageWork&) {}
 };
 
 struct PageWork {

@@ -8,7 +8,7 @@ void PaintQr(PaintContext& context, ObjectRecord& record, int row) {
   const CanvasArea area = AreaOf(record, context.document, context.ZoomFactor);
   if (context.pictures.Qr == nullptr) return PaintPlaceholder(context, area, "QR");
   if (!context.pictures.Qr->IsReady(row, record, record.PictureFile)) return;
-  context.surface.PaintImage(record.PictureFile, area.Left, area.Top, area.Width(), area.Height());
+  context.surface.PaintImageSharp(record.PictureFile, area.Left, area.Top, area.Width(), area.Height());
 }
 
 }  // namespace kev

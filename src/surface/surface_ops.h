@@ -32,6 +32,10 @@ class SurfaceOps {
   // A file as a record or the theme names it ("\Pbms\sectpic.prbm", "logo.png"); one that cannot be had
   // paints nothing.
   virtual void PaintImage(std::string_view file, double x, double y, double width, double height) = 0;
+  // The same without smoothing: each pixel of the surface gets that of one pixel of the picture.
+  virtual void PaintImageSharp(std::string_view file, double x, double y, double width, double height) {
+    PaintImage(file, x, y, width, height);
+  }
   virtual void SetFont(const FontSpec& font) = 0;
   // At the top left of the text, in the foreground colour.
   virtual void SetForeground(Rgb colour) = 0;

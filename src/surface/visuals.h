@@ -37,6 +37,9 @@ class QrPictures {
  public:
   virtual ~QrPictures() = default;
   virtual bool IsReady(int row, const ObjectRecord& record, const std::string& file) = 0;
+  // Makes the image now and returns when that is done, whether or not it could be. Events are handled
+  // meanwhile, so that the document may be another one behind the call.
+  virtual void Make(int /*row*/, const ObjectRecord& /*record*/, const std::string& /*file*/) {}
 };
 class ChartPictures {
  public:

@@ -57,6 +57,9 @@ class RecordingSurface : public SurfaceOps {
   void PaintImage(std::string_view file, double x, double y, double width, double height) override {
     Keep("image", {x, y, width, height}, " " + std::string(file));
   }
+  void PaintImageSharp(std::string_view file, double x, double y, double width, double height) override {
+    Keep("sharp", {x, y, width, height}, " " + std::string(file));
+  }
   void SetFont(const FontSpec& font) override {
     font_ = font;
     std::string style;

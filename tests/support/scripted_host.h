@@ -43,6 +43,9 @@ class ScriptedHost final : public Host {
   std::vector<std::string> Addresses, DesktopFiles;
   std::set<std::string> MissingPrograms;               // can't be started
   std::function<void(const ProgramStart&)> OnProgram;  // what the program does, while it is waited for
+  std::function<void(ProcessId)> OnWait;               // what happens in the window during a wait
+  std::vector<ProcessId> StoppedPrograms;
+  bool Hangs = false;  // a wait returns though the program goes on, as where the process is to end
   bool AddressKnown = true, DesktopKnown = true;
   bool Stopped = false;
   std::function<void()> OnStep;  // what happens in the window while it shows progress
@@ -96,7 +99,12 @@ class ScriptedHost final : public Host {
   }
   void WaitForProcess(ProcessId process) override {
     Waits.push_back(process);
-    EndProgram(process);
+    if (OnWait) OnWait(process);
+    if (!Hangs) EndProgram(process);
+  }
+  void StopProgram(ProcessId process) override {
+    StoppedPrograms.push_back(process);
+    Programs.at(static_cast<std::size_t>(process) - 1).Ended = nullptr;
   }
   // What a program that was started and told of does, and its end.
   void EndProgram(ProcessId process) {

@@ -6,6 +6,7 @@
 
 #include "base/files.h"
 #include "commands.h"
+#include "render_qr_pictures.h"
 
 namespace kev::tool {
 namespace {
@@ -39,10 +40,15 @@ int Render(const RenderChoice& choice) {
   options.grid = choice.grid;
   options.folders.ProgramFolder = QGuiApplication::applicationDirPath().toStdString();
   options.TemplateFolder = FolderOf(AbsolutePath(choice.in));
+  RenderQrPictures codes(options.folders.ProgramFolder, *outcome->Read.Page);
+  options.images.TempFolder = codes.Folder();
+  options.pictures.Qr = &codes;
   if (const auto reason = RenderToFile(outcome->Read, options, choice.out)) {
     std::cerr << choice.out << ": " << *reason << '\n';
     return kRefused;
   }
+  for (const int row : codes.Failed())
+    std::cerr << choice.in << ": the QR code of object " << row << " could not be made and is not shown\n";
   return kGood;
 }
 

@@ -208,6 +208,7 @@ void KavEdit01::ConnectHost() {
   connect(&host_, &QtHost::ProgressBegun, progress_, &ProgressWindow::Begin);
   connect(&host_, &QtHost::ProgressStepped, progress_, &ProgressWindow::Step);
   connect(&host_, &QtHost::ProgressEnded, progress_, &ProgressWindow::End);
+  connect(&host_, &QtHost::WaitsEnded, this, &KavEdit01::CloseIfWanted, Qt::QueuedConnection);
   connect(&host_, &QtHost::CaptionChanged, this, [this](const QString& title, bool modified) {
     setWindowTitle(WindowCaption(title, modified, ToQString(designer_.Text(kTextModified)),
                                  ToQString(designer_.Text(kTextProgramTitle))));
@@ -262,7 +263,7 @@ void KavEdit01::closeEvent(QCloseEvent* event) {
 
 // What is open is answered first; only the question of a close itself is not asked twice.
 bool KavEdit01::DelayClose() {
-  if (QApplication::activeModalWidget() == nullptr) return closing_;
+  if (QApplication::activeModalWidget() == nullptr && !host_.Waiting()) return closing_;
   closeWanted_ = !closing_;
   return true;
 }
