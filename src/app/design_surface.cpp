@@ -124,6 +124,7 @@ void DesignSurface::GoToObject(int row) {
 void DesignSurface::SelectionChanged() {
   designer_.TheHost().ShowSelectionStatus(SelectionText(Work()));
   designer_.Sheets().Refresh();
+  designer_.Quick().UpdateQuickPanel();
   CommandsChanged();
 }
 

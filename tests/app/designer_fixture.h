@@ -39,6 +39,8 @@ class CountingView final : public DesignerView {
   int SelectedRow = 0, PanelFocused = 0;
   std::vector<std::int32_t> PanelStates;
   std::function<void()> OnCommitCell;  // a cell that is open and has been typed in
+  QuickPanel Quick;
+  std::string QuickTitle;
   // What the user does in the dialogs of the columns.
   std::function<void(ColumnsDialogRun&)> OnColumnsDialog;
   std::function<void(SetColumnRun&)> OnSetThisColumn;
@@ -73,6 +75,10 @@ class CountingView final : public DesignerView {
   }
   void OpenSetThisColumn(SetColumnRun& run) override {
     if (OnSetThisColumn) OnSetThisColumn(run);
+  }
+  void ShowQuickPanel(const QuickPanel& panel, const std::string& title) override {
+    Quick = panel;
+    QuickTitle = title;
   }
   void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override {
     if (OnSubsection) OnSubsection(dialog, accept);

@@ -316,6 +316,18 @@ void KavEdit01::Dispatch(Command command) {
     case Command::Documentation:
       OpenDocumentation();
       break;
+    case Command::TestRun:
+      designer_.RunTest();
+      break;
+    case Command::ShowTemplateCode:
+      designer_.ShowTemplateCode();
+      break;
+    case Command::ShowDataFile:
+      designer_.ShowDataFile();
+      break;
+    case Command::ShowQuickPanel:
+      designer_.Quick().ShowQuickPanel();
+      break;
     default:
       break;
   }
