@@ -183,7 +183,8 @@ TEST_F(QuickPropertiesTest, NothingIsStoredInWhatIsNotShown) {
 }
 
 TEST_F(QuickPropertiesTest, SwitchedOnItMovesToTheGridAndLeavesItsColumn) {
-  designer_->OpenDocument().Columns[1] = {"$Col_01", 530};
+  designer_->OpenDocument().Columns[1].Name = "$Col_01";
+  designer_->OpenDocument().Columns[1].Position = 530;
   Alpha().XValue = "$Col_01";
   Alpha().AlignToGrid = 0;
   Alpha().Y = 0;

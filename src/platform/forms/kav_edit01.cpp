@@ -32,6 +32,7 @@
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
+#include "platform/forms/quick_panel.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/tool_bars.h"
 #include "platform/forms/zoom_box.h"
@@ -147,6 +148,7 @@ void KavEdit01::BuildPage(FontCache& fonts) {
   frame_ = new PageFrame(canvas, fonts, designer_.Options(), designer_.Texts(), this);
   setCentralWidget(frame_);
   ConnectPageFrame();
+  quick_ = new QuickPanelForm(designer_, canvas);
   canvas.setAccessibleName(ToQString(designer_.Text(kTextPage)));
   canvas.verticalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollVertical)));
   canvas.horizontalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollHorizontal)));

@@ -18,6 +18,7 @@ class Combocol;
 class CommandMenus;
 class FindingsDock;
 class PanelPlace;
+class QuickPanelForm;
 class PageFrame;
 class ProgressWindow;
 class StatusPanels;
@@ -59,7 +60,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowColumnList(const ColumnList& list) override;
   void OpenColumnsDialog(ColumnsDialogRun& run) override;
   void OpenSetThisColumn(SetColumnRun& run) override;
-
+  void ShowQuickPanel(const QuickPanel& panel, const std::string& title) override;
 
  protected:
   bool event(QEvent* event) override;
@@ -102,6 +103,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   FindingsDock* findings_ = nullptr;
   ProgressWindow* progress_ = nullptr;
   PageFrame* frame_ = nullptr;
+  QuickPanelForm* quick_ = nullptr;
   bool ended_ = false;
   // The question of a close is open.
   bool closing_ = false;

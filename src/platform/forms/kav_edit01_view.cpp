@@ -11,6 +11,7 @@
 #include "platform/forms/kav_edit01.h"
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
+#include "platform/forms/quick_panel.h"
 #include "platform/forms/recover_form.h"
 #include "platform/forms/set_this_column.h"
 #include "platform/forms/status_panels.h"
@@ -102,6 +103,10 @@ void KavEdit01::OpenColumnsDialog(ColumnsDialogRun& run) {
 
 void KavEdit01::OpenSetThisColumn(SetColumnRun& run) {
   SetThisColumn(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::ShowQuickPanel(const QuickPanel& panel, const std::string& title) {
+  quick_->ShowPanel(panel, ToQString(title));
 }
 
 }  // namespace kev
