@@ -25,7 +25,8 @@ QuickPlace PlaceBeside(const std::optional<QuickArea>& object, std::optional<Qui
                        QuickSize room) {
   const int right = room.Width - panel.Width - kMargin;
   const int bottom = room.Height - panel.Height - kMargin;
-  const std::array corners = {QuickPlace{right, kMargin}, QuickPlace{right, bottom},
+  // A page fills from above.
+  const std::array corners = {QuickPlace{right, bottom}, QuickPlace{right, kMargin},
                               QuickPlace{kMargin, bottom}, QuickPlace{kMargin, kMargin}};
   const auto isFree = [&](QuickPlace place) { return !object || !Covers(place, panel, *object); };
   if (now && PlaceInside(*now, panel, room) == *now && isFree(*now)) return *now;

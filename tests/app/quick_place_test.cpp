@@ -23,25 +23,25 @@ TEST(QuickPanelPlace, IsMovedIntoTheArea) {
   EXPECT_EQ(PlaceInside({100, 50}, kPanel, {200, 100}), (QuickPlace{0, 0}));
 }
 
-TEST(QuickPanelPlace, IsAtFirstTheCornerAtTheRightAbove) {
-  EXPECT_EQ(PlaceBeside({}, {}, kPanel, kRoom), (QuickPlace{490, 10}));
-  EXPECT_EQ(PlaceBeside(QuickArea{10, 10, 400, 500}, {}, kPanel, kRoom), (QuickPlace{490, 10}));
+TEST(QuickPanelPlace, IsAtFirstTheCornerAtTheRightBelow) {
+  EXPECT_EQ(PlaceBeside({}, {}, kPanel, kRoom), (QuickPlace{490, 390}));
+  EXPECT_EQ(PlaceBeside(QuickArea{10, 10, 400, 500}, {}, kPanel, kRoom), (QuickPlace{490, 390}));
 }
 
 TEST(QuickPanelPlace, LeavesTheObjectFree) {
-  EXPECT_EQ(PlaceBeside(QuickArea{600, 50, 640, 60}, {}, kPanel, kRoom), (QuickPlace{490, 390}));
+  EXPECT_EQ(PlaceBeside(QuickArea{600, 500, 640, 510}, {}, kPanel, kRoom), (QuickPlace{490, 10}));
   EXPECT_EQ(PlaceBeside(QuickArea{600, 50, 640, 500}, {}, kPanel, kRoom), (QuickPlace{10, 390}));
-  EXPECT_EQ(PlaceBeside(QuickArea{20, 450, 800, 500}, QuickPlace{490, 390}, kPanel, kRoom),
-            (QuickPlace{490, 10}));
+  EXPECT_EQ(PlaceBeside(QuickArea{20, 50, 800, 60}, QuickPlace{490, 10}, kPanel, kRoom),
+            (QuickPlace{490, 390}));
   // There is nowhere to go.
-  EXPECT_EQ(PlaceBeside(QuickArea{0, 0, 800, 600}, {}, kPanel, kRoom), (QuickPlace{490, 10}));
+  EXPECT_EQ(PlaceBeside(QuickArea{0, 0, 800, 600}, {}, kPanel, kRoom), (QuickPlace{490, 390}));
 }
 
 TEST(QuickPanelPlace, StaysAsLongAsItIsInNobodysWay) {
-  EXPECT_EQ(PlaceBeside(QuickArea{600, 50, 640, 60}, QuickPlace{10, 390}, kPanel, kRoom),
-            (QuickPlace{10, 390}));
+  EXPECT_EQ(PlaceBeside(QuickArea{600, 50, 640, 60}, QuickPlace{10, 10}, kPanel, kRoom),
+            (QuickPlace{10, 10}));
   // The window has become smaller.
-  EXPECT_EQ(PlaceBeside({}, QuickPlace{490, 10}, kPanel, {600, 600}), (QuickPlace{290, 10}));
+  EXPECT_EQ(PlaceBeside({}, QuickPlace{490, 390}, kPanel, {600, 600}), (QuickPlace{290, 390}));
 }
 
 }  // namespace

@@ -68,6 +68,8 @@ TEST_F(QuickPropertiesTest, ThePanelFollowsTheSelection) {
   EXPECT_EQ(view_.Quick.Content, "Beta");
   Select(Row(ObjectKind::Box));
   EXPECT_EQ(view_.Quick.Page, QuickPage::Shape);
+  Surface().Pointer().LastX = 600;
+  Surface().Pointer().LastY = Alpha().AbsoluteY + 20;
   EXPECT_TRUE(Surface().Run(Command::SelectAll));
   EXPECT_EQ(view_.Quick.Page, QuickPage::Group);
   EXPECT_EQ(view_.QuickTitle, designer_->Text(kTextMultiSelected) + " 3");
@@ -134,7 +136,6 @@ TEST_F(QuickPropertiesTest, AKedFileGivesItsVariablesAndIsReadAnewWhenItChanges)
 TEST_F(QuickPropertiesTest, AnotherSampleFileInTheSheetOfTheDocumentIsTheOneThatIsRead) {
   Select(alpha_);
   const std::string other = Made("other.kex", "TEMPLATE=a.kev\r\n|ITEMS|7|screw|\r\n");
-  EXPECT_TRUE(Surface().KeyDown(kKeyEscape, 0, {}));
   const PointerInput empty{PointerSource::Page, 0, PointerButton::Left, 0, 9000, 6100};
   Surface().PointerPress(empty);
   Surface().PointerRelease(empty);
@@ -142,6 +143,7 @@ TEST_F(QuickPropertiesTest, AnotherSampleFileInTheSheetOfTheDocumentIsTheOneThat
   for (std::size_t i = 0; i < rows.size(); ++i)
     if (rows[i].Caption == "Sample Kex/Ked file") designer_->Sheets().Edited(static_cast<int>(i) + 1, other);
   ASSERT_EQ(designer_->SampleDataPath(), other);
+  EXPECT_EQ(view_.Quick.Page, QuickPage::Hidden);
   Select(alpha_);
   EXPECT_EQ(view_.Quick.SampleFile, other);
   EXPECT_EQ(Quick().ValuesOf(1).Items, Texts{"screw"});

@@ -66,11 +66,17 @@ def screen(window="root"):
 class Program:
     """One run of the designer in a home of its own."""
 
+    # The quick panel would lie over what a test wants to click on.
+    options = "SHOWQUICKPROPS=0\r\n"
+
     def __init__(self, binaries, home=None):
         self.binaries = pathlib.Path(binaries).resolve()
         self.home = pathlib.Path(home or tempfile.mkdtemp(prefix="kev-e2e-"))
         for folder in ("temp/Kev/Cache", "temp/Kev/Temp", "data/Kev/temp", "work"):
             (self.home / folder).mkdir(parents=True, exist_ok=True)
+        last_run = self.home / "data/Kev/LASTRV.DAT"
+        if self.options and not last_run.exists():
+            last_run.write_bytes(self.options.encode())
         self.process = None
         self.zoom = 1.0
         self.origin = None
