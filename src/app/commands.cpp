@@ -13,9 +13,13 @@ namespace kev {
 namespace {
 
 constexpr std::array kMenus = {
-    MenuRow{MenuId::File, "menfile", kTextMenuFile},          MenuRow{MenuId::Edit, "edit", kTextMenuEdit},
-    MenuRow{MenuId::Insert, "meninsert", kTextMenuInsert},    MenuRow{MenuId::View, "menview", kTextMenuView},
-    MenuRow{MenuId::Columns, "mencolumns", kTextMenuColumns}, MenuRow{MenuId::Help, "menhelp", kTextMenuHelp},
+    MenuRow{MenuId::File, "menfile", kTextMenuFile},
+    MenuRow{MenuId::Edit, "edit", kTextMenuEdit},
+    MenuRow{MenuId::Insert, "meninsert", kTextMenuInsert},
+    MenuRow{MenuId::View, "menview", kTextMenuView},
+    MenuRow{MenuId::Columns, "mencolumns", kTextMenuColumns},
+    MenuRow{MenuId::Report, "menreport", kTextMenuReport},
+    MenuRow{MenuId::Help, "menhelp", kTextMenuHelp},
 };
 
 constexpr bool kDialog = true;
@@ -88,6 +92,7 @@ constexpr std::array kCommands = {
     CommandRow{Command::PrintNoPrint, MenuId::None, "menprintnoprint", kTextMenuPrintOrNot, "",
                CommandKind::Plain, kDialog},
     CommandRow{Command::Properties, MenuId::View, "Properties", kTextMenuProperties, "F4"},
+    CommandRow{Command::ShowQuickPanel, MenuId::View, "showquick", kTextMenuQuickPanel, ""},
     CommandRow{Command::SeeAll, MenuId::View, "seeall", kTextFilterAll, "", CommandKind::Exclusive, kNoDialog,
                kGroup},
     CommandRow{Command::SeeModifiable, MenuId::View, "see_ebeu", kTextFilterEndUser, "",
@@ -98,6 +103,10 @@ constexpr std::array kCommands = {
                CommandKind::Check, kNoDialog, kGroup},
     CommandRow{Command::ShowFindings, MenuId::View, "viewfindings", kTextMenuFindings, "Ctrl+Shift+F",
                CommandKind::Check},
+    CommandRow{Command::TestRun, MenuId::Report, "testreport", kTextMenuTestRun, "F5"},
+    CommandRow{Command::ShowTemplateCode, MenuId::Report, "setempcode", kTextMenuShowCode, "",
+               CommandKind::Plain, kNoDialog, kGroup},
+    CommandRow{Command::ShowDataFile, MenuId::Report, "seedatafile", kTextMenuShowData, ""},
     CommandRow{Command::Documentation, MenuId::Help, "helpmen", kTextMenuDocumentation, "F1"},
 };
 

@@ -66,10 +66,14 @@ enum class Command : std::uint8_t {
   DrawGrid,
   ShowFindings,
   Documentation,
-  DocumentProperties
+  DocumentProperties,
+  TestRun,
+  ShowTemplateCode,
+  ShowDataFile,
+  ShowQuickPanel
 };
 
-enum class MenuId : std::uint8_t { File, Edit, Insert, View, Columns, Help, None };
+enum class MenuId : std::uint8_t { File, Edit, Insert, View, Columns, Report, Help, None };
 
 // None: the command stands in context menus alone.
 struct MenuRow {

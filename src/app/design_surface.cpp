@@ -146,6 +146,7 @@ void DesignSurface::SelectionChanged() {
   designer_.TheHost().ShowSelectionStatus(SelectionText(Work()));
   designer_.Sheets().Refresh();
   ShowFontTools();
+  designer_.Quick().UpdateQuickPanel();
   CommandsChanged();
 }
 

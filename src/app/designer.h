@@ -20,6 +20,7 @@
 #include "app/picture_source.h"
 #include "app/property_sheets.h"
 #include "app/qr_images.h"
+#include "app/quick_properties.h"
 #include "app/read_back.h"
 #include "app/theme.h"
 #include "base/finding.h"
@@ -32,6 +33,7 @@
 #include "template/reader.h"
 #include "template/sample_copy.h"
 #include "template/writer.h"
+#include "testrun/test_run.h"
 
 namespace kev {
 
@@ -114,6 +116,8 @@ class DesignerView {
   // The forms `Fastopen` and `docpropertiesfrm`; each returns when it has closed.
   virtual void OpenWelcome(WelcomeRun&) {}
   virtual void OpenDocumentProperties(DocumentPropertiesRun&) {}
+  // The small panel over the page shows this; it keeps what is typed while it stays the same.
+  virtual void ShowQuickPanel(const QuickPanel&, const std::string& /*title*/) {}
 };
 
 // What a process gives to its designer.
@@ -181,6 +185,10 @@ class Designer {
   // Writes the document as it stands and renews the copy of its sample data, for a save, the test run and the
   // external editor. Path, title and mark stay; what went wrong is in the report and not shown.
   WriteReport WriteDocument(const std::string& path);
+  // The menu's test run, and the two files in the user's editor.
+  void RunTest();
+  void ShowTemplateCode();
+  void ShowDataFile();
   // Asks about unsaved changes, and saves on Yes. False when what follows must not happen.
   bool AskToSave();
   // Whether the window may close.
@@ -225,6 +233,7 @@ class Designer {
   // --- What it owns ----------------------------------------------------------------------------------------
   DesignSurface& Surface() { return surface_; }
   PropertySheets& Sheets() { return sheets_; }
+  QuickProperties& Quick() { return quick_; }
   Document& OpenDocument() { return document_; }
   const Document& OpenDocument() const { return document_; }
   AttributeState& Attributes() { return attributes_; }
@@ -321,6 +330,10 @@ class Designer {
   // Behind each open and save: the list, the thumbnail and the menu. A document without a file is none of it.
   void AddRecentFile();
   std::optional<FileFailure> StoreThumbnail();
+  void TellWriteFailure(const FileFailure& failure);
+  void TellUnnamedSymbologies(const WriteReport& report);
+  std::string WriteForTest(const std::string& path);
+  TestRunWork TestWork();
   std::optional<std::string> ChooseTarget();
   std::optional<std::string> ChooseTarget(FileChoice choice);
   void CheckSaved(const std::string& path, const std::string& oldFolder);
@@ -374,6 +387,7 @@ class Designer {
   NullSurface nowhere_;
   DesignSurface surface_{*this};
   PropertySheets sheets_{*this};
+  QuickProperties quick_{*this};
 };
 
 }  // namespace kev

@@ -278,15 +278,23 @@ WriteReport Designer::WriteEncoded(const std::string& path) {
   return report;
 }
 
+void Designer::TellWriteFailure(const FileFailure& failure) {
+  ShowText(kTextWriteFailed, BoxIcon::Critical,
+           failure.path + "\r\n" + ReasonInLanguage(texts_, failure.reason));
+}
+
+void Designer::TellUnnamedSymbologies(const WriteReport& report) {
+  for (const std::string& symbology : report.UnnamedSymbologies)
+    host_.ShowMessage({Text(kTextProgramTitle), symbology, {}, BoxIcon::Warning});
+}
+
 bool Designer::SaveTo(const std::string& path) {
   host_.ShowStatus(Text(kTextStatusSaving));
   WriteReport report;
   const bool done = Guarded([&] { report = IsEncoded() ? WriteEncoded(path) : WriteDocument(path); });
   if (!done || report.Failure) {
     host_.ShowStatus("");
-    if (report.Failure)
-      ShowText(kTextWriteFailed, BoxIcon::Critical,
-               report.Failure->path + "\r\n" + ReasonInLanguage(texts_, report.Failure->reason));
+    if (report.Failure) TellWriteFailure(*report.Failure);
     return false;
   }
   const std::string oldFolder = TemplateFolder();
@@ -297,8 +305,7 @@ bool Designer::SaveTo(const std::string& path) {
   pictures_.SetTemplateFolder(FolderOf(path));
   ShowCaption();
   host_.ShowStatus("");
-  for (const std::string& symbology : report.UnnamedSymbologies)
-    host_.ShowMessage({Text(kTextProgramTitle), symbology, {}, BoxIcon::Warning});
+  TellUnnamedSymbologies(report);
   AddRecentFile();
   CheckSaved(path, oldFolder);
   return true;

@@ -38,7 +38,7 @@ inline constexpr auto kToolButtons = std::to_array<ToolButtonRow>({
     {"ImgButton1", "newICss", kTextTipNewTemplate, "", ToolBarId::First, Command::New, ""},
     {"ImgButton2", "openICss", 0, "", ToolBarId::First, Command::Open, ""},
     {"ImgButton3", "saveicss", kTextTipSave, "", ToolBarId::First, Command::Save, ""},
-    {"ImgButton4", "runicss", kTextTipTestRun, "", ToolBarId::First, std::nullopt, "", true},
+    {"ImgButton4", "runicss", kTextTipTestRun, "", ToolBarId::First, Command::TestRun, "", true},
     {"ImgButton5", "propics", kTextTipProperties, "", ToolBarId::First, Command::Properties, ""},
     {"ImgButton21", "undoicss", kTextTipUndo, "", ToolBarId::First, Command::Undo, "", true},
     {"ImgButton22", "redoicss", kTextTipRedo, "", ToolBarId::First, Command::Redo, ""},

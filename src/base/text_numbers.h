@@ -421,6 +421,11 @@ inline constexpr int kTextQuickFields = 1009;
 inline constexpr int kTextQuickFunctions = 1010;
 inline constexpr int kTextQuickSampleValues = 1011;
 inline constexpr int kTextQuickRecordsShown = 1012;
+inline constexpr int kTextQuickApply = 340;
+inline constexpr int kTextQuickAddField = 341;
+inline constexpr int kTextQuickAddFunction = 342;
+inline constexpr int kTextQuickContent = 343;
+inline constexpr int kTextQuickPanel = 344;
 
 // Checks of the new template assistant
 inline constexpr int kTextAssistantGood = 1025;

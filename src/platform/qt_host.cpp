@@ -9,8 +9,10 @@
 #include <algorithm>
 #include <array>
 
+#include "app/folders.h"
 #include "base/files.h"
 #include "platform/text_bridge.h"
+#include "testrun/address_handler.h"
 
 namespace kev {
 
@@ -172,9 +174,10 @@ std::optional<ProcessId> QtHost::StartProgram(const ProgramStart& start, std::fu
   return ended ? processes_.Start(start, std::move(ended)) : processes_.StartDetached(start);
 }
 
-// Not by QDesktopServices: it makes a url of the text, and what is registered gets another one.
+// Not by QDesktopServices or xdg-open: they make a url of the text, and what is registered gets another one.
 bool QtHost::OpenAddress(std::string_view address) {
-  return processes_.StartDetached({"xdg-open", {std::string(address)}}).has_value();
+  const std::optional<ProgramStart> handler = HandlerOf(address, DesktopSettingsOf(ProcessEnvironment()));
+  return handler && processes_.StartDetached(*handler);
 }
 
 bool QtHost::OpenWithDesktop(const std::string& path) {

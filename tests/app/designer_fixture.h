@@ -43,6 +43,8 @@ class CountingView final : public DesignerView {
   int SelectedRow = 0, PanelFocused = 0;
   std::vector<std::int32_t> PanelStates;
   std::function<void()> OnCommitCell;  // a cell that is open and has been typed in
+  QuickPanel Quick;
+  std::string QuickTitle;
   // What the user does in the dialogs of the columns.
   std::function<void(ColumnsDialogRun&)> OnColumnsDialog;
   std::function<void(SetColumnRun&)> OnSetThisColumn;
@@ -127,6 +129,10 @@ class CountingView final : public DesignerView {
   std::optional<Colour> ChooseColour(const Colour& first) override {
     OfferedColour = first;
     return ChosenColour;
+  }
+  void ShowQuickPanel(const QuickPanel& panel, const std::string& title) override {
+    Quick = panel;
+    QuickTitle = title;
   }
   void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override {
     if (OnSubsection) OnSubsection(dialog, accept);

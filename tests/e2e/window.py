@@ -66,17 +66,17 @@ def screen(window="root"):
 class Program:
     """One run of the designer in a home of its own."""
 
-    # Whether an empty document begins with the welcome screen.
-    welcome = False
+    # The welcome screen and the quick panel would lie over what a test wants to click on.
+    options = "SHOWWELCOME=0\r\nSHOWQUICKPROPS=0\r\n"
 
     def __init__(self, binaries, home=None):
         self.binaries = pathlib.Path(binaries).resolve()
         self.home = pathlib.Path(home or tempfile.mkdtemp(prefix="kev-e2e-"))
         for folder in ("temp/Kev/Cache", "temp/Kev/Temp", "data/Kev/temp", "work"):
             (self.home / folder).mkdir(parents=True, exist_ok=True)
-        options = self.home / "data/Kev/LASTRV.DAT"
-        if not options.exists():
-            options.write_text(f"SHOWWELCOME={int(self.welcome)}\r\n")
+        last_run = self.home / "data/Kev/LASTRV.DAT"
+        if self.options and not last_run.exists():
+            last_run.write_bytes(self.options.encode())
         self.process = None
         self.zoom = 1.0
         self.origin = None

@@ -33,6 +33,7 @@
 #include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
 #include "platform/forms/recent_menu.h"
+#include "platform/forms/quick_panel.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/text_tools.h"
 #include "platform/forms/tool_bars.h"
@@ -160,6 +161,7 @@ void KavEdit01::BuildPage(FontCache& fonts) {
   frame_ = new PageFrame(canvas, fonts, designer_.Options(), designer_.Texts(), this);
   setCentralWidget(frame_);
   ConnectPageFrame();
+  quick_ = new QuickPanelForm(designer_, canvas);
   canvas.setAccessibleName(ToQString(designer_.Text(kTextPage)));
   canvas.verticalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollVertical)));
   canvas.horizontalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollHorizontal)));
@@ -332,6 +334,18 @@ void KavEdit01::Dispatch(Command command) {
       break;
     case Command::Documentation:
       OpenDocumentation();
+      break;
+    case Command::TestRun:
+      designer_.RunTest();
+      break;
+    case Command::ShowTemplateCode:
+      designer_.ShowTemplateCode();
+      break;
+    case Command::ShowDataFile:
+      designer_.ShowDataFile();
+      break;
+    case Command::ShowQuickPanel:
+      designer_.Quick().ShowQuickPanel();
       break;
     default:
       break;

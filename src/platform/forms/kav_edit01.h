@@ -18,6 +18,7 @@ class Combocol;
 class CommandMenus;
 class FindingsDock;
 class PanelPlace;
+class QuickPanelForm;
 class PageFrame;
 class ProgressWindow;
 class RecentMenu;
@@ -71,6 +72,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   std::string PaintThumbnail(const ThumbnailLook& look) override { return page_.Thumbnail(look); }
   void OpenWelcome(WelcomeRun& run) override;
   void OpenDocumentProperties(DocumentPropertiesRun& run) override;
+  void ShowQuickPanel(const QuickPanel& panel, const std::string& title) override;
 
  protected:
   bool event(QEvent* event) override;
@@ -116,6 +118,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   FindingsDock* findings_ = nullptr;
   ProgressWindow* progress_ = nullptr;
   PageFrame* frame_ = nullptr;
+  QuickPanelForm* quick_ = nullptr;
   bool ended_ = false;
   // The question of a close is open.
   bool closing_ = false;

@@ -20,6 +20,7 @@
 #include "platform/forms/panel_place.h"
 #include "platform/forms/placeselection.h"
 #include "platform/forms/recent_menu.h"
+#include "platform/forms/quick_panel.h"
 #include "platform/forms/recover_form.h"
 #include "platform/forms/set_this_column.h"
 #include "platform/forms/status_panels.h"
@@ -155,6 +156,10 @@ void KavEdit01::OpenWelcome(WelcomeRun& run) {
 
 void KavEdit01::OpenDocumentProperties(DocumentPropertiesRun& run) {
   docpropertiesfrm(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::ShowQuickPanel(const QuickPanel& panel, const std::string& title) {
+  quick_->ShowPanel(panel, ToQString(title));
 }
 
 }  // namespace kev
