@@ -52,7 +52,8 @@ enum class Command : std::uint8_t {
   SeePrinted,
   DrawGrid,
   ShowFindings,
-  Documentation
+  Documentation,
+  NewFromData
 };
 
 enum class MenuId : std::uint8_t { File, Edit, Insert, View, Columns, Help, None };

@@ -49,6 +49,7 @@ inline constexpr double kLargestZoom = 800;
 
 class ColumnsDialogRun;
 class SetColumnRun;
+class NewTemplateRun;
 
 // What the window does when the document has changed under it. The window implements it; every call comes
 // from the one thread, and none before AttachView.
@@ -91,6 +92,8 @@ class DesignerView {
   // The dialogs `inscol01` and `SetThisColumn`; each returns when its dialog has closed.
   virtual void OpenColumnsDialog(ColumnsDialogRun&) {}
   virtual void OpenSetThisColumn(SetColumnRun&) {}
+  // The assistant `NewTemplate`; returns when it has closed.
+  virtual void OpenNewTemplate(NewTemplateRun&) {}
 };
 
 // What a process gives to its designer.
@@ -142,6 +145,8 @@ class Designer {
   bool AskAndOpen(const std::string& path);
   bool ChooseAndOpen();
   bool AskAndNew();
+  // The assistant that makes a template of a data file; native path, may be empty.
+  void NewFromData(const std::string& path = {});
   // False when the user gave up or the file could not be written.
   bool Save();
   bool SaveAs();
