@@ -266,7 +266,7 @@ QWidget* PropGridDelegate::MakeList(QWidget* parent, const PropertyRow& row, con
   auto* list = new ListEdit(parent);
   list->setEditable(open);
   for (const std::string& item : row.Items)
-    list->addItem(ToQString(item, ModelOf(index).Page()));
+    list->addItem(ToQString(item, ModelOf(index).PageOf(ModelOf(index).RowAt(index))));
   if (open) {
     list->setInsertPolicy(QComboBox::NoInsert);
     list->setCompleter(nullptr);
