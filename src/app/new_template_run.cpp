@@ -76,8 +76,7 @@ void NewTemplateRun::Browse() {
     FileChoice choice;
     choice.Title = designer_.Text(kTextAssistantDataFile);
     choice.Folder = state_.Text1.empty() ? designer_.TemplateFolder() : FolderOf(DataFile());
-    const std::string_view patterns =
-        state_.Start == TemplateStart::Records ? kRecordFiles : kVariableFiles;
+    const std::string_view patterns = state_.Start == TemplateStart::Records ? kRecordFiles : kVariableFiles;
     choice.Filters = {{designer_.Text(kTextAssistantDataFile), std::string(patterns)}};
     const std::optional<std::string> path = designer_.TheHost().ChooseFileToOpen(choice);
     if (!path || path->empty()) return;

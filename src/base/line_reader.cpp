@@ -60,7 +60,8 @@ bool LineReader::Next() {
   }
 }
 
-// Reads one more piece behind what is held. False at the end of the file, and when nothing more is to be read.
+// Reads one more piece behind what is held. False at the end of the file, and when nothing more is to be
+// read.
 bool LineReader::Fill() {
   if (stopped_ || failure_) return false;
   if (begin_ > 0) {

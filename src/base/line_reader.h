@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The lines of a file one by one, in bounded memory however large the file is. A line ends at LF, one CR before
-// it is dropped, and a last line needs no end, as for SplitLines.
+// The lines of a file one by one, in bounded memory however large the file is. A line ends at LF, one CR
+// before it is dropped, and a last line needs no end, as for SplitLines.
 #pragma once
 
 #include <cstddef>
@@ -22,8 +22,8 @@ class LineReader {
   static constexpr std::size_t kLongestLine = 8UL * 1024 * 1024;
   static constexpr std::size_t kKeptOfCutLine = 256;
 
-  // Called after each piece of the file with the bytes read so far and those of the whole file; false ends the
-  // reading.
+  // Called after each piece of the file with the bytes read so far and those of the whole file; false ends
+  // the reading.
   using Watch = std::function<bool(std::uint64_t done, std::uint64_t size)>;
 
   // Regular files only: a pipe or a device would keep the program waiting. `path` is native.

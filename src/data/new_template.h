@@ -45,8 +45,8 @@ struct NumberedText {
 // The lines of StatusLabel: the result, and what the file holds. None before a check.
 std::vector<NumberedText> StatusLines(const NewTemplateDialog& dialog);
 
-// A box on what is wrong with a file: texts of the language file, parted by blanks, with the number of the line
-// behind them. What is 0 or empty is left out.
+// A box on what is wrong with a file: texts of the language file, parted by blanks, with the number of the
+// line behind them. What is 0 or empty is left out.
 struct SampleMessage {
   int Text = 0;
   int Behind = 0;  // the word for a line

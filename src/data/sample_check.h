@@ -28,9 +28,9 @@ enum class SampleFault : std::uint8_t {
 
 struct SampleCheck {
   SampleFault Fault = SampleFault::None;
-  std::size_t Line = 0;       // from 1, for the faults of a line
-  std::string Reason = {};    // the system's, for a file that can't be read
-  bool UnicodeMark = false;   // the head is not found because an editor has put a mark in front of it
+  std::size_t Line = 0;      // from 1, for the faults of a line
+  std::string Reason = {};   // the system's, for a file that can't be read
+  bool UnicodeMark = false;  // the head is not found because an editor has put a mark in front of it
 };
 
 // A record has its section's name in front of its values and a delimiter at both ends.
@@ -39,8 +39,8 @@ inline constexpr std::size_t kMostSampleValues = 197;
 // "1", "2", "3:" and the line, or "4"; empty for a good file and one that was not read to its end.
 std::string SampleCode(const SampleCheck& check);
 
-// Judges the lines of a file one by one. Blank lines are passed over, and counted; a line that the reader had to
-// cut is wrong, since nothing can hold it.
+// Judges the lines of a file one by one. Blank lines are passed over, and counted; a line that the reader had
+// to cut is wrong, since nothing can hold it.
 class SampleLineCheck {
  public:
   explicit SampleLineCheck(SampleKind kind) : kind_(kind) {}

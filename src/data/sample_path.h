@@ -6,8 +6,8 @@
 
 namespace kev {
 
-// Parted behind the last "\" or, where there is none, behind the last "/". FilePath keeps that separator and is
-// empty where there is none.
+// Parted behind the last "\" or, where there is none, behind the last "/". FilePath keeps that separator and
+// is empty where there is none.
 std::string_view FilePath(std::string_view path);
 std::string_view FileBaseName(std::string_view path);
 

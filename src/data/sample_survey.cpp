@@ -20,6 +20,12 @@ void Count(std::string_view line, SampleKind kind, SampleSurvey& survey, RecordT
   }
 }
 
+SampleSurvey Refused(SampleCheck check) {
+  SampleSurvey survey;
+  survey.Check = std::move(check);
+  return survey;
+}
+
 SampleCheck EndOf(const LineReader& lines, SampleLineCheck& check) {
   if (lines.Failure()) return {SampleFault::NotReadable, 0, lines.Failure()->reason};
   if (lines.Stopped()) return {SampleFault::Stopped, lines.Number()};
@@ -31,9 +37,9 @@ SampleCheck EndOf(const LineReader& lines, SampleLineCheck& check) {
 
 SampleSurvey SurveySampleFile(const std::string& path, const CodePage& page, LineReader::Watch watch) {
   const SampleKind kind = SampleKindOf(path);
-  if (kind == SampleKind::Other) return {.Check = {SampleFault::WrongName}};
+  if (kind == SampleKind::Other) return Refused({SampleFault::WrongName});
   Result<LineReader> lines = LineReader::Open(path, std::move(watch));
-  if (!lines) return {.Check = {SampleFault::NotReadable, 0, lines.Error().reason}};
+  if (!lines) return Refused({SampleFault::NotReadable, 0, lines.Error().reason});
   SampleSurvey survey;
   SampleLineCheck check(kind);
   RecordTypeTable types(page);

@@ -23,8 +23,8 @@ struct SampleSurvey {
   std::size_t Lines = 0;
 };
 
-// Unlike CheckSampleFile, a file that is not there can't be read. `path` is native; reads in bounded memory and
-// leaves no file open. `watch` may end it early.
+// Unlike CheckSampleFile, a file that is not there can't be read. `path` is native; reads in bounded memory
+// and leaves no file open. `watch` may end it early.
 SampleSurvey SurveySampleFile(const std::string& path, const CodePage& page, LineReader::Watch watch = {});
 
 struct SampleVariables {

@@ -19,6 +19,10 @@ int Dump(const std::string& file, bool geometry);
 int Rewrite(const std::string& in, const std::string& out, bool comments);
 int Eval(const std::string& file, const std::string& expression);
 
+int Sample(const std::string& file, bool json);
+// The data file is a .kex or .ked as the caller named it; its path stands absolute in the template.
+int New(const std::string& dataFile, const std::string& out);
+
 struct RenderChoice {
   std::string in;
   std::string out;

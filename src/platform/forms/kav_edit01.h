@@ -59,7 +59,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowColumnList(const ColumnList& list) override;
   void OpenColumnsDialog(ColumnsDialogRun& run) override;
   void OpenSetThisColumn(SetColumnRun& run) override;
-
+  void OpenNewTemplate(NewTemplateRun& run) override;
 
  protected:
   bool event(QEvent* event) override;

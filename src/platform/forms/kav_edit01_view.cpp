@@ -9,6 +9,7 @@
 #include "platform/forms/findings_dock.h"
 #include "platform/forms/inscol01.h"
 #include "platform/forms/kav_edit01.h"
+#include "platform/forms/new_template.h"
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/recover_form.h"
@@ -102,6 +103,10 @@ void KavEdit01::OpenColumnsDialog(ColumnsDialogRun& run) {
 
 void KavEdit01::OpenSetThisColumn(SetColumnRun& run) {
   SetThisColumn(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::OpenNewTemplate(NewTemplateRun& run) {
+  NewTemplate(run, designer_.Texts(), this).exec();
 }
 
 }  // namespace kev
