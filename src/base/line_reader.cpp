@@ -46,6 +46,7 @@ const char* LineReader::FindEnd(std::size_t from) const {
 }
 
 bool LineReader::Next() {
+  if (stopped_ || failure_) return false;
   cut_ = false;
   std::size_t searched = begin_;
   for (;;) {
@@ -63,7 +64,6 @@ bool LineReader::Next() {
 // Reads one more piece behind what is held. False at the end of the file, and when nothing more is to be
 // read.
 bool LineReader::Fill() {
-  if (stopped_ || failure_) return false;
   if (begin_ > 0) {
     std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
     end_ -= begin_;

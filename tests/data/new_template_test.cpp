@@ -33,9 +33,15 @@ std::vector<const ObjectRecord*> RowsOf(const Document& document, ObjectKind kin
 
 int EndOf(const Document& document, std::string_view name) {
   for (const ObjectRecord* bar : RowsOf(document, ObjectKind::Subsection))
-    if (bar->SectionName == name) return bar->EndsAt;
+    if (bar->SectionName.starts_with(name)) return bar->EndsAt;
   ADD_FAILURE() << name;
   return -1;
+}
+
+std::vector<std::string> FieldsIn(const Document& document, std::string_view name) {
+  for (const ObjectRecord* bar : RowsOf(document, ObjectKind::Subsection))
+    if (bar->SectionName == name) return FieldsOfHead(bar->SectionTitle);
+  return {};
 }
 
 // --- What is written ---
@@ -75,11 +81,8 @@ TEST(RecordsTemplate, ReadsBackWithItsFields) {
   EXPECT_EQ(EndOf(document, "ORDERS"), 200);
   EXPECT_EQ(EndOf(document, "ITEMS"), 200);
   EXPECT_TRUE(RowsOf(document, ObjectKind::Label).empty());
-  for (const ObjectRecord* bar : RowsOf(document, ObjectKind::Subsection)) {
-    if (bar->SectionName == "ORDERS")
-      EXPECT_THAT(FieldsOfHead(bar->SectionTitle), ElementsAre("@Campo01", "@Campo02"));
-    if (bar->SectionName == "ITEMS") EXPECT_THAT(FieldsOfHead(bar->SectionTitle), ElementsAre("@Campo01"));
-  }
+  EXPECT_THAT(FieldsIn(document, "ORDERS"), ElementsAre("@Campo01", "@Campo02"));
+  EXPECT_THAT(FieldsIn(document, "ITEMS"), ElementsAre("@Campo01"));
 }
 
 TEST(RecordsTemplate, LargestOneReadsBack) {
