@@ -28,6 +28,8 @@ constexpr bool kGroup = true;
 
 constexpr std::array kCommands = {
     CommandRow{Command::New, MenuId::File, "newmen", kTextMenuNew, "Ctrl+N"},
+    CommandRow{Command::NewFromData, MenuId::File, "newfromdata", kTextMenuNewFromData, "Ctrl+Shift+N",
+               CommandKind::Plain, kDialog},
     CommandRow{Command::Open, MenuId::File, "openmen", kTextMenuOpen, "Ctrl+O", CommandKind::Plain, kDialog},
     CommandRow{Command::Save, MenuId::File, "savemen", kTextMenuSave, "Ctrl+S", CommandKind::Plain, kNoDialog,
                kGroup},

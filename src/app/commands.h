@@ -70,7 +70,8 @@ enum class Command : std::uint8_t {
   TestRun,
   ShowTemplateCode,
   ShowDataFile,
-  ShowQuickPanel
+  ShowQuickPanel,
+  NewFromData
 };
 
 enum class MenuId : std::uint8_t { File, Edit, Insert, View, Columns, Report, Help, None };

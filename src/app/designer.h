@@ -58,6 +58,7 @@ class GroupFlagRun;
 class WelcomeRun;
 class DocumentPropertiesRun;
 struct ThumbnailLook;
+class NewTemplateRun;
 
 // What the window does when the document has changed under it. The window implements it; every call comes
 // from the one thread, and none before AttachView.
@@ -118,6 +119,8 @@ class DesignerView {
   virtual void OpenDocumentProperties(DocumentPropertiesRun&) {}
   // The small panel over the page shows this; it keeps what is typed while it stays the same.
   virtual void ShowQuickPanel(const QuickPanel&, const std::string& /*title*/) {}
+  // The assistant `NewTemplate`; returns when it has closed.
+  virtual void OpenNewTemplate(NewTemplateRun&) {}
 };
 
 // What a process gives to its designer.
@@ -179,6 +182,8 @@ class Designer {
   void ShowWelcome();
   // Facts about the document.
   void ShowDocumentProperties();
+  // The assistant that makes a template of a data file; native path, may be empty.
+  void NewFromData(const std::string& path = {});
   // False when the user gave up or the file could not be written.
   bool Save();
   bool SaveAs();

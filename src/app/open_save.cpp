@@ -6,6 +6,7 @@
 #include "app/designer.h"
 #include "app/host_progress.h"
 #include "app/message_texts.h"
+#include "app/new_template_run.h"
 #include "app/read_back.h"
 #include "base/files.h"
 #include "base/reasons.h"
@@ -197,6 +198,11 @@ bool Designer::AskAndNew() {
   if (!AskToSave()) return false;
   NewTemplate();
   return true;
+}
+
+void Designer::NewFromData(const std::string& path) {
+  NewTemplateRun run(*this, path);
+  if (view_ != nullptr) view_->OpenNewTemplate(run);
 }
 
 bool Designer::AskToSave() {

@@ -58,6 +58,8 @@ class Host {
   virtual void BeginProgress(std::string_view text, int maximum) = 0;
   virtual void StepProgress(int value, std::string_view text) = 0;
   virtual void EndProgress() = 0;
+  // Behind BeginProgress: the user can stop this work. While it runs, nothing else can be clicked or typed.
+  virtual void OfferStop() {}
   // Whether the user has asked, since BeginProgress, that the work ends early.
   virtual bool ProgressStopped() = 0;
 

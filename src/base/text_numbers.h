@@ -431,6 +431,9 @@ inline constexpr int kTextQuickPanel = 344;
 inline constexpr int kTextAssistantGood = 1025;
 inline constexpr int kTextAssistantBad = 1026;
 inline constexpr int kTextLineWord = 1027;
+inline constexpr int kTextUnicodeMark = 330;
+inline constexpr int kTextCheckStopped = 331;
+inline constexpr int kTextVariableCount = 332;
 
 // Later rows, dialogs and boxes
 inline constexpr int kTextDescribeWidthAtRuntime = 1037;

@@ -2,21 +2,15 @@
 #include "data/sample_records.h"
 
 #include <algorithm>
-#include <unordered_map>
 
-#include "base/files.h"
 #include "base/text.h"
+#include "data/sample_check.h"
+#include "template/sample_copy.h"
 
 namespace kev {
 namespace {
 
-constexpr std::string_view kTemplateKey = "TEMPLATE=";
-constexpr std::string_view kRecordFile = ".KEX";
 constexpr char kPageMark = '>';
-
-bool NamesTemplate(std::string_view line) {
-  return CodePage::Default().EqualsIgnoringCase(line.substr(0, kTemplateKey.size()), kTemplateKey);
-}
 
 std::vector<std::string_view> Split(std::string_view text, char separator) {
   std::vector<std::string_view> parts;
@@ -33,6 +27,21 @@ bool IsRecord(std::string_view line) {
   const auto delimiters = std::count(line.begin(), line.end(), line.front());
   return static_cast<std::size_t>(delimiters) < kMostRecordParts;
 }
+
+struct TypeScan {
+  RecordTypeTable types;
+  bool headSeen = false;
+
+  // False where the first line with a text is not the head.
+  bool Take(std::string_view line) {
+    line = Trim(line);
+    if (line.empty()) return true;
+    const bool isHead = NamesTemplate(line);
+    if (!headSeen) return headSeen = isHead;
+    if (!isHead && IsRecord(line)) types.Add(line);
+    return true;
+  }
+};
 
 }  // namespace
 
@@ -66,28 +75,50 @@ std::optional<SampleRecord> SampleRecordReader::Next() {
   return std::nullopt;
 }
 
-std::vector<RecordType> RecordTypesOf(std::string_view bytes, const CodePage& page) {
-  std::vector<RecordType> types;
-  std::unordered_map<std::string, std::size_t> byName;
-  SampleRecordReader reader(bytes);
-  while (const std::optional<SampleRecord> record = reader.Next()) {
-    if (record->Name.empty()) continue;
-    std::string key = page.Upper(record->Name);
-    if (const auto known = byName.find(key); known != byName.end()) {
-      ++types[known->second].Records;
-    } else if (types.size() < kMostRecordTypes) {
-      byName.emplace(std::move(key), types.size());
-      types.push_back({std::string(record->Name), 1, record->Values.size()});
-    }
+void RecordTypeTable::Add(std::string_view line) {
+  const char delimiter = line.front();
+  const std::string_view rest = line.substr(1);
+  const std::string_view name = Trim(rest.substr(0, rest.find(delimiter)));
+  if (name.empty()) return;
+  const std::size_t slot = (static_cast<unsigned char>(name.front()) + 7U * name.size() +
+                            static_cast<unsigned char>(name.back())) %
+                           recent_.size();
+  if (recent_[slot] != 0 && types_[recent_[slot] - 1U].Name == name) {
+    ++types_[recent_[slot] - 1U].Records;
+    return;
   }
-  return types;
+  RecordType* type = Find(name);
+  if (type == nullptr) return;
+  recent_[slot] = static_cast<std::uint8_t>(type - types_.data() + 1);
+  // Delimiters stand around the name and behind each value.
+  if (type->Records++ == 0)
+    type->Values = static_cast<std::size_t>(std::count(line.begin(), line.end(), delimiter)) - 2;
+}
+
+// A new type has no records yet. Nothing where there is no room for one more.
+RecordType* RecordTypeTable::Find(std::string_view name) {
+  std::string key = page_.Upper(name);
+  if (const auto known = byName_.find(key); known != byName_.end()) return &types_[known->second];
+  if (types_.size() == kMostRecordTypes) return nullptr;
+  byName_.emplace(std::move(key), types_.size());
+  return &types_.emplace_back(RecordType{std::string(name), 0, 0});
+}
+
+std::vector<RecordType> RecordTypesOf(std::string_view bytes, const CodePage& page) {
+  TypeScan scan{RecordTypeTable(page)};
+  while (!bytes.empty() && scan.Take(TakeLine(bytes)))
+    continue;
+  return scan.types.Take();
 }
 
 std::vector<RecordType> ReadRecordTypes(const std::string& path, const CodePage& page) {
-  const std::size_t ending = path.size() - std::min(path.size(), kRecordFile.size());
-  if (!CodePage::Default().EqualsIgnoringCase(std::string_view(path).substr(ending), kRecordFile)) return {};
-  const Result<std::string> bytes = ReadWholeFile(path);
-  return bytes ? RecordTypesOf(*bytes, page) : std::vector<RecordType>();
+  if (SampleKindOf(path) != SampleKind::Kex) return {};
+  Result<LineReader> lines = LineReader::Open(path);
+  if (!lines) return {};
+  TypeScan scan{RecordTypeTable(page)};
+  while (lines->Next() && (lines->Cut() || scan.Take(lines->Line())))
+    continue;
+  return scan.types.Take();
 }
 
 std::vector<std::string> FieldNames(std::size_t values, std::string_view word) {

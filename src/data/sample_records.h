@@ -3,13 +3,17 @@
 // record when it begins and ends with the same character, which parts its values: "|ITEMS|12|bolt|".
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "base/code_page.h"
+#include "base/line_reader.h"
 
 namespace kev {
 
@@ -46,11 +50,31 @@ struct RecordType {
   bool operator==(const RecordType&) const = default;
 };
 
-// In the order in which they come first. Names are the same in any case; records without a name are of no
-// type, and types behind the 150th are left out.
+// The record types of the lines that are added, in the order in which they come first. Names are the same in
+// any case; records without a name are of no type, and types behind the 150th are left out.
+class RecordTypeTable {
+ public:
+  // The page outlives the table.
+  explicit RecordTypeTable(const CodePage& page) : page_(page) {}
+
+  // A trimmed line that begins and ends with the same character.
+  void Add(std::string_view line);
+  const std::vector<RecordType>& Types() const { return types_; }
+  std::vector<RecordType> Take() { return std::move(types_); }
+
+ private:
+  RecordType* Find(std::string_view name);
+
+  const CodePage& page_;
+  std::vector<RecordType> types_;
+  std::unordered_map<std::string, std::size_t> byName_;
+  // Records of few types follow each other: where the last one with such a name was found, counted from 1.
+  std::array<std::uint8_t, 32> recent_{};
+};
+
 std::vector<RecordType> RecordTypesOf(std::string_view bytes, const CodePage& page);
 // None for a path that is empty, does not end in ".kex" or can't be read: who needs the types then offers
-// none.
+// none. Lines that are no records are passed over.
 std::vector<RecordType> ReadRecordTypes(const std::string& path, const CodePage& page);
 
 // "@Field01", "@Field02" and so on, one for each value. `word` is the user's word for a field.

@@ -42,6 +42,7 @@ class QtHost final : public QObject, public Host {
   std::optional<std::string> ChooseFileToOpen(const FileChoice& choice) override;
   std::optional<std::string> ChooseFileToSave(const FileChoice& choice) override;
   void ShowCaption(std::string_view documentTitle, bool modified) override;
+  void OfferStop() override { Q_EMIT StopOffered(); }
   bool ProgressStopped() override { return progressStopped_; }
   void FetchPicture(std::string_view address, std::string_view file, std::function<void(bool)> done) override;
   std::optional<ProcessId> StartProgram(const ProgramStart& start, std::function<void()> ended) override;
@@ -63,6 +64,7 @@ class QtHost final : public QObject, public Host {
   void ProgressStepped(int value, const QString& text);
   void ProgressEnded();
   void WaitsEnded();
+  void StopOffered();
 
  private:
   void AddButtons(QMessageBox& box, const MessageBox& asked) const;

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "base/text_numbers.h"
 #include "data/sample_check.h"
+#include "data/sample_progress.h"
 #include "document/papers.h"
 #include "properties/row_editors.h"
 #include "properties/row_values.h"
@@ -68,7 +69,7 @@ Refusal RefusedWithWords(int text, std::string words) {
   return {.Text = text, .Words = std::move(words)};
 }
 
-Verdict RefusalOf(const SampleCheck& check) {
+Verdict RefusalOf(const SheetWork& work, const SampleCheck& check) {
   const std::string line = std::to_string(check.Line);
   switch (check.Fault) {
     case SampleFault::None:
@@ -76,7 +77,8 @@ Verdict RefusalOf(const SampleCheck& check) {
     case SampleFault::WrongName:
       return RefusedWith(kTextSampleFileExtension);
     case SampleFault::NoHead:
-      return RefusedWith(kTextSampleFileHead);
+      if (!check.UnicodeMark) return RefusedWith(kTextSampleFileHead);
+      return RefusedWithWords(kTextSampleFileHead, "\n" + work.page.services.Text(kTextUnicodeMark));
     case SampleFault::BadLine:
       return RefusedWithWords(kTextKexLineBad, "\nLine: " + line);
     case SampleFault::TooLong:
@@ -85,6 +87,8 @@ Verdict RefusalOf(const SampleCheck& check) {
       return RefusedWith(kTextKedLineBad);
     case SampleFault::NotReadable:
       return Refusal{.Text = kTextSampleFileNotOpened, .Detail = check.Reason};
+    case SampleFault::Stopped:
+      return Refusal{};
   }
   return std::nullopt;
 }
@@ -94,7 +98,10 @@ Verdict CheckSample(const SheetWork& work, std::string_view text) {
   if (name.empty()) return std::nullopt;
   const std::optional<std::string> file = FindSample(work, name);
   if (!file) return RefusedWith(kTextSampleFileMissing);
-  return RefusalOf(CheckSampleFile(*file));
+  SampleProgress progress(work.host, work.page.services.Text(kTextStatusReading));
+  return RefusalOf(work, CheckSampleFile(*file, [&progress](std::uint64_t done, std::uint64_t size) {
+                     return progress.Go(done, size);
+                   }));
 }
 
 // --- Paper ---

@@ -34,7 +34,7 @@ class SampleCopy {
   std::string base_;
 };
 
-// The text of the copy.
-std::string SampleCopyText(std::string_view sample, std::string_view templatePath);
+// Whether a line of sample data, without the blanks around it, names a template.
+bool NamesTemplate(std::string_view line);
 
 }  // namespace kev

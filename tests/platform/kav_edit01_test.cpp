@@ -593,6 +593,28 @@ TEST_F(KavEdit01Test, ADropAsksToSaveFirst) {
   EXPECT_EQ(window->windowTitle(), QStringLiteral("Noname.kev [Modified] - Kev Visual Editor"));
 }
 
+TEST_F(KavEdit01Test, ADroppedDataFileOpensTheAssistant) {
+  Start();
+  std::string shown;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, window.get(), [&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || dialog->objectName() != QLatin1String("NewTemplate")) return;
+    auto* create = dialog->findChild<QPushButton*>(QStringLiteral("CreateTemplate"));
+    if (!create->isEnabled()) return;
+    shown = ToNative(dialog->findChild<QLineEdit*>(QStringLiteral("Text1"))->text());
+    create->click();
+  });
+  look.start(10);
+  const std::string path = home.CopyOf("invoice.kex");
+  Drop(*window, path);
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return !shown.empty() && QApplication::activeModalWidget() == nullptr; }));
+  EXPECT_EQ(shown, path);
+  EXPECT_EQ(designer->SampleDataPath(), path);
+  EXPECT_EQ(designer->DocumentPath(), "");
+}
+
 TEST_F(KavEdit01Test, OtherFilesAreNoDrop) {
   Start();
   Drop(*window, std::string(KEV_EXAMPLES_DIR) + "/logo.png");

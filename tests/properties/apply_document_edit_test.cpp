@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "properties/sheet_fixture.h"
 
 namespace kev {
@@ -194,6 +196,35 @@ TEST_F(ApplyDocumentEdit, SampleFileMustExistAndBeGood) {
   ExpectSampleRefused(folder_ / "line.KEX", 997, "\nLine: 3");
   ExpectSampleRefused(folder_ / "variable.ked", 998);
   ExpectSampleRefused(folder_ / "long.kex", 1230, " 2");
+}
+
+TEST_F(ApplyDocumentEdit, SampleFileWithAUnicodeMarkIsTold) {
+  Settings()[Sample_Kex_file] = "/old.kex";
+  test::WriteBytes(folder_ / "mark.kex", "\xEF\xBB\xBFTEMPLATE=x\n");
+  ExpectSampleRefused(folder_ / "mark.kex", 996, "\n" + services_.Text(kTextUnicodeMark));
+}
+
+TEST_F(ApplyDocumentEdit, LargeSampleFileShowsHowFarItIsAndCanBeStopped) {
+  Settings()[Sample_Kex_file] = "/old.kex";
+  std::string bytes = "TEMPLATE=x\n";
+  while (bytes.size() < 2000000)
+    bytes += "|ITEMS|12|bolt|\n";
+  test::WriteBytes(folder_ / "large.kex", bytes);
+  host_.Stopped = true;
+  EXPECT_EQ(Type("Sample Kex/Ked file", folder_ / "large.kex"), "push");
+  EXPECT_EQ(Stored(Sample_Kex_file), "/old.kex");
+  EXPECT_TRUE(host_.Messages.empty());
+  EXPECT_EQ(host_.ProgressEnded, 1);
+  host_.Stopped = false;
+  std::vector<int> steps;
+  host_.OnStep = [&] { steps.push_back(host_.ProgressValue); };
+  EXPECT_EQ(Type("Sample Kex/Ked file", folder_ / "large.kex"), "push");
+  EXPECT_EQ(Stored(Sample_Kex_file), folder_ / "large.kex");
+  EXPECT_GT(steps.size(), 3U);
+  EXPECT_TRUE(std::is_sorted(steps.begin(), steps.end()));
+  EXPECT_LE(steps.back(), host_.ProgressMaximum);
+  EXPECT_EQ(host_.ProgressBegun, 2);
+  EXPECT_EQ(host_.ProgressEnded, 2);
 }
 
 TEST_F(ApplyDocumentEdit, SampleFileMayBeNamedFromTheFolderOfTheTemplate) {

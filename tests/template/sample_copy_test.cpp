@@ -6,14 +6,40 @@
 #include <filesystem>
 
 #include "base/files.h"
+#include "base/line_reader.h"
 #include "support/run_tool.h"
 
 namespace kev {
 namespace {
 
 TEST(SampleCopy, NamesTheTemplateInItsFirstLineAndNowhereElse) {
-  EXPECT_EQ(SampleCopyText("a\r\n  template=old.kev\r\nb\nTEMPLATE=x", "/tmp/t.kev"),
-            "TEMPLATE=/tmp/t.kev\r\na\r\nb\r\n");
+  const test::TemporaryFolder folder;
+  test::WriteBytes(folder / "data.kex", "a\r\n  template=old.kev\r\nb \n\nTEMPLATE=x");
+  SampleCopy copy;
+  ASSERT_FALSE(copy.Renew(folder / "", {1, 2, 3}, folder / "data.kex", "/tmp/t.kev"));
+  EXPECT_EQ(test::ReadBytes(copy.SampleCopyBase() + ".kex"), "TEMPLATE=/tmp/t.kev\r\na\r\nb \r\n\r\n");
+}
+
+TEST(SampleCopy, HoldsALargeFileWhole) {
+  const test::TemporaryFolder folder;
+  std::string lines;
+  for (int line = 0; line < 100000; ++line)
+    lines += "|ITEMS|" + std::to_string(line) + "|\r\n";
+  test::WriteBytes(folder / "data.kex", "TEMPLATE=old\r\n" + lines);
+  SampleCopy copy;
+  ASSERT_FALSE(copy.Renew(folder / "", {1, 2, 3}, folder / "data.kex", "/t.kev"));
+  EXPECT_TRUE(test::ReadBytes(copy.SampleCopyBase() + ".kex") == "TEMPLATE=/t.kev\r\n" + lines);
+}
+
+TEST(SampleCopy, NoneIsMadeOfALineThatWouldBeCut) {
+  const test::TemporaryFolder folder;
+  test::WriteBytes(folder / "data.kex",
+                   "TEMPLATE=a\n|A|" + std::string(LineReader::kLongestLine, 'x') + "|\n");
+  SampleCopy copy;
+  const auto failure = copy.Renew(folder / "", {1, 2, 3}, folder / "data.kex", "/t.kev");
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->path, folder / "data.kex");
+  EXPECT_FALSE(FileExists(copy.SampleCopyBase() + ".kex"));
 }
 
 TEST(SampleCopy, IsNamedAfterTheTimeWithoutPadding) {

@@ -22,6 +22,10 @@ int Eval(const std::string& file, const std::string& expression);
 int Pack(const std::string& in, const std::string& out);
 int Unpack(const std::string& in, const std::string& out);
 
+int Sample(const std::string& file, bool json);
+// The data file is a .kex or .ked as the caller named it; its path stands absolute in the template.
+int New(const std::string& dataFile, const std::string& out);
+
 struct RenderChoice {
   std::string in;
   std::string out;

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "commands.h"
+#include "data/sample_check.h"
 
 namespace {
 
@@ -67,6 +68,36 @@ void AddPacking(CLI::App& app, Invocation& invocation, const char* name, const c
       [&invocation, in, out, work] { invocation.run = [in, out, work] { return work(*in, *out); }; });
 }
 
+void AddSample(CLI::App& app, Invocation& invocation) {
+  auto* command = app.add_subcommand("sample", "Check a file of sample data and print what it holds");
+  auto file = std::make_shared<std::string>();
+  auto json = std::make_shared<bool>(false);
+  command->add_option("FILE", *file, "Records (.kex) or variables (.ked)")->required();
+  command->add_flag("--json", *json, "As JSON");
+  command->callback([&invocation, file, json] { invocation.run = [=] { return Sample(*file, *json); }; });
+}
+
+// A file under the other's option is refused, as a misspelt name would be.
+bool EndsWith(const std::string& file, kev::SampleKind kind) {
+  return kev::SampleKindOf(file) == kind;
+}
+
+void AddNew(CLI::App& app, Invocation& invocation) {
+  auto* command = app.add_subcommand("new", "Make a first template of a file of sample data");
+  auto file = std::make_shared<std::string>();
+  auto out = std::make_shared<std::string>();
+  auto* data = command->add_option_group("data")->require_option(1);
+  const auto option = [&](const char* name, const char* help, kev::SampleKind kind, const char* refusal) {
+    data->add_option(name, *file, help)->check([kind, refusal](const std::string& text) {
+      return EndsWith(text, kind) ? std::string() : std::string(refusal);
+    });
+  };
+  option("--kex", "Records: one subsection for each type", kev::SampleKind::Kex, "the name must end in .kex");
+  option("--ked", "Variables: one label for each", kev::SampleKind::Ked, "the name must end in .ked");
+  command->add_option("OUT", *out, "Template to write")->required();
+  command->callback([&invocation, file, out] { invocation.run = [=] { return New(*file, *out); }; });
+}
+
 #ifdef KEV_WITH_QT
 void AddRender(CLI::App& app, Invocation& invocation) {
   auto* command = app.add_subcommand("render", "Paint the page as the designer does, to PNG, PDF or SVG");
@@ -98,6 +129,8 @@ int main(int argc, char** argv) {
   AddEval(app, invocation);
   AddPacking(app, invocation, "pack", "Write a template in its packed form", Pack);
   AddPacking(app, invocation, "unpack", "Write the plain form of a packed template", Unpack);
+  AddSample(app, invocation);
+  AddNew(app, invocation);
 #ifdef KEV_WITH_QT
   AddRender(app, invocation);
 #endif

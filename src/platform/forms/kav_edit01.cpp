@@ -23,6 +23,7 @@
 #include "app/zoom_steps.h"
 #include "base/numbers.h"
 #include "base/text_numbers.h"
+#include "data/sample_check.h"
 #include "platform/app_style.h"
 #include "platform/forms/combocol.h"
 #include "platform/forms/command_menus.h"
@@ -56,12 +57,17 @@ constexpr std::array kFilterCommands = {std::pair(DisplayFilter::All, Command::S
                                         std::pair(DisplayFilter::Ebeu, Command::SeeModifiable),
                                         std::pair(DisplayFilter::Print, Command::SeePrinted)};
 
-// The template that a drop brings, native; empty for anything but one local template.
-std::string DroppedTemplate(const QMimeData& data) {
+bool IsSampleData(const std::string& path) {
+  return SampleKindOf(path) != SampleKind::Other;
+}
+
+// The template or data file that a drop brings, native; empty for anything but one local file of those.
+std::string DroppedFile(const QMimeData& data) {
   const QList<QUrl> urls = data.urls();
   if (urls.size() != 1 || !urls.constFirst().isLocalFile()) return {};
   const QString path = urls.constFirst().toLocalFile();
-  return path.endsWith(QLatin1String(".kev"), Qt::CaseInsensitive) ? ToNative(path) : std::string();
+  const bool isTemplate = path.endsWith(QLatin1String(".kev"), Qt::CaseInsensitive);
+  return isTemplate || IsSampleData(ToNative(path)) ? ToNative(path) : std::string();
 }
 
 }  // namespace
@@ -193,6 +199,7 @@ void KavEdit01::BuildPanels() {
   addDockWidget(Qt::BottomDockWidgetArea, findings_);
   findings_->hide();
   progress_ = new ProgressWindow(this);
+  progress_->SetStopCaption(ToQString(designer_.Text(kTextStop)));
   panel_ = new PanelPlace(designer_, frame_->Properties(), *this);
   connect(&panel_->Panel(), &PropertyPanel::FilterWanted, this, &KavEdit01::ShowFilter);
   QAction& toggle = menus_->ActionOf(Command::ShowFindings);
@@ -211,6 +218,8 @@ void KavEdit01::ConnectHost() {
   connect(&host_, &QtHost::ProgressStepped, progress_, &ProgressWindow::Step);
   connect(&host_, &QtHost::ProgressEnded, progress_, &ProgressWindow::End);
   connect(&host_, &QtHost::WaitsEnded, this, &KavEdit01::CloseIfWanted, Qt::QueuedConnection);
+  connect(&host_, &QtHost::StopOffered, progress_, &ProgressWindow::OfferStop);
+  connect(progress_, &ProgressWindow::StopWanted, &host_, &QtHost::StopProgress);
   connect(&host_, &QtHost::CaptionChanged, this, [this](const QString& title, bool modified) {
     setWindowTitle(WindowCaption(title, modified, ToQString(designer_.Text(kTextModified)),
                                  ToQString(designer_.Text(kTextProgramTitle))));
@@ -301,6 +310,9 @@ void KavEdit01::Dispatch(Command command) {
     case Command::New:
       designer_.AskAndNew();
       break;
+    case Command::NewFromData:
+      designer_.NewFromData();
+      break;
     case Command::Open:
       designer_.ChooseAndOpen();
       break;
@@ -390,7 +402,7 @@ void KavEdit01::OpenDocumentation() {
 }
 
 void KavEdit01::dragEnterEvent(QDragEnterEvent* event) {
-  if (DroppedTemplate(*event->mimeData()).empty()) return;
+  if (DroppedFile(*event->mimeData()).empty()) return;
   // Never a move: the program that the file comes from would delete it.
   event->setDropAction(Qt::CopyAction);
   event->accept();
@@ -400,8 +412,15 @@ void KavEdit01::dropEvent(QDropEvent* event) {
   event->setDropAction(Qt::CopyAction);
   event->accept();
   // The program that the file was dragged from waits for this event to end; a question would hold it up.
-  QTimer::singleShot(0, this, [this, path = DroppedTemplate(*event->mimeData())] {
-    designer_.GuardedView([&] { designer_.AskAndOpen(path); });
+  QTimer::singleShot(0, this, [this, path = DroppedFile(*event->mimeData())] {
+    designer_.GuardedView([&] {
+      if (!IsSampleData(path)) {
+        designer_.AskAndOpen(path);
+      } else if (!designer_.Surface().Busy()) {
+        designer_.Surface().CommitOpenEdits();
+        designer_.NewFromData(path);
+      }
+    });
   });
 }
 

@@ -73,6 +73,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void OpenWelcome(WelcomeRun& run) override;
   void OpenDocumentProperties(DocumentPropertiesRun& run) override;
   void ShowQuickPanel(const QuickPanel& panel, const std::string& title) override;
+  void OpenNewTemplate(NewTemplateRun& run) override;
 
  protected:
   bool event(QEvent* event) override;

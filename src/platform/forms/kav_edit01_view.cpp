@@ -16,6 +16,7 @@
 #include "platform/forms/group_flag_forms.h"
 #include "platform/forms/inscol01.h"
 #include "platform/forms/kav_edit01.h"
+#include "platform/forms/new_template.h"
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/placeselection.h"
@@ -160,6 +161,10 @@ void KavEdit01::OpenDocumentProperties(DocumentPropertiesRun& run) {
 
 void KavEdit01::ShowQuickPanel(const QuickPanel& panel, const std::string& title) {
   quick_->ShowPanel(panel, ToQString(title));
+}
+
+void KavEdit01::OpenNewTemplate(NewTemplateRun& run) {
+  NewTemplate(run, designer_.Texts(), this).exec();
 }
 
 }  // namespace kev
