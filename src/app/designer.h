@@ -47,6 +47,7 @@ inline constexpr std::string_view kFreshTitle = "Noname.kev";
 inline constexpr double kSmallestZoom = 10;
 inline constexpr double kLargestZoom = 800;
 
+class ChartWizardRun;
 class ColumnsDialogRun;
 class SetColumnRun;
 
@@ -91,6 +92,8 @@ class DesignerView {
   // The dialogs `inscol01` and `SetThisColumn`; each returns when its dialog has closed.
   virtual void OpenColumnsDialog(ColumnsDialogRun&) {}
   virtual void OpenSetThisColumn(SetColumnRun&) {}
+  // The dialog `Wizard1`; returns when it has closed.
+  virtual void OpenChartWizard(ChartWizardRun&) {}
 };
 
 // What a process gives to its designer.

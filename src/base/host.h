@@ -33,6 +33,8 @@ struct FileChoice {
   std::string Folder;                                        // native bytes
   std::string SuggestedName;                                 // native bytes
   std::vector<std::pair<std::string, std::string>> Filters;  // caption and patterns ("*.kev *.KEV")
+  // Put behind a typed name that has none ("bmp"); empty takes that of the first filter, for saving alone.
+  std::string DefaultEnding = {};
 };
 
 // A program to start. The arguments reach it one by one as they stand; no shell ever sees them.

@@ -235,6 +235,12 @@ inline constexpr int kTextColorBlue = 297;
 inline constexpr int kTextColorPalette = 298;
 inline constexpr int kTextColorResult = 299;
 
+// Chart wizard: what has no label of its own
+inline constexpr int kTextChartSizeAndPlace = 320;
+inline constexpr int kTextChartPreview = 321;
+inline constexpr int kTextChartShowPicture = 322;
+inline constexpr int kTextChartChooseColor = 323;
+
 // Buttons of all dialogs
 inline constexpr int kTextOk = 642;
 inline constexpr int kTextCancel = 643;

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/chart_runs.h"
 #include "app/column_runs.h"
 #include "app/designer.h"
 #include "app/recover.h"
@@ -42,6 +43,8 @@ class CountingView final : public DesignerView {
   // What the user does in the dialogs of the columns.
   std::function<void(ColumnsDialogRun&)> OnColumnsDialog;
   std::function<void(SetColumnRun&)> OnSetThisColumn;
+  // What the user does in the dialog of a chart.
+  std::function<void(ChartWizardRun&)> OnChartWizard;
   // What the user does in the dialog of a subsection; the second is its OK.
   std::function<void(SubsectionDialog&, const std::function<bool()>&)> OnSubsection;
 
@@ -73,6 +76,9 @@ class CountingView final : public DesignerView {
   }
   void OpenSetThisColumn(SetColumnRun& run) override {
     if (OnSetThisColumn) OnSetThisColumn(run);
+  }
+  void OpenChartWizard(ChartWizardRun& run) override {
+    if (OnChartWizard) OnChartWizard(run);
   }
   void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override {
     if (OnSubsection) OnSubsection(dialog, accept);
