@@ -66,6 +66,8 @@ std::string DroppedTemplate(const QMimeData& data) {
 KavEdit01::KavEdit01(Designer& designer, QtHost& host, FontCache& fonts, ImageCache& images)
     : designer_(designer),
       host_(host),
+      fonts_(fonts),
+      images_(images),
       page_(designer, fonts, images, this),
       input_(designer, page_.Canvas(), page_.Layer(), fonts) {
   setObjectName(QStringLiteral("KavEdit01"));

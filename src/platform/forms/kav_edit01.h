@@ -59,7 +59,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowColumnList(const ColumnList& list) override;
   void OpenColumnsDialog(ColumnsDialogRun& run) override;
   void OpenSetThisColumn(SetColumnRun& run) override;
-
+  void OpenChartWizard(ChartWizardRun& run) override;
 
  protected:
   bool event(QEvent* event) override;
@@ -90,6 +90,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
 
   Designer& designer_;
   QtHost& host_;
+  FontCache& fonts_;
+  ImageCache& images_;
   PageView page_;
   PageInput input_;
   PanelPlace* panel_ = nullptr;

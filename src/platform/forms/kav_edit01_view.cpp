@@ -16,6 +16,7 @@
 #include "platform/forms/status_panels.h"
 #include "platform/forms/sub_section_propert.h"
 #include "platform/forms/tool_bars.h"
+#include "platform/forms/wizard1.h"
 #include "platform/forms/zoom_box.h"
 #include "platform/forms/zoom_menu.h"
 #include "platform/text_bridge.h"
@@ -102,6 +103,10 @@ void KavEdit01::OpenColumnsDialog(ColumnsDialogRun& run) {
 
 void KavEdit01::OpenSetThisColumn(SetColumnRun& run) {
   SetThisColumn(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::OpenChartWizard(ChartWizardRun& run) {
+  Wizard1(run, {designer_.Texts(), fonts_, images_}, this).exec();
 }
 
 }  // namespace kev
