@@ -8,6 +8,7 @@
 #include "base/code_page.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "chart/chart_data.h"
 #include "chart/gradient.h"
 #include "chart/slots.h"
 
@@ -15,8 +16,6 @@ namespace kev {
 namespace {
 
 constexpr std::string_view kWhiteBackground = "255,255,255,255,255,255";
-// An axis without a colour of its own is drawn in grey.
-constexpr Rgb kEmptyAxisColour = 0x808080;
 constexpr int kTwipsOfPixel = 15;
 
 constexpr std::string_view kBackOption = "OptionBack", kPictureOption = "OptionPicture";
@@ -66,9 +65,17 @@ std::string ShownText(const WizardText& control, const std::string& value) {
   return value;
 }
 
+// What is drawn where a chart names no colour.
+Rgb ColourWithout(std::size_t at) {
+  const ChartData plain = ReadChart({ChartDefinition().Values, 0, 0});
+  if (at == slot::kAxisColor1) return plain.AxisColour;
+  if (at == slot::kAxisColor2) return plain.ValueLineColour;
+  if (at == slot::kLayoutFontColor) return plain.LabelStyle.Colour;
+  return 0;
+}
+
 Rgb ColourOfText(const WizardText& control, const std::string& text) {
-  const bool axis = control.Slot == slot::kAxisColor1 || control.Slot == slot::kAxisColor2;
-  return axis && Trim(text).empty() ? kEmptyAxisColour : ChartColourOf(text);
+  return Trim(text).empty() ? ColourWithout(control.Slot) : ChartColourOf(text);
 }
 
 // The swatch or sample that belongs to the text follows it.

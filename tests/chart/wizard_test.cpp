@@ -223,8 +223,13 @@ TEST(WizardEdits, AColourShowsInItsSwatchWhenItsFieldIsLeft) {
   EXPECT_EQ(SampleColour(wizard.Now, "serie_8_color_sample"), 9U);
 }
 
-TEST(WizardEdits, AnAxisWithoutAColourIsGrey) {
+TEST(WizardEdits, ASwatchWithoutAColourShowsTheOneThatIsDrawn) {
   EXPECT_EQ(SampleColour(Default().Now, "sample_AxisColor_1"), 0x808080U);
+  const Rgb second = SampleColour(Default().Now, "sample_AxisColor_2");
+  EXPECT_EQ(second >> 16, second & 0xFFU);
+  EXPECT_EQ(second >> 8 & 0xFFU, second & 0xFFU);
+  EXPECT_NE(second, 0U);
+  EXPECT_EQ(SampleColour(With("Graph_serie_1_color", "").Now, "serie_1_color_sample"), 0U);
   EXPECT_EQ(SampleColour(With("Graph_AxisColor_2", "0,0,0").Now, "sample_AxisColor_2"), 0U);
 }
 

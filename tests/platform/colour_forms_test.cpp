@@ -84,7 +84,7 @@ TEST_F(ShowColorsForm, SlidersAndBoxesMoveEachOther) {
 
 TEST_F(ShowColorsForm, AClickOnThePaletteTakesThePixelsColour) {
   auto& palette = Find<PalettePicture>(picker, "solidcolor");
-  for (const QPoint at : {QPoint(0, 0), QPoint(40, 95), QPoint(120, 150), palette.rect().bottomRight()}) {
+  for (const QPoint at : {QPoint(1, 0), QPoint(40, 95), QPoint(120, 150), palette.rect().bottomRight()}) {
     QTest::mouseClick(&palette, Qt::LeftButton, {}, at);
     EXPECT_EQ(picker.Result(), palette.ColourAt(at));
   }

@@ -19,8 +19,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "base/code_page.h"
-#include "base/files.h"
+#include "base/text_numbers.h"
 #include "chart/slots.h"
 #include "platform/chart_control.h"
 #include "platform/forms/back01.h"

@@ -31,6 +31,11 @@ Back01::Back01(std::string_view ends, const LanguageTexts& texts, QWidget* paren
   rows_[0].Slider->setFocus();
 }
 
+// A box that has the keyboard tells that it is left; there has to be somebody to tell.
+Back01::~Back01() {
+  hide();
+}
+
 std::optional<std::array<int, 6>> Back01::Choose(std::string_view ends, const LanguageTexts& texts,
                                                  QWidget* parent) {
   Back01 dialog(ends, texts, parent);

@@ -23,6 +23,7 @@ class Back01 final : public QDialog {
  public:
   // Opens with these six numbers. The texts outlive the dialog.
   Back01(std::string_view ends, const LanguageTexts& texts, QWidget* parent = nullptr);
+  ~Back01() override;
 
   const std::array<int, 6>& Result() const { return state_.Sliders; }
   // Shows the dialog; nothing when the user gives up.

@@ -35,6 +35,11 @@ ShowColors::ShowColors(Rgb colour, const LanguageTexts& texts, QWidget* parent)
   rows_[0].Slider->setFocus();
 }
 
+// A box that has the keyboard tells that it is left; there has to be somebody to tell.
+ShowColors::~ShowColors() {
+  hide();
+}
+
 std::optional<Rgb> ShowColors::Choose(Rgb colour, const LanguageTexts& texts, QWidget* parent) {
   ShowColors dialog(colour, texts, parent);
   return dialog.exec() == QDialog::Accepted ? std::optional(dialog.Result()) : std::nullopt;

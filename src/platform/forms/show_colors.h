@@ -23,6 +23,7 @@ class ShowColors final : public QDialog {
  public:
   // Opens with this colour. The texts outlive the dialog.
   ShowColors(Rgb colour, const LanguageTexts& texts, QWidget* parent = nullptr);
+  ~ShowColors() override;
 
   Rgb Result() const { return ResultantColour(state_); }
   // Shows the dialog; nothing when the user gives up.

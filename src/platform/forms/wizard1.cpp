@@ -67,6 +67,11 @@ Wizard1::Wizard1(ChartWizardRun& run, const Services& services, QWidget* parent)
   findChild<QLineEdit*>(QStringLiteral("graph_title"))->setFocus();
 }
 
+// A field that has the keyboard tells that it is left; there has to be somebody to tell.
+Wizard1::~Wizard1() {
+  hide();
+}
+
 void Wizard1::accept() {
   if (run_.Accept()) QDialog::accept();
 }

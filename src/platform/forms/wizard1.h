@@ -31,6 +31,7 @@ class Wizard1 final : public QDialog {
     ImageCache& Images;
   };
   Wizard1(ChartWizardRun& run, const Services& services, QWidget* parent = nullptr);
+  ~Wizard1() override;
 
   void accept() override;
 
