@@ -7,6 +7,7 @@
 
 #include "app/commands.h"
 #include "app/designer.h"
+#include "platform/chart_files.h"
 #include "platform/close_requests.h"
 #include "platform/page_input.h"
 #include "platform/page_view.h"
@@ -60,7 +61,6 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void OpenColumnsDialog(ColumnsDialogRun& run) override;
   void OpenSetThisColumn(SetColumnRun& run) override;
 
-
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -68,6 +68,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  void FollowScreen();
   void BuildMenus();
   void BuildZoomMenu();
   void BuildLanguageMenu();
@@ -90,6 +91,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
 
   Designer& designer_;
   QtHost& host_;
+  ChartFiles charts_;
   PageView page_;
   PageInput input_;
   PanelPlace* panel_ = nullptr;
