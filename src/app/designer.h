@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/chart_images.h"
 #include "app/command_line.h"
 #include "app/design_surface.h"
 #include "app/folders.h"
@@ -236,7 +237,8 @@ class Designer {
   // A surface that shows nothing while there is no window.
   SurfaceOps& Canvas() { return view_ != nullptr ? view_->Canvas() : nowhere_; }
   WorkImages Images() const { return {folders_.TempFolder, session_}; }
-  MadePictures Made() { return {}; }
+  MadePictures Made() { return {.Charts = charts_.HasPainter() ? &charts_ : nullptr}; }
+  ChartImages& Charts() { return charts_; }
   void PageShown();
   void ShowRulers();
   void ShowArea(const CanvasArea& area);
@@ -328,6 +330,7 @@ class Designer {
   bool documentShown_ = false;
   bool optionsRead_ = false;
   NullSurface nowhere_;
+  ChartImages charts_{*this};
   DesignSurface surface_{*this};
   PropertySheets sheets_{*this};
 };

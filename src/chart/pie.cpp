@@ -19,6 +19,9 @@ constexpr double kTextGap = 4;  // between a leader and its text
 constexpr double kLeastRadiusShare = 0.22;
 constexpr double kBesideFrom = 1.15;  // a room that is so much wider than high has the legend at its right
 constexpr double kSmallestPie = 3;
+constexpr double kValueAt = 0.68;   // of the radius
+constexpr double kReadable = 0.28;  // between the brightness of a text and of what is behind it
+constexpr double kPieShare = 0.96;  // of the room
 constexpr Rgb kEmptyGrey = 0xC8C8C8;
 constexpr Rgb kLeaderGrey = 0x9A9A9A;
 
@@ -27,6 +30,7 @@ struct Slice {
   double From = 0, To = 0;  // degrees
   Rgb Colour = 0;
   std::string Label, Value;
+  bool ValueInside = false;
 
   double Middle() const { return (From + To) / 2; }
   bool IsRight() const { return std::cos(Middle() * std::numbers::pi / 180) >= 0; }
@@ -98,8 +102,45 @@ struct Note {
   double Top = 0;
 };
 
+double Background(const ChartData& data) {
+  double sum = 0;
+  for (const int part : data.BackGround)
+    sum += part;
+  return sum / (255.0 * static_cast<double>(data.BackGround.size()));
+}
+
+// A value is easier to find on its slice, where it fits and can be read.
+ChartText ValueOn(const ChartWork& work, const PiePlace& place, const Slice& slice) {
+  ChartText text = work.Texts.Make(work.Data.ValueStyle, slice.Value);
+  const ChartPoint middle = place.At(slice.Middle(), place.Radius * kValueAt);
+  text.At = {middle.X - text.Width / 2, middle.Y - text.Height / 2};
+  return text;
+}
+
+bool FitsOn(const PiePlace& place, const Slice& slice, const ChartText& text) {
+  for (const ChartPoint& corner : CornersOf(text)) {
+    const double x = corner.X - place.Centre.X, y = corner.Y - place.Centre.Y;
+    if (std::hypot(x, y) > place.Radius * 0.96) return false;
+    const double turn = std::remainder(std::atan2(y, x) * 180 / std::numbers::pi - slice.Middle(), 360);
+    if (std::abs(turn) > (slice.To - slice.From) / 2) return false;
+  }
+  return true;
+}
+
+void ChooseValuesInside(const ChartWork& work, const PiePlace& place, std::vector<Slice>& slices) {
+  const double bright = BrightnessOf(work.Data.ValueStyle.Colour);
+  for (Slice& slice : slices) {
+    slice.ValueInside = std::abs(bright - BrightnessOf(slice.Colour)) >= kReadable &&
+                        FitsOn(place, slice, ValueOn(work, place, slice));
+  }
+}
+
 std::vector<Note> NotesOf(const ChartWork& work, const std::vector<Slice>& slices, bool labels, double room) {
   const ChartData& data = work.Data;
+  // A colour that was chosen for the slices may vanish beside them.
+  ChartTextStyle beside = data.ValueStyle;
+  if (std::abs(BrightnessOf(beside.Colour) - Background(data)) < kReadable)
+    beside.Colour = data.LabelStyle.Colour;
   std::vector<Note> notes;
   for (const Slice& slice : slices) {
     Note note;
@@ -112,7 +153,7 @@ std::vector<Note> NotesOf(const ChartWork& work, const std::vector<Slice>& slice
       note.Height += note.Lines.back().Height;
     };
     if (labels) add(data.LabelStyle, slice.Label);
-    if (data.Series.front().ShowValues) add(data.ValueStyle, slice.Value);
+    if (data.Series.front().ShowValues && !slice.ValueInside) add(beside, slice.Value);
     if (!note.Lines.empty()) notes.push_back(std::move(note));
   }
   return notes;
@@ -177,6 +218,13 @@ void DrawNotes(const ChartWork& work, const PiePlace& place, const std::vector<N
   }
 }
 
+ChartRect DrawPieLegend(const ChartWork& work, const ChartRect& room) {
+  if (!work.Data.ShowSeriesTitles || work.Data.Labels.empty()) return room;
+  const bool beside = room.Width() >= room.Height() * kBesideFrom;
+  return beside ? DrawLegendBeside(work, EntriesOf(work.Data), room)
+                : DrawLegendBelow(work, EntriesOf(work.Data), room);
+}
+
 double WidestOf(const std::vector<Note>& notes) {
   double widest = 0;
   for (const Note& note : notes)
@@ -184,24 +232,34 @@ double WidestOf(const std::vector<Note>& notes) {
   return widest;
 }
 
+PiePlace PlaceOf(const ChartRect& room, const std::vector<Note>& notes) {
+  const double beside = notes.empty() ? 0 : WidestOf(notes) + kReach + kTextGap;
+  const double above = notes.empty() ? 0 : notes.front().Height / 2;
+  return {room.Centre(), std::min(room.Width() / 2 - beside, room.Height() / 2 - above) * kPieShare};
+}
+
 }  // namespace
 
 void DrawPie(const ChartWork& work, ChartRect room) {
-  const bool legend = work.Data.ShowSeriesTitles && !work.Data.Labels.empty();
-  if (legend && room.Width() >= room.Height() * kBesideFrom)
-    room = DrawLegendBeside(work, EntriesOf(work.Data), room);
-  else if (legend)
-    room = DrawLegendBelow(work, EntriesOf(work.Data), room);
-  const std::vector<Slice> slices = SlicesOf(work.Data);
+  const bool labels = !work.Data.ShowSeriesTitles;
+  room = DrawPieLegend(work, room);
+  std::vector<Slice> slices = SlicesOf(work.Data);
   const double side = std::min(room.Width(), room.Height());
   const double mostText = room.Width() / 2 - side * kLeastRadiusShare - kReach - kTextGap;
-  const std::vector<Note> notes = NotesOf(work, slices, !legend, mostText);
-  const double beside = notes.empty() ? 0 : WidestOf(notes) + kReach + kTextGap;
-  const double above = notes.empty() ? 0 : std::min(notes.front().Height / 2, side * 0.08);
-  PiePlace place{room.Centre(), std::min(room.Width() / 2 - beside, room.Height() / 2 - above)};
+  PiePlace place = PlaceOf(room, {});
+  std::vector<Note> notes;
+  // Where values find room depends on the radius, and the radius on those that find none.
+  for (int round = 0; round < 2; ++round) {
+    ChooseValuesInside(work, place, slices);
+    notes = NotesOf(work, slices, labels, mostText);
+    place = PlaceOf(room, notes);
+  }
   if (!(place.Radius >= kSmallestPie)) return;
   if (slices.empty()) return DrawEmptyPie(work, place);
   DrawSlices(work, place, slices);
+  for (const Slice& slice : slices)
+    if (work.Data.Series.front().ShowValues && slice.ValueInside)
+      work.Texts.Place(ValueOn(work, place, slice));
   DrawNotes(work, place, notes, room);
 }
 

@@ -4,16 +4,20 @@
 #include <algorithm>
 #include <cmath>
 
+#include "chart/series_shapes.h"
+
 namespace kev {
 namespace {
 
-constexpr double kTickGap = 7;      // between a tick's text and the axis
-constexpr double kTickPitch = 2.6;  // heights of a text between two ticks
+constexpr double kTickGap = 7;    // between a tick's text and the axis
+constexpr double kTickPitch = 2;  // heights of a text between two ticks
 constexpr int kMostSteps = 8;
 constexpr double kMostTickShare = 0.35;
 constexpr double kMostLabelShare = 0.35;
 constexpr double kMostValueShare = 0.25;
-constexpr double kDepthRise = 0.55;  // how far a solid goes up for each pixel that it goes back
+constexpr double kFarFromZero = 0.75;  // lines that extend by less of their distance leave zero out
+constexpr double kRoomBelow = 0.07;    // of the extent, for the values of bars that hang down
+constexpr double kDepthRise = 0.55;    // how far a solid goes up for each pixel that it goes back
 
 struct Range {
   double low = 0, high = 0;
@@ -32,8 +36,9 @@ Range RangeOf(const ChartData& data) {
   }
   const double extent = range.high - range.low;
   const double nearest = range.low > 0 ? range.low : (range.high < 0 ? -range.high : 0);
-  if (fromZero || extent <= 0 || extent > nearest / 3)
+  if (fromZero || extent <= 0 || extent > nearest * kFarFromZero)
     range = {std::min(range.low, 0.0), std::max(range.high, 0.0)};
+  if (range.low < 0 && data.HasBars() && data.ShowsValues()) range.low *= 1 + kRoomBelow;
   return range;
 }
 
@@ -48,7 +53,7 @@ ChartDepth DepthOf(const ChartData& data, const ChartRect& room, std::size_t cat
   const double side = std::min(room.Width(), room.Height());
   const double slot = room.Width() / static_cast<double>(categories);
   const double lane = std::clamp(slot * 0.4, side * 0.06, side * 0.13);
-  const double back = std::min(lane * static_cast<double>(LaneCount(data)), side * 0.3);
+  const double back = std::min(lane * static_cast<double>(LaneCount(data)), side * 0.26);
   return {back, -back * kDepthRise};
 }
 
@@ -60,9 +65,12 @@ double WidestTick(const ChartWork& work, const ChartScale& scale) {
 }
 
 // Above the highest bar there must be room for its value, and above the highest tick for half a text.
-double RoomAbove(const ChartWork& work, const ChartRect& room) {
+double RoomAbove(const ChartWork& work, const ChartRect& room, std::size_t categories) {
   const double half = work.Data.ShowAxis ? work.Texts.HeightOf(work.Data.LabelStyle) / 2 : 2;
-  const double value = work.Data.ShowsValues() ? work.Texts.HeightOf(work.Data.ValueStyle) + 4 : 0;
+  const double value =
+      work.Data.ShowsValues()
+          ? HeightOfValues(work, BarPitch(work.Data, room.Width() / static_cast<double>(categories))) + 4
+          : 0;
   return std::min(std::max(half, value), room.Height() * kMostValueShare);
 }
 
@@ -74,7 +82,7 @@ PlotFrame FramePlot(const ChartWork& work, const ChartRect& room) {
   frame.Categories = data.Categories();
   frame.Depth = DepthOf(data, room, frame.Categories);
   const double text = work.Texts.HeightOf(data.LabelStyle);
-  const double above = RoomAbove(work, room) - frame.Depth.Y;
+  const double above = RoomAbove(work, room, frame.Categories) - frame.Depth.Y;
   const double height = room.Height() - above - text;
   const Range range = RangeOf(data);
   frame.Scale =

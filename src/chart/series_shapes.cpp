@@ -7,7 +7,8 @@
 namespace kev {
 namespace {
 
-constexpr double kGroupShare = 0.72;  // of the slot of a category
+constexpr double kGroupShare = 0.72;       // of the slot of a category
+constexpr double kSolidGroupShare = 0.58;  // the sides of the bars need room as well
 constexpr double kWidestBar = 64;
 constexpr double kBarShare = 0.9;  // where several stand side by side
 constexpr double kLeastHeight = 0.05;
@@ -79,12 +80,19 @@ std::vector<ValueMark> DrawSeries(const ChartWork& work, const PlotFrame& frame)
   return marks;
 }
 
+double BarPitch(const ChartData& data, double slot) {
+  const auto bars = std::count_if(data.Series.begin(), data.Series.end(),
+                                  [](const ChartSeries& series) { return IsBar(series.Type); });
+  const double share = data.Form == ChartForm::Solid ? kSolidGroupShare : kGroupShare;
+  return std::min(slot * share / static_cast<double>(std::max<std::ptrdiff_t>(1, bars)), kWidestBar);
+}
+
 std::vector<BarPlace> PlaceBars(const ChartWork& work, const PlotFrame& frame) {
   std::vector<std::size_t> bars;
   for (std::size_t n = 0; n < work.Data.Series.size(); ++n)
     if (IsBar(work.Data.Series[n].Type)) bars.push_back(n);
   const double count = static_cast<double>(bars.size());
-  const double pitch = std::min(frame.Slot() * kGroupShare / std::max(1.0, count), kWidestBar);
+  const double pitch = BarPitch(work.Data, frame.Slot());
   const double width = count > 1 ? pitch * kBarShare : pitch;
   std::vector<BarPlace> places;
   for (std::size_t index = 0; index < frame.Categories; ++index) {

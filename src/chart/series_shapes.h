@@ -15,6 +15,11 @@ struct ValueMark {
 };
 
 std::vector<ValueMark> DrawSeries(const ChartWork& work, const PlotFrame& frame);
+// How high the values above bars are that stand so near each other; those that are wider than their bars
+// stand upright where they have room.
+double HeightOfValues(const ChartWork& work, double pitch);
+// From one bar to the next in a slot of this width.
+double BarPitch(const ChartData& data, double slot);
 void DrawValues(const ChartWork& work, std::vector<ValueMark> marks);
 
 // --- The parts of DrawSeries ------------------------------------------------------------------------------

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "chart/series_shapes.h"
@@ -8,18 +9,18 @@ namespace kev {
 namespace {
 
 constexpr double kGap = 3;
+constexpr double kUprightPitch = 0.9;  // heights of a text
+constexpr double kNoBars = 1e9;
 constexpr double kPointGap = 6;  // above the dot of a line
 
-// Values that are wider than their bars stand upright where all of them then have room.
-bool StandUpright(const ChartWork& work, const std::vector<ValueMark>& marks) {
-  double widest = 0, narrowest = 1e9;
-  for (const ValueMark& mark : marks) {
-    const ChartSeries& series = work.Data.Series[mark.Series];
+double WidestValue(const ChartWork& work) {
+  double widest = 0;
+  for (const ChartSeries& series : work.Data.Series) {
     if (!series.ShowValues || !IsBar(series.Type)) continue;
-    widest = std::max(widest, work.Texts.WidthOf(work.Data.ValueStyle, series.Shown[mark.Index]));
-    narrowest = std::min(narrowest, mark.Pitch);
+    for (const std::string& value : series.Shown)
+      widest = std::max(widest, work.Texts.WidthOf(work.Data.ValueStyle, value));
   }
-  return widest > narrowest && narrowest >= work.Texts.HeightOf(work.Data.ValueStyle) * 0.9;
+  return widest;
 }
 
 void PlaceLevel(const ChartWork& work, const ValueMark& mark, ChartText text, double gap) {
@@ -35,8 +36,17 @@ void PlaceUpright(const ChartWork& work, const ValueMark& mark, ChartText text) 
 
 }  // namespace
 
+double HeightOfValues(const ChartWork& work, double pitch) {
+  const double height = work.Texts.HeightOf(work.Data.ValueStyle);
+  const double widest = WidestValue(work);
+  return widest > pitch && pitch >= height * kUprightPitch ? widest : height;
+}
+
 void DrawValues(const ChartWork& work, std::vector<ValueMark> marks) {
-  const bool upright = StandUpright(work, marks);
+  double pitch = kNoBars;
+  for (const ValueMark& mark : marks)
+    if (IsBar(work.Data.Series[mark.Series].Type)) pitch = mark.Pitch;
+  const bool upright = HeightOfValues(work, pitch) > work.Texts.HeightOf(work.Data.ValueStyle);
   for (const ValueMark& mark : marks) {
     const ChartSeries& series = work.Data.Series[mark.Series];
     if (!series.ShowValues) continue;

@@ -7,6 +7,7 @@
 
 #include "app/commands.h"
 #include "app/designer.h"
+#include "platform/chart_files.h"
 #include "platform/close_requests.h"
 #include "platform/page_input.h"
 #include "platform/page_view.h"
@@ -68,6 +69,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  void FollowScreen();
   void BuildMenus();
   void BuildZoomMenu();
   void BuildLanguageMenu();
@@ -92,6 +94,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   QtHost& host_;
   FontCache& fonts_;
   ImageCache& images_;
+  ChartFiles charts_;
   PageView page_;
   PageInput input_;
   PanelPlace* panel_ = nullptr;
