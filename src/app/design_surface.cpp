@@ -172,9 +172,11 @@ void DesignSurface::OpenContextMenu(ContextMenu menu) {
   if (DesignerView* view = designer_.View()) view->OpenContextMenu(menu);
 }
 
-// A subsection has a dialog; everything else is in its sheet.
+// A subsection and a chart have a dialog; everything else is in its sheet.
 void DesignSurface::OpenProperties(int row) {
-  if (designer_.OpenDocument().Objects[row].Kind == ObjectKind::Subsection) return OpenSubsection(row);
+  const ObjectKind kind = std::as_const(designer_).OpenDocument().Objects[row].Kind;
+  if (kind == ObjectKind::Subsection) return OpenSubsection(row);
+  if (kind == ObjectKind::Chart) return OpenChart(row);
   designer_.Sheets().Properties();
 }
 

@@ -112,6 +112,8 @@ class DesignSurface final : public PageServices {
  private:
   // For a bar, or for a new one where the row is 0. Until the dialog is closed.
   void OpenSubsection(int row);
+  // `Wizard1`, until it is closed.
+  void OpenChart(int row);
   // Sets Modified, writes the recovery file and then the caption.
   void Protect();
   void WriteRecovery();

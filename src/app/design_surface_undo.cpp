@@ -63,6 +63,7 @@ void DesignSurface::ShowLevel() {
   for (int row = 1; row <= objects.LastScanned(); ++row)
     objects[row].Selected = kFalse;
   pointer_.ColumnText.clear();
+  designer_.Charts().FlagAll();
   FullRepaint();
   BuildRulers();
 }

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/chart_images.h"
 #include "app/command_line.h"
 #include "app/design_surface.h"
 #include "app/folders.h"
@@ -50,6 +51,7 @@ inline constexpr std::string_view kFreshTitle = "Noname.kev";
 inline constexpr double kSmallestZoom = 10;
 inline constexpr double kLargestZoom = 800;
 
+class ChartWizardRun;
 class ColumnsDialogRun;
 class SetColumnRun;
 class PlaceSelectionRun;
@@ -121,6 +123,8 @@ class DesignerView {
   virtual void ShowQuickPanel(const QuickPanel&, const std::string& /*title*/) {}
   // The assistant `NewTemplate`; returns when it has closed.
   virtual void OpenNewTemplate(NewTemplateRun&) {}
+  // The dialog `Wizard1`; returns when it has closed.
+  virtual void OpenChartWizard(ChartWizardRun&) {}
 };
 
 // What a process gives to its designer.
@@ -280,7 +284,10 @@ class Designer {
   // A surface that shows nothing while there is no window.
   SurfaceOps& Canvas() { return view_ != nullptr ? view_->Canvas() : nowhere_; }
   WorkImages Images() const { return {folders_.TempFolder, session_}; }
-  MadePictures Made() { return {&qrImages_, nullptr}; }
+  MadePictures Made() {
+    return {.Qr = &qrImages_, .Charts = charts_.HasPainter() ? &charts_ : nullptr};
+  }
+  ChartImages& Charts() { return charts_; }
   void PageShown();
   void ShowRulers();
   void ShowArea(const CanvasArea& area);
@@ -390,6 +397,7 @@ class Designer {
   bool documentShown_ = false;
   bool optionsRead_ = false;
   NullSurface nowhere_;
+  ChartImages charts_{*this};
   DesignSurface surface_{*this};
   PropertySheets sheets_{*this};
   QuickProperties quick_{*this};

@@ -57,8 +57,8 @@ void PropertySheets::PressButton(int row) {
   if (sheet_.Object == 0 || !sheet_.Enabled) return;
   switch (ActionOf(sheet_, row)) {
     case SheetAction::SubsectionDialog:
-      return designer_.Surface().OpenProperties(sheet_.Object);
     case SheetAction::ChartWizard:
+      return designer_.Surface().OpenProperties(sheet_.Object);
     case SheetAction::None:
       return;
   }

@@ -120,6 +120,7 @@ std::optional<FileFailure> Designer::ShutDownSilently() {
   std::optional<FileFailure> failure = WriteLastRunOptions();
   DeleteSampleCopies(folders_.DataFolder);
   samples_.Delete();
+  charts_.DeleteFiles();
   return failure;
 }
 

@@ -35,6 +35,8 @@ struct FileChoice {
   std::vector<std::pair<std::string, std::string>> Filters;  // caption and patterns ("*.kev *.KEV")
   // Where it is set: the index in Filters that stands first, and then the one that a file was chosen with.
   int* Filter = nullptr;
+  // Put behind a typed name that has none ("bmp"); empty takes that of the first filter, for saving alone.
+  std::string DefaultEnding = {};
 };
 
 // A program to start. The arguments reach it one by one as they stand; no shell ever sees them.

@@ -240,6 +240,11 @@ inline constexpr int kTextColorResult = 299;
 
 // The window that shows a picture
 inline constexpr int kTextPictureUnreadable = 305;
+// Chart wizard: what has no label of its own
+inline constexpr int kTextChartSizeAndPlace = 320;
+inline constexpr int kTextChartPreview = 321;
+inline constexpr int kTextChartShowPicture = 322;
+inline constexpr int kTextChartChooseColor = 323;
 
 // Buttons of all dialogs
 inline constexpr int kTextOk = 642;

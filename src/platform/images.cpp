@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "base/file_stamp.h"
 #include "platform/text_bridge.h"
@@ -101,6 +103,14 @@ void ImageCache::PaintBitmap(QPainter& painter, const Entry& entry, const QRectF
   // A file keeps all pixels of its pictures.
   const bool onScreen = painter.paintEngine()->type() == QPaintEngine::Raster;
   const bool smaller = onScreen && pixels.width() * 2 < whole.width() && pixels.height() * 2 < whole.height();
+  // Pixel for pixel, as a picture made for this very size must be to stay sharp.
+  if (onScreen && pixels == whole) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QPointF corner = toDevice.map(target.topLeft());
+    const QPointF onPixels(std::round(corner.x()), std::round(corner.y()));
+    if (toDevice.type() <= QTransform::TxScale)
+      return painter.drawImage(toDevice.inverted().mapRect(QRectF(onPixels, QSizeF(whole))), entry.bitmap);
+  }
   if (!smaller || pixels.isEmpty()) return painter.drawImage(target, entry.bitmap);
   if (entry.reduced.size() != pixels)
     entry.reduced = entry.bitmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -116,6 +126,8 @@ void ImageCache::PaintSharp(QPainter& painter, const QImage& bitmap, const QRect
 
 void ImageCache::Paint(QPainter& painter, std::string_view file, const QRectF& target, Scaling scaling) {
   if (target.isEmpty()) return;
+  if (const auto drawing = drawings_.find(std::string(file)); drawing != drawings_.end())
+    return drawing->second(painter, target);
   const auto entry = Find(file);
   if (!entry) return;
   if (entry->drawing)
@@ -124,6 +136,14 @@ void ImageCache::Paint(QPainter& painter, std::string_view file, const QRectF& t
     PaintSharp(painter, entry->bitmap, target);
   else if (!entry->bitmap.isNull())
     PaintBitmap(painter, *entry, target);
+}
+
+void ImageCache::SetDrawing(std::string_view file, Drawing drawing) {
+  drawings_[std::string(file)] = std::move(drawing);
+}
+
+void ImageCache::Drop(const QString& path) {
+  entries_.remove(path);
 }
 
 QSize ImageCache::SizeOf(std::string_view file) {

@@ -38,6 +38,11 @@ class ImageCache {
   // Stretched into the rectangle of the painter's own units; a file that cannot be had paints nothing.
   void Paint(QPainter& painter, std::string_view file, const QRectF& target,
              Scaling scaling = Scaling::Smooth);
+  // What is painted for a name instead of a file, from now on; the rectangle is the painter's.
+  using Drawing = std::function<void(QPainter& painter, const QRectF& target)>;
+  void SetDrawing(std::string_view file, Drawing drawing);
+  // The file was written anew, maybe within the time that its date can tell.
+  void Drop(const QString& path);
   // Pixels of a bitmap or of an SVG drawing; empty when there is none.
   QSize SizeOf(std::string_view file);
 
@@ -50,6 +55,7 @@ class ImageCache {
 
   ImageResolver resolver_;
   std::unordered_map<std::string, QString> paths_;
+  std::unordered_map<std::string, Drawing> drawings_;
   QCache<QString, std::shared_ptr<const Entry>> entries_;
 };
 

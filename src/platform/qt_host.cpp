@@ -154,7 +154,10 @@ std::optional<std::string> QtHost::Choose(const FileChoice& choice, bool save) {
     filters << FilterLine(filter);
   if (!filters.isEmpty()) dialog.setNameFilters(filters);
   if (choice.Filter != nullptr) dialog.selectNameFilter(filters.value(*choice.Filter));
-  if (save && !choice.Filters.empty()) dialog.setDefaultSuffix(SuffixOf(choice.Filters.front().second));
+  if (!choice.DefaultEnding.empty())
+    dialog.setDefaultSuffix(FromNative(choice.DefaultEnding));
+  else if (save && !choice.Filters.empty())
+    dialog.setDefaultSuffix(SuffixOf(choice.Filters.front().second));
   if (!choice.SuggestedName.empty()) dialog.selectFile(FromNative(choice.SuggestedName));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   if (choice.Filter != nullptr)

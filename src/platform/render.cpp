@@ -15,6 +15,7 @@
 #include "base/numbers.h"
 #include "document/sections.h"
 #include "platform/display_list.h"
+#include "platform/drawn_charts.h"
 #include "platform/qt_measurer.h"
 #include "surface/page_background.h"
 
@@ -41,6 +42,7 @@ struct PaintedPage {
   FontCache fonts;
   ImageCache images;
   DisplayList list{fonts, images};
+  DrawnCharts charts{fonts, images};
 
   PaintedPage(Document& document, const RenderOptions& options)
       : fonts(*document.Page), images(ResolverFor(document, options)) {
@@ -48,13 +50,15 @@ struct PaintedPage {
     DeriveGeometry(document);
     ApplyRedrawWriteBack(document, measurer, options.filter, options.images);
     DeriveGeometry(document);
+    MadePictures pictures = options.pictures;
+    if (pictures.Charts == nullptr) pictures.Charts = &charts;
     PaintContext context{.document = document,
                          .surface = list,
                          .measurer = measurer,
                          .ZoomFactor = options.ZoomFactor,
                          .filter = options.filter,
                          .images = options.images,
-                         .pictures = options.pictures};
+                         .pictures = pictures};
     PaintPage(context, options.grid, SetSortKeys(document));
   }
 

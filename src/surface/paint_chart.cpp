@@ -16,8 +16,8 @@ void PaintChart(PaintContext& context, ObjectRecord& record, int row) {
   record.PictureFile = ChartImageName(context.images, row);
   const CanvasArea area = AreaOf(record, context.document, context.ZoomFactor);
   ChartPictures* charts = context.pictures.Charts;
-  if (charts == nullptr) return PaintPlaceholder(context, area, ChartCaption(record));
-  if (!charts->IsReady(row, record, record.PictureFile, context.ZoomFactor)) return;
+  if (charts == nullptr || !charts->IsReady(row, record, record.PictureFile, context.ZoomFactor))
+    return PaintPlaceholder(context, area, ChartCaption(record));
   context.surface.PaintImage(record.PictureFile, area.Left, area.Top, area.Width(), area.Height());
 }
 

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/chart_runs.h"
 #include "app/column_runs.h"
 #include "app/designer.h"
 #include "app/group_runs.h"
@@ -56,6 +57,8 @@ class CountingView final : public DesignerView {
   Colour OfferedColour;
   FontTools Fonts;
   std::function<void()> OnFontTools;  // while the tools are being filled
+  // What the user does in the dialog of a chart.
+  std::function<void(ChartWizardRun&)> OnChartWizard;
   // What the user does in the dialog of a subsection; the second is its OK.
   std::function<void(SubsectionDialog&, const std::function<bool()>&)> OnSubsection;
 
@@ -133,6 +136,9 @@ class CountingView final : public DesignerView {
   void ShowQuickPanel(const QuickPanel& panel, const std::string& title) override {
     Quick = panel;
     QuickTitle = title;
+  }
+  void OpenChartWizard(ChartWizardRun& run) override {
+    if (OnChartWizard) OnChartWizard(run);
   }
   void OpenSubsectionDialog(SubsectionDialog& dialog, const std::function<bool()>& accept) override {
     if (OnSubsection) OnSubsection(dialog, accept);

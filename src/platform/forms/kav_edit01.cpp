@@ -75,6 +75,9 @@ std::string DroppedFile(const QMimeData& data) {
 KavEdit01::KavEdit01(Designer& designer, QtHost& host, FontCache& fonts, ImageCache& images)
     : designer_(designer),
       host_(host),
+      fonts_(fonts),
+      images_(images),
+      charts_(fonts, images, *this),
       page_(designer, fonts, images, this),
       input_(designer, page_.Canvas(), page_.Layer(), fonts) {
   setObjectName(QStringLiteral("KavEdit01"));
@@ -86,10 +89,12 @@ KavEdit01::KavEdit01(Designer& designer, QtHost& host, FontCache& fonts, ImageCa
   ConnectHost();
   PlaceOnScreen();
   designer_.AttachView(this);
+  designer_.Charts().SetPainter(&charts_);
   ShowZoom(FormatNumber(designer_.ZoomFactor() * 100) + "%");
 }
 
 KavEdit01::~KavEdit01() {
+  designer_.Charts().SetPainter(nullptr);
   designer_.AttachView(nullptr);
 }
 
@@ -240,8 +245,15 @@ bool KavEdit01::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show) {
     QTimer::singleShot(0, this, &KavEdit01::Activate);
   }
+  if (event->type() == QEvent::ScreenChangeInternal) FollowScreen();
   if (event->type() == QEvent::WindowUnblocked) QTimer::singleShot(0, this, &KavEdit01::CloseIfWanted);
   return handled;
+}
+
+// Charts are images made for the resolution of the screen that shows them.
+void KavEdit01::FollowScreen() {
+  if (designer_.View() != this || designer_.Surface().Busy()) return;
+  designer_.GuardedView([this] { designer_.Surface().Redraw(); });
 }
 
 void KavEdit01::Activate() {

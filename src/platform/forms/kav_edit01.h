@@ -7,6 +7,7 @@
 
 #include "app/commands.h"
 #include "app/designer.h"
+#include "platform/chart_files.h"
 #include "platform/close_requests.h"
 #include "platform/page_input.h"
 #include "platform/page_view.h"
@@ -74,6 +75,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void OpenDocumentProperties(DocumentPropertiesRun& run) override;
   void ShowQuickPanel(const QuickPanel& panel, const std::string& title) override;
   void OpenNewTemplate(NewTemplateRun& run) override;
+  void OpenChartWizard(ChartWizardRun& run) override;
 
  protected:
   bool event(QEvent* event) override;
@@ -82,6 +84,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  void FollowScreen();
   void BuildMenus();
   void BuildZoomMenu();
   void BuildLanguageMenu();
@@ -105,6 +108,9 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
 
   Designer& designer_;
   QtHost& host_;
+  FontCache& fonts_;
+  ImageCache& images_;
+  ChartFiles charts_;
   PageView page_;
   PageInput input_;
   PanelPlace* panel_ = nullptr;

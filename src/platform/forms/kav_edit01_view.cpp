@@ -28,6 +28,7 @@
 #include "platform/forms/sub_section_propert.h"
 #include "platform/forms/text_tools.h"
 #include "platform/forms/tool_bars.h"
+#include "platform/forms/wizard1.h"
 #include "platform/forms/zoom_box.h"
 #include "platform/forms/zoom_menu.h"
 #include "platform/text_bridge.h"
@@ -165,6 +166,10 @@ void KavEdit01::ShowQuickPanel(const QuickPanel& panel, const std::string& title
 
 void KavEdit01::OpenNewTemplate(NewTemplateRun& run) {
   NewTemplate(run, designer_.Texts(), this).exec();
+}
+
+void KavEdit01::OpenChartWizard(ChartWizardRun& run) {
+  Wizard1(run, {designer_.Texts(), fonts_, images_}, this).exec();
 }
 
 }  // namespace kev

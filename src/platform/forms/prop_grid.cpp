@@ -181,9 +181,17 @@ void PropGrid::Choose(const QModelIndex& index) {
   const QPersistentModelIndex cell(index);
   CommitOpenCell();
   if (!cell.isValid()) return;
-  const QString chosen = PropGridDelegate::Choose(this, model_->RowAt(cell), model_->TextAt(cell), folder_);
+  const QString chosen = ChosenFor(cell);
   if (!chosen.isEmpty() && cell.isValid()) model_->setData(cell, chosen, Qt::EditRole);
   setFocus(Qt::OtherFocusReason);
+}
+
+QString PropGrid::ChosenFor(const QModelIndex& cell) {
+  const QString text = model_->TextAt(cell);
+  if (model_->RowAt(cell).Editor != EditorKind::Colour)
+    return PropGridDelegate::Choose(this, model_->RowAt(cell), text, folder_);
+  const QColor chosen = chooseColour_ ? chooseColour_(ColourOf(text)) : QColor();
+  return chosen.isValid() ? TextOfColour(chosen) : QString();
 }
 
 // --- Keys ---

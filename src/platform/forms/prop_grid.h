@@ -5,8 +5,10 @@
 #pragma once
 
 #include <QTableView>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/code_page.h"
@@ -27,6 +29,10 @@ class PropGrid final : public QTableView {
   void Show(const std::vector<PropertyRow>& rows, const CodePage& page);
   // Where the chooser of files begins with a relative name.
   void SetFolder(const QString& folder) { folder_ = folder; }
+  // Gives the colour that the user chooses in place of this one; an invalid one gives up. Without it the
+  // button of a colour does nothing.
+  using ColourChooser = std::function<QColor(const QColor& now)>;
+  void SetColourChooser(ColourChooser chooser) { chooseColour_ = std::move(chooser); }
   // What the cells hold, row by row.
   std::vector<std::string> Values() const;
   // Rows count from 1; 0 is none.
@@ -63,6 +69,7 @@ class PropGrid final : public QTableView {
   // With a text, that stands in place of the value.
   void Open(const QModelIndex& index, const std::optional<QString>& typed = {});
   void Choose(const QModelIndex& index);
+  QString ChosenFor(const QModelIndex& cell);
   bool TakeClipboardKey(const QKeyEvent& event);
   void KeyInOpenCell(QKeyEvent* event);
   bool HasOpenCell() const { return state() == QAbstractItemView::EditingState; }
@@ -72,6 +79,7 @@ class PropGrid final : public QTableView {
 
   PropGridModel* model_;
   QString folder_;
+  ColourChooser chooseColour_;
   bool committing_ = false;
   bool focused_ = false;
 };

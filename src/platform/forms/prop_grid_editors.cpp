@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/forms/prop_grid_editors.h"
 
-#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
@@ -151,11 +150,6 @@ QString ChooseFile(QWidget* parent, const PropertyRow& row, const QString& text,
                                       title + QStringLiteral(" (") + PatternsOf(filter) + QLatin1Char(')'));
 }
 
-QString ChooseColour(QWidget* parent, const QString& text) {
-  const QColor chosen = QColorDialog::getColor(ColourOf(text), parent);
-  return chosen.isValid() ? TextOfColour(chosen) : QString();
-}
-
 // The row keeps its name where the chosen one can't be written.
 QString ChooseFont(QWidget* parent, const PropertyRow& row) {
   const FontValue now = ParseFontValue(row.Value).value_or(FontValue{});
@@ -177,8 +171,6 @@ QString PropGridDelegate::Choose(QWidget* parent, const PropertyRow& row, const 
   switch (row.Editor) {
     case EditorKind::File:
       return ChooseFile(parent, row, text, folder);
-    case EditorKind::Colour:
-      return ChooseColour(parent, text);
     case EditorKind::Font:
       return ChooseFont(parent, row);
     default:

@@ -14,6 +14,7 @@
 #include <array>
 
 #include "base/text_numbers.h"
+#include "platform/forms/show_colors.h"
 #include "platform/text_bridge.h"
 
 namespace kev {
@@ -159,6 +160,10 @@ void PropertyPanel::ConnectGrid() {
           [this] { designer_.GuardedView([&] { designer_.Sheets().DoubleClicked(); }); });
   connect(grid_, &PropGrid::Refused, this, [this](const QString& character) {
     designer_.ShowText(kTextCharacterNotInPage, BoxIcon::Critical, ToNative(character));
+  });
+  grid_->SetColourChooser([this](const QColor& now) {
+    const std::optional<Rgb> chosen = ShowColors::Choose(now.rgb() & 0xFFFFFFU, designer_.Texts(), window());
+    return chosen ? QColor::fromRgb(*chosen) : QColor();
   });
   connect(grid_, &PropGrid::FocusChanged, this,
           [this](bool has) { designer_.GuardedView([&] { designer_.Sheets().SetGridFocus(has); }); });
