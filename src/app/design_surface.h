@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -71,6 +72,8 @@ class DesignSurface final : public PageServices {
   CursorShape Cursor(const PointerInput& input);
   const PointerState& Pointer() const { return pointer_; }
   PointerState& Pointer() { return pointer_; }
+  // The rows of bar codes that the last redraw could not paint to their end.
+  const std::set<int>& StoppedRows() const { return bars_.Stopped; }
   const UndoStore& Undo() const { return undo_; }
   const TextEdit& Edit() const { return edit_; }
   Recovery& TheRecovery() { return recovery_; }
@@ -116,6 +119,7 @@ class DesignSurface final : public PageServices {
   Recovery recovery_;
   TextEdit edit_;
   PaintResult painted_;
+  BarcodeState bars_;
   double canvasWidth_ = 0, canvasHeight_ = 0;
   bool drawGrid_ = false;
   int rulerMode_ = kFirstRulerMode;

@@ -45,8 +45,11 @@ struct PaintedPage {
   PaintedPage(Document& document, const RenderOptions& options)
       : fonts(*document.Page), images(ResolverFor(document, options)) {
     const QtMeasurer measurer(fonts);
+    BarcodeState own;
+    BarcodeState* bars = options.bars != nullptr ? options.bars : &own;
     DeriveGeometry(document);
-    ApplyRedrawWriteBack(document, measurer, options.filter, options.images);
+    // At 100 % first, as a document is opened.
+    ApplyRedrawWriteBack(document, measurer, options.filter, options.images, bars);
     DeriveGeometry(document);
     PaintContext context{.document = document,
                          .surface = list,
@@ -54,7 +57,8 @@ struct PaintedPage {
                          .ZoomFactor = options.ZoomFactor,
                          .filter = options.filter,
                          .images = options.images,
-                         .pictures = options.pictures};
+                         .pictures = options.pictures,
+                         .bars = bars};
     PaintPage(context, options.grid, SetSortKeys(document));
   }
 

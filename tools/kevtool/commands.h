@@ -3,9 +3,11 @@
 // findings, 2 wrong usage. Results go to standard output, reasons to standard error.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "barcode/painters.h"
 #include "template/reader.h"
 
 namespace kev::tool {
@@ -18,6 +20,13 @@ int Check(const std::vector<std::string>& files);
 int Dump(const std::string& file, bool geometry);
 int Rewrite(const std::string& in, const std::string& out, bool comments);
 int Eval(const std::string& file, const std::string& expression);
+
+struct BarcodeChoice {
+  std::string kind;
+  std::optional<std::string> text;
+  bool lines = false;  // texts from standard input
+};
+int Barcode(const BarcodeChoice& choice);
 
 struct RenderChoice {
   std::string in;
@@ -35,5 +44,7 @@ struct Opened {
 };
 // Reads a template as the designer opens one: what it refuses is refused here too.
 Opened Open(const std::string& file);
+// Names the bar codes that could not be painted to their end, on standard error.
+void TellStopped(const std::string& file, const Document& document, const BarcodeState& bars);
 
 }  // namespace kev::tool

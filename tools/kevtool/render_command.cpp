@@ -39,10 +39,13 @@ int Render(const RenderChoice& choice) {
   options.grid = choice.grid;
   options.folders.ProgramFolder = QGuiApplication::applicationDirPath().toStdString();
   options.TemplateFolder = FolderOf(AbsolutePath(choice.in));
+  BarcodeState bars;
+  options.bars = &bars;
   if (const auto reason = RenderToFile(outcome->Read, options, choice.out)) {
     std::cerr << choice.out << ": " << *reason << '\n';
     return kRefused;
   }
+  TellStopped(choice.in, outcome->Read, bars);
   return kGood;
 }
 
