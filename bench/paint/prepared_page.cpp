@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "platform/display_list.h"
 #include "platform/qt_measurer.h"
@@ -69,6 +70,10 @@ class PreparedPage::Painting {
     painter_.setTransform(text.place * page_);
     painter_.drawText(QPointF(0, 0), text.text);
     painter_.setTransform(page_);
+  }
+  void operator()(const Symbol& symbol) {
+    painter_.setRenderHint(QPainter::Antialiasing, true);
+    painter_.fillPath(symbol.path, symbol.colour);
   }
 
  private:
@@ -145,6 +150,16 @@ void PreparedPage::PrintText(double x, double y, std::string_view text) {
   font.setPixelSize(kPrintPixels);
   shapes_.push_back({Room(Between(x, y, x + extent.Width, y + extent.Height), extent.Height / kUnitsPerPixel),
                      Text{foreground_, font, place, fonts_.Text(font_, text)}});
+}
+
+void PreparedPage::DrawSymbol(double x, double y, Rgb colour, std::span<const SymbolArea> areas) {
+  const QPointF place = Pixels(x, y);
+  const QPointF origin(std::round(place.x()), std::round(place.y()));
+  QPainterPath path;
+  path.setFillRule(Qt::WindingFill);
+  for (const SymbolArea& area : areas)
+    path.addRect(Between(area.Left, area.Top, area.Right, area.Bottom).translated(origin));
+  shapes_.push_back({path.boundingRect(), Symbol{ToColour(colour), path}});
 }
 
 double PreparedPage::TextWidth(std::string_view text) {

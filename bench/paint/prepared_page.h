@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QImage>
+#include <QPainterPath>
 #include <QPen>
 #include <QString>
 #include <QSvgRenderer>
@@ -50,6 +51,7 @@ class PreparedPage final : public SurfaceOps {
   void PrintText(double x, double y, std::string_view text) override;
   double TextWidth(std::string_view text) override;
   void DrawDots(double, double, double, double, double) override {}
+  void DrawSymbol(double x, double y, Rgb colour, std::span<const SymbolArea> areas) override;
   void PlaceWidget(std::string_view, double, double, double, double) override {}
   void ShowWidget(std::string_view, bool) override {}
   SurfaceOps& SurfaceOf(std::string_view) override { return *this; }
@@ -83,9 +85,13 @@ class PreparedPage final : public SurfaceOps {
     QTransform place;  // of the start of the baseline, and from the font's size to that of the text
     QString text;
   };
+  struct Symbol {
+    QColor colour;
+    QPainterPath path;
+  };
   struct Shape {
     QRectF bounds;
-    std::variant<Line, Outline, Fill, Circle, Picture, Text> what;
+    std::variant<Line, Outline, Fill, Circle, Picture, Text, Symbol> what;
   };
   class Painting;
 

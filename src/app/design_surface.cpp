@@ -19,19 +19,34 @@ DesignSurface::DesignSurface(Designer& designer) : designer_(designer) {}
 DesignSurface::~DesignSurface() = default;
 
 PageWork DesignSurface::Work() {
-  return {
-      designer_.OpenDocument(), pointer_,           designer_.Canvas(), *this,        designer_.Measurer(),
-      designer_.ZoomFactor(),   designer_.Filter(), designer_.Images(), canvasWidth_, canvasHeight_,
-      designer_.Made()};
+  return {designer_.OpenDocument(),
+          pointer_,
+          designer_.Canvas(),
+          *this,
+          designer_.Measurer(),
+          designer_.ZoomFactor(),
+          designer_.Filter(),
+          designer_.Images(),
+          canvasWidth_,
+          canvasHeight_,
+          designer_.Made(),
+          &bars_};
 }
 
 // --- Painting ---
 
 void DesignSurface::Redraw() {
   Document& document = designer_.OpenDocument();
-  PaintContext context{
-      document, designer_.Canvas(), designer_.Measurer(), designer_.ZoomFactor(), designer_.Filter(),
-      0,        designer_.Images(), designer_.Made()};
+  PaintContext context{document,
+                       designer_.Canvas(),
+                       designer_.Measurer(),
+                       designer_.ZoomFactor(),
+                       designer_.Filter(),
+                       0,
+                       designer_.Images(),
+                       designer_.Made(),
+                       &bars_};
+  const std::set<int> stoppedBefore = bars_.Stopped;
   const SortedRows sorted = SetSortKeys(document);
   painted_ = PaintPage(context, drawGrid_, sorted);
   canvasWidth_ = context.canvasWidth;
@@ -41,6 +56,7 @@ void DesignSurface::Redraw() {
   pointer_.Bounds = painted_.SelectionBounds;
   PageWork work = Work();
   SyncColumnLines(work);
+  if (bars_.Stopped != stoppedBefore) designer_.PaintFindingsChanged();
   designer_.PageShown();
 }
 
@@ -105,6 +121,7 @@ void DesignSurface::DocumentReplaced() {
   pointer_ = PointerState();
   work.document.Objects.CurrentObject = 0;
   undo_.Clear();
+  bars_.Stopped.clear();
   SelectionChanged();
 }
 

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -83,6 +84,8 @@ class DesignSurface final : public PageServices {
   CursorShape Cursor(const PointerInput& input);
   const PointerState& Pointer() const { return pointer_; }
   PointerState& Pointer() { return pointer_; }
+  // The rows of bar codes that the last redraw could not paint to their end.
+  const std::set<int>& StoppedRows() const { return bars_.Stopped; }
   const UndoStore& Undo() const { return undo_; }
   const ClipboardTable& Clipboard() const { return clipboard_; }
   const TextEdit& Edit() const { return edit_; }
@@ -139,6 +142,7 @@ class DesignSurface final : public PageServices {
   ClipboardTable clipboard_;
   bool fillingTools_ = false;
   PaintResult painted_;
+  BarcodeState bars_;
   double canvasWidth_ = 0, canvasHeight_ = 0;
   bool drawGrid_ = false;
   int rulerMode_ = kFirstRulerMode;

@@ -217,7 +217,16 @@ void Designer::CommandsChanged() {
   if (view_ != nullptr) view_->CommandsChanged();
 }
 
+void Designer::PaintFindingsChanged() {
+  SetFindings(std::move(findings_));
+}
+
+// What the page could not show stands behind the others.
 void Designer::SetFindings(std::vector<Finding> findings) {
+  std::erase_if(findings, [](const Finding& old) { return old.Kind == FindingKind::PaintingStops; });
+  for (const int row : surface_.StoppedRows())
+    findings.push_back(
+        {0, 0, FindingKind::PaintingStops, std::as_const(document_).Objects[row].Content, row});
   findings_ = std::move(findings);
   if (view_ != nullptr) view_->FindingsChanged();
 }

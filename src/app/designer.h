@@ -276,7 +276,7 @@ class Designer {
   double ZoomFactor() const { return zoomPercent_ / 100; }
   // Which of the objects the page shows.
   DisplayFilter Filter() const { return filter_; }
-  // Of the last read or save.
+  // Of the last read or save, and of the last redraw.
   const std::vector<Finding>& Findings() const { return findings_; }
 
   // --- The window, for the page that is worked on ---------------------------------------------------------
@@ -289,6 +289,8 @@ class Designer {
   }
   ChartImages& Charts() { return charts_; }
   void PageShown();
+  // Other objects than before cannot be painted as they should.
+  void PaintFindingsChanged();
   void ShowRulers();
   void ShowArea(const CanvasArea& area);
   void CommandsChanged();

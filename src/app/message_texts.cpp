@@ -17,7 +17,8 @@ constexpr std::array<int, kFindingKinds> kFindingNumbers = {
     kTextFindingLateKey,         kTextFindingRepeatedKey,     kTextFindingDanglingColumn,
     kTextFindingValueOutOfRange, kTextFindingWillNotComeBack, kTextFindingMissingFile,
     kTextFindingValueChanges,    kTextFindingObjectLost,      kTextFindingObjectAppears,
-    kTextFindingKindChanges,     kTextFindingColumnLost,      kTextFindingColumnAppears};
+    kTextFindingKindChanges,     kTextFindingColumnLost,      kTextFindingColumnAppears,
+    kTextFindingPaintingStops};
 
 constexpr auto kReasonNumbers = std::to_array<std::pair<std::string_view, int>>({
     {kReasonOutOfMemory, kTextReasonOutOfMemory},

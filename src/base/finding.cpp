@@ -20,7 +20,8 @@ std::string_view FindingText(FindingKind kind) {
                                                                   "object appears on saving",
                                                                   "object becomes another kind on saving",
                                                                   "column is lost on saving",
-                                                                  "column appears on saving"};
+                                                                  "column appears on saving",
+                                                                  "bar code reaches too far to be painted"};
   return kTexts.at(static_cast<std::size_t>(kind));
 }
 

@@ -25,9 +25,10 @@ enum class FindingKind : std::uint8_t {
   ObjectAppears,  // an object that the page does not hold
   KindChanges,    // an object becomes one of another kind
   ColumnLost,     // a column
-  ColumnAppears   // a column that the page does not hold
+  ColumnAppears,  // a column that the page does not hold
+  PaintingStops   // a bar code that reaches farther than it can be painted
 };
-inline constexpr std::size_t kFindingKinds = 15;
+inline constexpr std::size_t kFindingKinds = 16;
 
 // "unknown key", "text is lost" and so on, for the command line; a list in the window takes its words from
 // the language file.

@@ -488,6 +488,7 @@ inline constexpr int kTextFindingObjectAppears = 1246;
 inline constexpr int kTextFindingKindChanges = 1247;
 inline constexpr int kTextFindingColumnLost = 1248;
 inline constexpr int kTextFindingColumnAppears = 1249;
+inline constexpr int kTextFindingPaintingStops = 300;
 
 // Reasons, behind 762, 1223 and 1224
 inline constexpr int kTextReasonOutOfMemory = 1250;

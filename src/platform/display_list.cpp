@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/display_list.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -95,6 +96,7 @@ class DisplayList::Painting {
   }
   void operator()(const Text& text);
   void operator()(const Dots& dots);
+  void operator()(const Symbol& symbol);
 
  private:
   static constexpr double kPixel = 1 / kUnitsPerPixel;
@@ -106,6 +108,8 @@ class DisplayList::Painting {
   void DrawFlat(const QLineF& line, const Pen& pen);
   void DrawOutline(const QRectF& area, const Pen& pen);
   void DrawDotRow(const Dots& dots, double y);
+  // The nearest whole pixel of a bitmap or window; other devices have none.
+  QPointF OnWholePixel(const QPointF& point) const;
 
   const DisplayList& list_;
   QPainter& painter_;
@@ -194,6 +198,27 @@ void DisplayList::Painting::operator()(const Dots& dots) {
   for (double n = std::ceil((top - dots.area.top()) / dots.step); dots.area.top() + n * dots.step <= bottom;
        ++n)
     DrawDotRow(dots, dots.area.top() + n * dots.step);
+}
+
+QPointF DisplayList::Painting::OnWholePixel(const QPointF& point) const {
+  if (painter_.paintEngine()->type() != QPaintEngine::Raster) return point;
+  const QTransform toDevice = painter_.deviceTransform();
+  const QPointF device = toDevice.map(point);
+  return toDevice.inverted().map(QPointF(std::round(device.x()), std::round(device.y())));
+}
+
+void DisplayList::Painting::operator()(const Symbol& symbol) {
+  const QPointF origin = OnWholePixel(At(symbol.origin));
+  const QRectF seen = Grown(window_, kBeyond);
+  // One path, since areas that share a pixel must add up.
+  QPainterPath path;
+  path.setFillRule(Qt::WindingFill);
+  for (const QRectF& area : symbol.areas) {
+    const QRectF part = QRectF(origin + area.topLeft() * kPixel, area.size() * kPixel) & seen;
+    if (!part.isEmpty()) path.addRect(part);
+  }
+  painter_.setRenderHint(QPainter::Antialiasing, true);
+  painter_.fillPath(path, ToColour(symbol.colour));
 }
 
 void DisplayList::Paint(QPainter& painter, const QRectF& region) const {
@@ -321,6 +346,17 @@ void DisplayList::DrawDots(double left, double top, double right, double bottom,
   const bool countable = QRectF(-kFarthest, -kFarthest, 2 * kFarthest, 2 * kFarthest).contains(area);
   if (!(step >= kUnitsPerPixel) || !countable) return;
   Keep(Grown(area, kUnitsPerPixel), Dots{pen_.colour, area, step});
+}
+
+void DisplayList::DrawSymbol(double x, double y, Rgb colour, std::span<const SymbolArea> areas) {
+  Symbol symbol{colour, {x, y}, {}};
+  QRectF bounds;
+  for (const SymbolArea& area : areas) {
+    symbol.areas.push_back(Between(area.Left, area.Top, area.Right, area.Bottom));
+    bounds |= symbol.areas.back();
+  }
+  // The whole pixel of the origin may lie beside it.
+  if (!bounds.isEmpty()) Keep(Grown(bounds.translated(x, y), kUnitsPerPixel), std::move(symbol));
 }
 
 void DisplayList::PlaceWidget(std::string_view name, double left, double top, double width, double height) {

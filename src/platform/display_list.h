@@ -64,6 +64,7 @@ class DisplayList final : public SurfaceOps {
   void PrintText(double x, double y, std::string_view text) override;
   double TextWidth(std::string_view text) override;
   void DrawDots(double left, double top, double right, double bottom, double step) override;
+  void DrawSymbol(double x, double y, Rgb colour, std::span<const SymbolArea> areas) override;
   void PlaceWidget(std::string_view name, double left, double top, double width, double height) override;
   void ShowWidget(std::string_view name, bool visible) override;
   SurfaceOps& SurfaceOf(std::string_view name) override;
@@ -105,9 +106,14 @@ class DisplayList final : public SurfaceOps {
     QRectF area;
     double step;
   };
+  struct Symbol {
+    Rgb colour;
+    QPointF origin;
+    std::vector<QRectF> areas;  // from the origin
+  };
   struct Primitive {
     QRectF bounds;
-    std::variant<Line, Rect, Circle, Image, Text, Dots> shape;
+    std::variant<Line, Rect, Circle, Image, Text, Dots, Symbol> shape;
   };
   class Painting;
 

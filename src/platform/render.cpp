@@ -47,8 +47,11 @@ struct PaintedPage {
   PaintedPage(Document& document, const RenderOptions& options)
       : fonts(*document.Page), images(ResolverFor(document, options)) {
     const QtMeasurer measurer(fonts);
+    BarcodeState own;
+    BarcodeState* bars = options.bars != nullptr ? options.bars : &own;
     DeriveGeometry(document);
-    ApplyRedrawWriteBack(document, measurer, options.filter, options.images);
+    // At 100 % first, as a document is opened.
+    ApplyRedrawWriteBack(document, measurer, options.filter, options.images, bars);
     DeriveGeometry(document);
     MadePictures pictures = options.pictures;
     if (pictures.Charts == nullptr) pictures.Charts = &charts;
@@ -58,7 +61,8 @@ struct PaintedPage {
                          .ZoomFactor = options.ZoomFactor,
                          .filter = options.filter,
                          .images = options.images,
-                         .pictures = pictures};
+                         .pictures = pictures,
+                         .bars = bars};
     PaintPage(context, options.grid, SetSortKeys(document));
   }
 

@@ -22,6 +22,8 @@ struct RenderOptions {
   std::string TemplateFolder;  // native; empty for a document without a file
   WorkImages images;
   MadePictures pictures = {};
+  // Learns which bar codes could not be painted to their end; it may be null.
+  BarcodeState* bars = nullptr;
 };
 
 // A page of more pixels than this is refused instead of filling the memory.

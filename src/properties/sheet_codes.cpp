@@ -2,7 +2,7 @@
 // BARCODE and QR.
 #include <array>
 
-#include "document/symbologies.h"
+#include "barcode/barcode_kinds.h"
 #include "properties/row_kinds.h"
 
 namespace kev {
@@ -16,21 +16,18 @@ constexpr RowEditor kSymbologyList =
 constexpr RowEditor kBarHeightArrows = Arrows("|1|5000|10|");
 constexpr RowEditor kBarWidthArrows = Arrows("|1|100|");
 
-constexpr std::string_view kNoSuchSymbology = "Barcode not found. ADD IT!";
-
 std::string ReadSymbology(const RowSource& source) {
-  const Symbology* row = SymbologyOfKind(Int32Of(source.Record().BarcodeKind));
-  return std::string(row == nullptr || row->name.empty() ? kNoSuchSymbology : row->name);
+  return std::string(KindName(Int32Of(source.Record().BarcodeKind)));
 }
 
 Verdict CheckSymbology(const RowTarget&, std::string_view text) {
-  if (SymbologyOfName(Trim(text)) != nullptr) return std::nullopt;
-  return Refusal{.Words = std::string(kNoSuchSymbology)};
+  if (KindFromName(Trim(text))) return std::nullopt;
+  return Refusal{.Words = std::string(kNoSuchKind)};
 }
 
 void StoreSymbology(const RowTarget& target, std::string_view text) {
-  if (const Symbology* row = SymbologyOfName(Trim(text)))
-    target.Record().BarcodeKind = std::to_string(row->kind);
+  if (const std::optional<int> kind = KindFromName(Trim(text)))
+    target.Record().BarcodeKind = std::to_string(*kind);
 }
 
 constexpr auto kBarcodeRows = std::to_array<ObjectRow>({

@@ -22,6 +22,7 @@ class NullSurface final : public SurfaceOps {
   void PrintText(double, double, std::string_view) override {}
   double TextWidth(std::string_view) override { return 0; }
   void DrawDots(double, double, double, double, double) override {}
+  void DrawSymbol(double, double, Rgb, std::span<const SymbolArea>) override {}
   void PlaceWidget(std::string_view, double, double, double, double) override {}
   void ShowWidget(std::string_view, bool) override {}
   SurfaceOps& SurfaceOf(std::string_view) override { return *this; }

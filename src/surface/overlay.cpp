@@ -5,7 +5,6 @@
 #include <array>
 #include <utility>
 
-#include "base/numbers.h"
 #include "document/position.h"
 #include "surface/paint_kinds.h"
 #include "surface/selection.h"
@@ -18,8 +17,6 @@ constexpr auto kPanelNames =
 constexpr double kBarOffset = 25;
 constexpr double kUnderlineAbove = 5;
 constexpr Rgb kBarFill = 0xE6E6E6;
-// The one symbology that has no picture beside that of the page.
-constexpr int kPageOnlySymbology = 12821;
 
 void Place(SurfaceOps& surface, std::string_view name, const CanvasArea& area) {
   surface.PlaceWidget(name, area.Left, area.Top, area.Width(), area.Height());
@@ -33,10 +30,10 @@ CanvasArea PanelAreaOf(const PageWork& work, const ObjectRecord& record) {
 }
 
 void PaintBody(PageWork& work, SurfaceOps& panel, int row, const CanvasArea& area) {
-  const ObjectRecord& record = work.document.Objects[row];
-  if (record.Kind == ObjectKind::Barcode && Int32Of(record.BarcodeKind) == kPageOnlySymbology) return;
+  ObjectRecord& record = work.document.Objects[row];
   PaintContext context{work.document,    panel,       work.measurer, work.ZoomFactor, work.filter,
-                       work.canvasWidth, work.images, work.pictures};
+                       work.canvasWidth, work.images, work.pictures, work.bars};
+  if (record.Kind == ObjectKind::Barcode) return PaintBarcodePanel(context, record, area);
   PaintObject(context, row);
   if (record.Kind != ObjectKind::TextBox) return;
   panel.SetPen(kBlack, 1, PenStyle::Solid);

@@ -88,6 +88,7 @@ struct PageWork {
   WorkImages images;
   double canvasWidth = 0, canvasHeight = 0;  // canvas units
   MadePictures pictures = {};
+  BarcodeState* bars = nullptr;
 };
 
 }  // namespace kev

@@ -9,7 +9,6 @@ namespace kev {
 
 inline constexpr Rgb kBlack = 0x000000;
 inline constexpr Rgb kWhite = 0xFFFFFF;
-inline constexpr Rgb kRestingPen = 0x787878;  // the pen between objects
 
 Rgb ToRgb(const Colour& colour);
 
@@ -41,7 +40,9 @@ void PaintCircle(PaintContext& context, ObjectRecord& record);
 void PaintPicture(PaintContext& context, const ObjectRecord& record);
 void PaintQr(PaintContext& context, ObjectRecord& record, int row);
 void PaintChart(PaintContext& context, ObjectRecord& record, int row);
-void PaintBarcode(PaintContext& context, const ObjectRecord& record);
+void PaintBarcode(PaintContext& context, ObjectRecord& record, int row);
+// On the panel of the current object, whose corner is at `area`.
+void PaintBarcodePanel(PaintContext& context, ObjectRecord& record, const CanvasArea& area);
 
 // A thin frame with a caption in its middle, cut where it has no room.
 void PaintPlaceholder(PaintContext& context, const CanvasArea& area, std::string_view caption);

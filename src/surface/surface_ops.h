@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "document/text_measurer.h"
@@ -13,7 +14,16 @@ namespace kev {
 
 using Rgb = std::uint32_t;
 
+inline constexpr Rgb kRestingPen = 0x787878;  // the pen between objects
+
 enum class PenStyle : std::uint8_t { Solid, Dotted };
+
+// A part of a symbol, from its origin.
+struct SymbolArea {
+  double Left = 0, Top = 0, Right = 0, Bottom = 0;
+
+  bool operator==(const SymbolArea&) const = default;
+};
 
 class SurfaceOps {
  public:
@@ -45,6 +55,11 @@ class SurfaceOps {
 
   // Many equal dots at once (the drawn grid): a dot of the pen's colour at each multiple of `step` inside.
   virtual void DrawDots(double left, double top, double right, double bottom, double step) = 0;
+
+  // Many filled areas of one colour as one primitive (a bar code). Its origin stands on a whole pixel of the
+  // device, and a pixel that an area covers in part is as dark as that part is large: scanners measure
+  // widths.
+  virtual void DrawSymbol(double x, double y, Rgb colour, std::span<const SymbolArea> areas) = 0;
 
   // The upper layer: the widgets that show the one current object ("lblob(1)" to "lblob(4)", "dot_1" to
   // "dot_8", "ObjL1", "ObjL2", "Lineaviva"), frames ("lnh01", "LineSelectHor01" and their like), column lines

@@ -74,7 +74,7 @@ void PaintByKind(PaintContext& context, ObjectRecord& record, int row) {
     case ObjectKind::Picture:
       return PaintPicture(context, record);
     case ObjectKind::Barcode:
-      return PaintBarcode(context, record);
+      return PaintBarcode(context, record, row);
     case ObjectKind::Qr:
       return PaintQr(context, record, row);
     case ObjectKind::Label:
@@ -117,6 +117,13 @@ void PaintObject(PaintContext& context, int row) {
 }
 
 PaintResult RedrawDocument(PaintContext& context, const SortedRows& sorted) {
+  BarcodeState own;
+  if (context.bars == nullptr) {
+    PaintContext withState = context;
+    withState.bars = &own;
+    return RedrawDocument(withState, sorted);
+  }
+  context.bars->Stopped.clear();
   RestorePen(context.surface);
   PaintResult result;
   constexpr double kFar = std::numeric_limits<double>::max();
@@ -138,14 +145,15 @@ PaintResult RedrawDocument(PaintContext& context, const SortedRows& sorted) {
 }
 
 void ApplyRedrawWriteBack(Document& document, const TextMeasurer& measurer, DisplayFilter filter,
-                          const WorkImages& images) {
+                          const WorkImages& images, BarcodeState* bars) {
   NullSurface surface;
   PaintContext context{.document = document,
                        .surface = surface,
                        .measurer = measurer,
                        .filter = filter,
                        .images = images,
-                       .pictures = {}};
+                       .pictures = {},
+                       .bars = bars};
   RedrawDocument(context, SetSortKeys(document));
 }
 

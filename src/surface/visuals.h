@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "barcode/painters.h"
 #include "document/document.h"
 #include "document/sort_keys.h"
 #include "document/text_measurer.h"
@@ -60,6 +61,8 @@ struct PaintContext {
   double canvasWidth = 0;  // canvas units, as DrawPageBackground gives it
   WorkImages images;
   MadePictures pictures = {};
+  // What bar codes keep from one painting to the next; without it they begin anew.
+  BarcodeState* bars = nullptr;
 };
 
 struct PaintResult {
@@ -71,8 +74,8 @@ struct PaintResult {
 };
 
 // Paints the shown rows and the corner marks of those that are selected. Rows learn by it what only painting
-// finds out: a line width of 0 becomes 1, a LINE's Width is its X2 less its X, a COMMAND is measured, and QR
-// and CHART get the name of their image.
+// finds out: a line width of 0 becomes 1, a LINE's Width is its X2 less its X, a COMMAND is measured, QR and
+// CHART get the name of their image, and a BARCODE is as wide as its bars.
 PaintResult RedrawDocument(PaintContext& context, const SortedRows& sorted);
 
 // One row, whether or not the filter shows it.
@@ -80,7 +83,7 @@ void PaintObject(PaintContext& context, int row);
 
 // The same changes to the rows as a redraw makes, without a surface.
 void ApplyRedrawWriteBack(Document& document, const TextMeasurer& measurer, DisplayFilter filter,
-                          const WorkImages& images = {});
+                          const WorkImages& images = {}, BarcodeState* bars = nullptr);
 
 // The first panel of the status bar behind a redraw: empty unless several objects are selected.
 // `selectedWord` is the text "selected" of the language.

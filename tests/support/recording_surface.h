@@ -17,6 +17,8 @@ namespace kev::test {
 class RecordingSurface : public SurfaceOps {
  public:
   std::vector<std::string> Lines;
+  // The areas of each symbol that was drawn.
+  std::vector<std::vector<SymbolArea>> Symbols;
 
   // All lines as one text, and none of them from now on.
   std::string Take() {
@@ -76,6 +78,17 @@ class RecordingSurface : public SurfaceOps {
   double TextWidth(std::string_view text) override { return measurer_.Measure(font_, text).Width; }
   void DrawDots(double left, double top, double right, double bottom, double step) override {
     Keep("dots", {left, top, right, bottom, step});
+  }
+  // Each area behind a colon: "symbol 720 400 000000: 0 0 10 200: 26 0 56 200".
+  void DrawSymbol(double x, double y, Rgb colour, std::span<const SymbolArea> areas) override {
+    std::string line = "symbol " + FormatNumber(x) + ' ' + FormatNumber(y) + ' ' + Hex(colour);
+    for (const SymbolArea& area : areas) {
+      line += ':';
+      for (const double edge : {area.Left, area.Top, area.Right, area.Bottom})
+        line += ' ' + FormatNumber(edge);
+    }
+    Lines.push_back(std::move(line));
+    Symbols.emplace_back(areas.begin(), areas.end());
   }
   void PlaceWidget(std::string_view name, double left, double top, double width, double height) override {
     Keep("place " + std::string(name), {left, top, width, height});

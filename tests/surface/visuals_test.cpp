@@ -177,28 +177,16 @@ TEST_F(VisualsTest, QrAndChartAreNamedByRowAndFramedAlone) {
   EXPECT_EQ(Record(chart).PictureFile, "/t\\Sc207.bmp");
 }
 
-TEST_F(VisualsTest, BarcodesOfTheCode128FamilyAndVerticalOnesIgnoreTheZoom) {
-  const int row = AddRow(document_, ObjectKind::Barcode, "1000", 800, 3000, 400);
-  for (const char* kind : {"1282", "1283", "12821"}) {
-    Record(row).BarcodeKind = kind;
-    EXPECT_NE(Painted(row, 2).find("rect 1000 800 4000 1200 A0A0A0\n"), std::string::npos) << kind;
-  }
-  Record(row).BarcodeKind = "13";
-  EXPECT_NE(Painted(row, 2).find("rect 2000 1600 8000 2400 A0A0A0\n"), std::string::npos);
-  Record(row).VerticalBar = kTrue;
-  EXPECT_NE(Painted(row, 2).find("rect 1000 800 1400 3800 A0A0A0\n"), std::string::npos);
-}
-
 TEST_F(VisualsTest, CaptionsOfPlaceholdersAreCutWhereTheyHaveNoRoom) {
   const FontSpec font{.Name = "Arial", .Size = 8};
-  const int row = AddRow(document_, ObjectKind::Barcode, "0", 0, 2000, 400);
-  Record(row).BarcodeKind = "251";
-  EXPECT_NE(Painted(row).find(" 2 OF 5 INTERLEAVE\n"), std::string::npos);
-  Record(row).Width = ToInt32(measurer_.Measure(font, "2 OF 5 INT...").Width + 1);
-  EXPECT_NE(Painted(row).find(" 2 OF 5 INT...\n"), std::string::npos);
-  Record(row).Width = 50;
-  EXPECT_EQ(Painted(row).find("text"), std::string::npos);
   const int chart = AddRow(document_, ObjectKind::Chart, "0", 0, 2000, 1000);
+  Record(chart).ChartValues = {"Sales by month"};
+  EXPECT_NE(Painted(chart).find(" CHART Sales by month\n"), std::string::npos);
+  Record(chart).Width = ToInt32(measurer_.Measure(font, "CHART Sales...").Width + 1);
+  EXPECT_NE(Painted(chart).find(" CHART Sales...\n"), std::string::npos);
+  Record(chart).Width = 50;
+  EXPECT_EQ(Painted(chart).find("text"), std::string::npos);
+  Record(chart).Width = 2000;
   Record(chart).ChartValues = {std::string(100000, 'x')};
   EXPECT_NE(Painted(chart).find("...\n"), std::string::npos);
 }

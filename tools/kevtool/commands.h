@@ -3,9 +3,11 @@
 // findings, 2 wrong usage. Results go to standard output, reasons to standard error.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "barcode/painters.h"
 #include "template/reader.h"
 
 namespace kev::tool {
@@ -26,6 +28,13 @@ int Sample(const std::string& file, bool json);
 // The data file is a .kex or .ked as the caller named it; its path stands absolute in the template.
 int New(const std::string& dataFile, const std::string& out);
 
+struct BarcodeChoice {
+  std::string kind;
+  std::optional<std::string> text;
+  bool lines = false;  // texts from standard input
+};
+int Barcode(const BarcodeChoice& choice);
+
 struct RenderChoice {
   std::string in;
   std::string out;
@@ -42,5 +51,7 @@ struct Opened {
 };
 // Reads a template as the designer opens one: what it refuses is refused here too.
 Opened Open(const std::string& file);
+// Names the bar codes that could not be painted to their end, on standard error.
+void TellStopped(const std::string& file, const Document& document, const BarcodeState& bars);
 
 }  // namespace kev::tool

@@ -98,6 +98,16 @@ void AddNew(CLI::App& app, Invocation& invocation) {
   command->callback([&invocation, file, out] { invocation.run = [=] { return New(*file, *out); }; });
 }
 
+void AddBarcode(CLI::App& app, Invocation& invocation) {
+  auto* command = app.add_subcommand("barcode", "Print the modules of a bar code, or its elements");
+  auto choice = std::make_shared<BarcodeChoice>();
+  command->add_option("KIND", choice->kind, "Number of the kind (13), or keyword of the encoder (EAN13)")
+      ->required();
+  command->add_option("TEXT", choice->text, "What is encoded; behind -- where it begins with -");
+  command->add_flag("--lines", choice->lines, "Encode each line of standard input instead of TEXT");
+  command->callback([&invocation, choice] { invocation.run = [choice] { return Barcode(*choice); }; });
+}
+
 #ifdef KEV_WITH_QT
 void AddRender(CLI::App& app, Invocation& invocation) {
   auto* command = app.add_subcommand("render", "Paint the page as the designer does, to PNG, PDF or SVG");
@@ -131,6 +141,7 @@ int main(int argc, char** argv) {
   AddPacking(app, invocation, "unpack", "Write the plain form of a packed template", Unpack);
   AddSample(app, invocation);
   AddNew(app, invocation);
+  AddBarcode(app, invocation);
 #ifdef KEV_WITH_QT
   AddRender(app, invocation);
 #endif

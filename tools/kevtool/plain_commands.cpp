@@ -45,7 +45,9 @@ int Rewrite(const std::string& in, const std::string& out, bool comments) {
   if (!outcome) return kRefused;
   // As on opening: the page is painted once between the two, and painting stores what it found out.
   DeriveGeometry(outcome->Read);
-  ApplyRedrawWriteBack(outcome->Read, BuiltInMeasurer(), DisplayFilter::All);
+  BarcodeState bars;
+  ApplyRedrawWriteBack(outcome->Read, BuiltInMeasurer(), DisplayFilter::All, {}, &bars);
+  TellStopped(in, outcome->Read, bars);
   DeriveGeometry(outcome->Read);
   const WriteReport report = AsksForPacking(outcome->Read.Settings)
                                  ? WritePacked(out, outcome->Read, {comments})
@@ -58,6 +60,13 @@ int Rewrite(const std::string& in, const std::string& out, bool comments) {
     std::cerr << out << ": bar code kind " << kind << " has no word in a template and will not come back\n";
   }
   return kGood;
+}
+
+void TellStopped(const std::string& file, const Document& document, const BarcodeState& bars) {
+  for (const int row : bars.Stopped) {
+    std::cerr << file << ": " << FindingText(FindingKind::PaintingStops) << ": "
+              << document.Page->ToUtf8(document.Objects[row].Content) << '\n';
+  }
 }
 
 int Eval(const std::string& file, const std::string& expression) {

@@ -43,12 +43,15 @@ int Render(const RenderChoice& choice) {
   RenderQrPictures codes(options.folders.ProgramFolder, *outcome->Read.Page);
   options.images.TempFolder = codes.Folder();
   options.pictures.Qr = &codes;
+  BarcodeState bars;
+  options.bars = &bars;
   if (const auto reason = RenderToFile(outcome->Read, options, choice.out)) {
     std::cerr << choice.out << ": " << *reason << '\n';
     return kRefused;
   }
   for (const int row : codes.Failed())
     std::cerr << choice.in << ": the QR code of object " << row << " could not be made and is not shown\n";
+  TellStopped(choice.in, outcome->Read, bars);
   return kGood;
 }
 
