@@ -75,11 +75,11 @@ bool ChartWizardRun::Accept() {
 }
 
 void ChartWizardRun::BrowsePicture() {
-  const FileChoice choice{std::string(kImageTitle),
-                          designer_.TemplateFolder(),
-                          {},
-                          {{std::string(kImageFilter), std::string(kImagePatterns)}},
-                          std::string(kImageEnding)};
+  const FileChoice choice{.Title = std::string(kImageTitle),
+                          .Folder = designer_.TemplateFolder(),
+                          .SuggestedName = {},
+                          .Filters = {{std::string(kImageFilter), std::string(kImagePatterns)}},
+                          .DefaultEnding = std::string(kImageEnding)};
   const std::optional<std::string> chosen = designer_.TheHost().ChooseFileToOpen(choice);
   if (!chosen || chosen->empty()) return;
   std::string missing;
