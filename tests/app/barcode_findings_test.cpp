@@ -50,7 +50,7 @@ TEST_F(BarcodeFindingsTest, StayBehindASaveAndGoWithTheirCause) {
 
 TEST_F(BarcodeFindingsTest, ComeAndGoWithTheZoom) {
   const auto designer = Start(
-      {Made("zoom.kev", TemplateWith("{20000;B128B;BarHeight=400}@code{NoBar}\r\n{Spacing=400;\\n}\r\n"))});
+      {Made("zoom.kev", TemplateWith("{25000;B128B;BarHeight=400}@code{NoBar}\r\n{Spacing=400;\\n}\r\n"))});
   EXPECT_TRUE(designer->Findings().empty());
   ASSERT_TRUE(designer->SetZoom("800%"));
   EXPECT_EQ(designer->Findings().size(), 1U);
