@@ -6,11 +6,9 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <QWidget>
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -231,36 +229,6 @@ TEST_F(ProcessesTest, DetachedProgramsOutliveUsAndCantBeWaitedFor) {
     EXPECT_FALSE(processes.StartDetached({File("missing"), {}}));
   }
   EXPECT_TRUE(QTest::qWaitFor([this] { return There("late"); }));
-}
-
-class Presses final : public QWidget {
- public:
-  int count = 0;
-
- protected:
-  void mousePressEvent(QMouseEvent* /*event*/) override { ++count; }
-};
-
-// The release of a click must not be handled while its press waits.
-TEST_F(ProcessesTest, WhatTheUserDoesIsHandledBehindAQuickProgramAndDuringASlowOne) {
-  Presses window;
-  window.resize(50, 50);
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-  const auto pressedDuring = [&](const std::string& script) {
-    const int before = window.count;
-    const auto id = Start(Shell(script));
-    const QPointF at(20, 20);
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
-      qt_handleMouseEvent(window.windowHandle(), at, window.mapToGlobal(at),
-                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton,
-                          type, Qt::NoModifier, 0);
-    processes_.Wait(*id);
-    return window.count - before;
-  };
-  EXPECT_EQ(pressedDuring("exit 0"), 0);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return window.count == 1; }));
-  EXPECT_EQ(pressedDuring("sleep 0.8"), 1);
 }
 
 TEST_F(ProcessesTest, TheHostTellsWhatItStartedAndForgetsTheRest) {
