@@ -176,25 +176,27 @@ TEST_F(ProcessesTest, TheEndMayStartAndWaitForAnother) {
 }
 
 TEST_F(ProcessesTest, AWaitEndsWhereTheProgramIsToEnd) {
-  const auto id = Start(Shell("sleep 60"));
-  ASSERT_TRUE(id);
-  bool returned = false;
-  // The end of a loop that was never begun would end the loops of later tests.
-  QTimer::singleShot(0, qApp, [&] {
-    QTimer::singleShot(400, qApp, [] { QCoreApplication::exit(7); });
-    processes_.Wait(*id);
-    returned = true;
-  });
-  QElapsedTimer timer;
-  timer.start();
-  EXPECT_EQ(QCoreApplication::exec(), 7);
-  EXPECT_TRUE(returned);
-  EXPECT_LT(timer.elapsed(), 10000);
+  for (const int milliseconds : {0, 30, 400}) {
+    const auto id = Start(Shell("exec sleep 60"));
+    ASSERT_TRUE(id);
+    bool returned = false;
+    // The end of a loop that was never begun would end the loops of later tests.
+    QTimer::singleShot(0, qApp, [&] {
+      QTimer::singleShot(milliseconds, qApp, [] { QCoreApplication::exit(7); });
+      processes_.Wait(*id);
+      returned = true;
+    });
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(QCoreApplication::exec(), 7);
+    EXPECT_TRUE(returned);
+    EXPECT_LT(timer.elapsed(), 10000);
+  }
   EXPECT_EQ(ended_, 0);
 }
 
 TEST_F(ProcessesTest, AStoppedProgramEndsTheWaitAndIsToldNoMore) {
-  const auto id = Start(Shell("sleep 60"));
+  const auto id = Start(Shell("exec sleep 60"));
   QTimer::singleShot(50, qApp, [&] { processes_.Stop(*id); });
   QElapsedTimer timer;
   timer.start();
@@ -240,7 +242,7 @@ TEST_F(ProcessesTest, TheHostTellsWhatItStartedAndForgetsTheRest) {
   EXPECT_EQ(told, 1);
   ASSERT_TRUE(host.StartProgram(Shell("touch " + File("free")), {}));
   EXPECT_TRUE(QTest::qWaitFor([this] { return There("free"); }));
-  const auto hanging = host.StartProgram(Shell("sleep 60"), [&told] { ++told; });
+  const auto hanging = host.StartProgram(Shell("exec sleep 60"), [&told] { ++told; });
   QTimer::singleShot(20, qApp, [&] { EXPECT_TRUE(host.Waiting()); });
   QTimer::singleShot(100, qApp, [&] { host.StopProgram(*hanging); });
   host.WaitForProcess(*hanging);
