@@ -214,7 +214,7 @@ class Designer {
   void DeriveGeometryAndRedraw();
   // Runs a command, event or read. Where it throws, the document is put back as it was, one message says
   // what could not be done and why, and the result is false. Guards may nest; the innermost one acts. A
-  // fetched picture that arrives meanwhile waits for the end of the outermost one.
+  // fetched picture that arrives meanwhile, or an image that is made, waits for the end of the outermost one.
   bool Guarded(const GuardedWork& work, const std::function<void()>& body);
   bool Guarded(const std::function<void()>& body) { return Guarded({}, body); }
   // For work that leaves the rows alone, or guards its own change of them: nothing is copied. What the work

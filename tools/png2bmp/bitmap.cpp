@@ -24,6 +24,12 @@ struct Reader {
   Reader& operator=(const Reader&) = delete;
 };
 
+bool HasSignature(std::string_view png) {
+  constexpr std::size_t kSignature = 8;
+  return png.size() >= kSignature &&
+         png_sig_cmp(reinterpret_cast<png_const_bytep>(png.data()), 0, kSignature) == 0;
+}
+
 // Little-endian.
 void Put(std::string& bytes, std::uint32_t value, int count) {
   for (int byte = 0; byte < count; ++byte)
@@ -52,6 +58,7 @@ std::string Header(std::uint32_t width, std::uint32_t height, std::uint32_t pixe
 }  // namespace
 
 Result<std::string, WhyNot> BitmapOfPng(std::string_view png) {
+  if (!HasSignature(png)) return WhyNot{"this is no PNG picture"};
   Reader reader;
   png_image& image = reader.image;
   if (png_image_begin_read_from_memory(&image, png.data(), png.size()) == 0) return WhyNot{image.message};

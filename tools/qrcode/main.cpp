@@ -19,7 +19,7 @@ constexpr int kWrongUsage = 2;
 constexpr std::string_view kTarget = "-o";
 constexpr std::string_view kUsage =
     "Usage: qrcode -oPICTURE TEXT\n"
-    "Writes a QR code of TEXT (UTF-8, 2953 bytes at most, two less with accents) to the PNG file PICTURE, "
+    "Writes a QR code of TEXT (UTF-8, 2953 bytes at most, one less with accents) to the PNG file PICTURE, "
     "black on white with a margin\n"
     "of four modules. The name stands directly behind -o. The last argument is the text, whatever it begins\n"
     "with. PICTURE is written whole or not at all.\n"

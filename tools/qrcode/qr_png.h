@@ -18,7 +18,7 @@ inline constexpr int kQuietZone = 4;
 inline constexpr int kModulePixels = 4;
 
 // The bytes of the text as they stand (UTF-8). Up to 2331 bytes get the error correction level M, up to 2953
-// the level L; two bytes less where the text is not plain ASCII.
+// the level L; one byte less where the text is not plain ASCII.
 Result<std::string, WhyNot> QrPng(std::string_view text);
 
 }  // namespace kev::tool

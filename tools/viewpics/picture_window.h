@@ -10,8 +10,6 @@
 namespace kev::tool {
 
 class PictureWindow final : public QWidget {
-  Q_OBJECT
-
  public:
   // Native path of a picture that can be read.
   PictureWindow(ImageCache& images, std::string path);
