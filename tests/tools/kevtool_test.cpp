@@ -74,7 +74,9 @@ TEST_F(Kevtool, ListsItsCommands) {
         "  dump                        Print a template as JSON\n",
         "  rewrite                     Read a template as on opening and write it as on saving\n",
         "  eval                        Print the value of a position in twips; nothing where it has "
-        "none\n"}) {
+        "none\n",
+        "  sample                      Check a file of sample data and print what it holds\n",
+        "  new                         Make a first template of a file of sample data\n"}) {
     EXPECT_NE(help.Output.find(line), std::string::npos) << line;
   }
 }
