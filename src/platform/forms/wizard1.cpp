@@ -22,6 +22,7 @@ constexpr int kPagesLeft = 3120 / 15;
 constexpr int kMargin = 16;
 constexpr QSize kSize(1230, 640);
 constexpr QSize kLeastPreview(300, 240);
+constexpr double kMostEnlarged = 2.5;
 constexpr std::array kPageCaptions = {kTextChartPageGeneral, kTextChartPageSeries, kTextChartPageTexts,
                                       kTextChartPageColors};
 constexpr std::array kLinkNames = {"Link01", "Link02", "Link03", "Link04"};
@@ -114,6 +115,7 @@ QWidget* Wizard1::BuildPreview(const Services& services) {
   preview_ = new KevGraph(services.Fonts, services.Images, ground);
   preview_->setAccessibleName(ToQString(texts_.Text(kTextChartPreview)));
   preview_->setMinimumSize(kLeastPreview);
+  preview_->EnlargeUpTo(kMostEnlarged);
   preview_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   auto* inside = new QVBoxLayout(ground);
   inside->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
