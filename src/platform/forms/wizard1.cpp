@@ -68,9 +68,10 @@ Wizard1::Wizard1(ChartWizardRun& run, const Services& services, QWidget* parent)
   findChild<QLineEdit*>(QStringLiteral("graph_title"))->setFocus();
 }
 
-// A field that has the keyboard tells that it is left; there has to be somebody to tell.
+// A control that has the keyboard tells that it is left, also while it is deleted with the dialog; by then
+// nobody may listen.
 Wizard1::~Wizard1() {
-  hide();
+  delete fields_;
 }
 
 void Wizard1::accept() {
