@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The whole page anew, from the table to the pixels, beside painting the same primitives that were prepared
 // beforehand.
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -250,7 +250,7 @@ BENCHMARK(ScrollWindowFloor)->Apply(AtAllSizesAndZooms);
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
+  const QApplication application(argc, argv);
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   benchmark::RunSpecifiedBenchmarks();
