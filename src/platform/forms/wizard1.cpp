@@ -20,7 +20,7 @@ namespace {
 // The pages stand 3120 twips from the left edge.
 constexpr int kPagesLeft = 3120 / 15;
 constexpr int kMargin = 16;
-constexpr QSize kSize(1230, 640);
+constexpr QSize kSize(1262, 640);
 constexpr QSize kLeastPreview(300, 240);
 constexpr double kMostEnlarged = 2.5;
 constexpr std::array kPageCaptions = {kTextChartPageGeneral, kTextChartPageSeries, kTextChartPageTexts,
