@@ -66,10 +66,12 @@ std::string ChartWizardRun::PictureOnDisk() const {
 }
 
 bool ChartWizardRun::Accept() {
+  // Where the field was not left before.
+  LeaveText(wizard_, "graph_background");
   bool accepted = false;
   const bool done = designer_.Guarded([&] {
     PageWork work = designer_.Surface().Work();
-    accepted = ApplyChartWizard(work, wizard_);
+    accepted = ApplyChartWizard(work, wizard_, [this] { designer_.Charts().SaveChartImage(); });
   });
   return done && accepted;
 }

@@ -24,6 +24,8 @@ constexpr std::size_t kLongestText = 400;
 constexpr Rgb kAxisGrey = 0x808080;
 constexpr Rgb kValueLineGrey = 0xD4D4D4;
 constexpr Rgb kChartTextColour = 0x000000;
+constexpr Rgb kLightLabelGrey = 0xE0E0E0;
+constexpr int kDarkBackground = 600;  // the sum of its six parts
 constexpr Rgb kLabelGrey = 0x404040;
 
 std::string_view ValueOf(const ChartLook& look, std::size_t slot) {
@@ -95,6 +97,14 @@ ChartSeries SeriesOf(const ChartLook& look, int n) {
   return series;
 }
 
+// Readable also where nobody chose a colour for a dark background.
+Rgb DefaultLabelColour(const ChartData& data) {
+  int sum = 0;
+  for (const int part : data.BackGround)
+    sum += part;
+  return sum < kDarkBackground && data.BackGroundPicture.empty() ? kLightLabelGrey : kLabelGrey;
+}
+
 void ReadStyles(ChartData& data, const ChartLook& look) {
   const auto value = [&](std::size_t slot) { return ValueOf(look, slot); };
   data.TitleStyle = {FontOf(value(slot::kTitleFont), value(slot::kTitleFontSize)),
@@ -103,7 +113,7 @@ void ReadStyles(ChartData& data, const ChartLook& look) {
   data.TitleStyle.Font.Italic = IsYes(value(slot::kTitleFontItalic));
   data.TitleStyle.Font.Underline = IsYes(value(slot::kTitleFontUnderline));
   data.LabelStyle = {FontOf(value(slot::kLayoutFont), value(slot::kLayoutFontSize)),
-                     ColourOr(value(slot::kLayoutFontColor), kLabelGrey)};
+                     ColourOr(value(slot::kLayoutFontColor), DefaultLabelColour(data))};
   data.ValueStyle = {FontOf(value(slot::kShowValuesFont), value(slot::kShowValuesFontSize)),
                      ColourOr(value(slot::kShowValuesFontColor), kChartTextColour)};
 }

@@ -12,6 +12,7 @@ constexpr double kThinnestBar = 1;  // logical pixels of height
 constexpr double kRoundest = 9;
 constexpr double kMostBevel = 3;
 constexpr double kLineWidth = 2.25;
+constexpr double kFineLine = 1.25;
 constexpr double kAreaLine = 1.75;
 constexpr double kDot = 3.2;
 constexpr double kDotGap = 9;  // dots nearer to each other than this are left out
@@ -72,7 +73,8 @@ void DrawFlatBar(std::vector<ChartShape>& shapes, const BarPlace& bar, const Cha
 void MarkPoints(const SeriesWork& work, std::size_t series, const std::vector<ChartPoint>& points) {
   const ChartSeries& drawn = work.Work.Data.Series[series];
   for (std::size_t index = 0; index < points.size(); ++index)
-    work.Marks.push_back({series, index, points[index], drawn.Values[index] < 0, work.Frame.Slot()});
+    work.Marks.push_back(
+        {series, index, points[index], drawn.Values[index] < 0, work.Frame.Slot(), work.Frame.Slot()});
 }
 
 // A dot at the plot's edge would reach out of a plot that ends where the picture does.
@@ -90,7 +92,8 @@ void DrawFlatBars(const SeriesWork& work) {
                           bar.Index,
                           {(area.Left + area.Right) / 2, bar.Negative ? area.Bottom : area.Top},
                           bar.Negative,
-                          bar.Pitch});
+                          bar.Pitch,
+                          work.Frame.Slot()});
   }
 }
 
@@ -112,7 +115,8 @@ void DrawFlatLine(const SeriesWork& work, std::size_t series) {
   const std::vector<ChartPoint> points = PointsOf(work, series);
   const Rgb colour = work.Work.Data.Series[series].Colour;
   if (points.size() > 1)
-    work.Work.Shapes.push_back(ChartPolyline{.Points = points, .Colour = colour, .Width = kLineWidth});
+    work.Work.Shapes.push_back(ChartPolyline{
+        .Points = points, .Colour = colour, .Width = work.Frame.Slot() >= kDotGap ? kLineWidth : kFineLine});
   const bool dots = points.size() == 1 || work.Frame.Slot() >= kDotGap;
   for (const ChartPoint& point : points) {
     if (!dots || !HasRoom(point, work.Frame.Front)) break;

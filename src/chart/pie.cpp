@@ -81,7 +81,7 @@ void DrawSlices(const ChartWork& work, const PiePlace& place, const std::vector<
     if (slices.size() > 1) {
       shape.Points.push_back(place.Centre);
       shape.EdgeColour = kChartWhite;
-      shape.EdgeWidth = std::min(1.4, place.Radius / 40);
+      shape.EdgeWidth = std::min({1.4, place.Radius / 40, place.Radius * (slice.To - slice.From) / 400});
     }
     work.Shapes.push_back(std::move(shape));
   }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kTickGap = 7;    // between a tick's text and the axis
 constexpr double kTickPitch = 2;  // heights of a text between two ticks
-constexpr int kMostSteps = 8;
+constexpr int kMostSteps = 6;
 constexpr double kMostTickShare = 0.35;
 constexpr double kMostLabelShare = 0.35;
 constexpr double kMostValueShare = 0.25;

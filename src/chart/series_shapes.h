@@ -12,6 +12,7 @@ struct ValueMark {
   ChartPoint At;
   bool Below = false;
   double Pitch = 0;  // the room from one mark of its kind to the next
+  double Slot = 0;   // that of its category
 };
 
 std::vector<ValueMark> DrawSeries(const ChartWork& work, const PlotFrame& frame);

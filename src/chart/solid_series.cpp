@@ -102,7 +102,8 @@ std::vector<ChartPoint> InFront(const std::vector<ChartPoint>& points, const Sol
 void MarkPoints(const SeriesWork& work, std::size_t series, const Solid& solid) {
   const std::vector<ChartPoint> points = PointsOf(work, series);
   for (std::size_t index = 0; index < points.size(); ++index)
-    work.Marks.push_back({series, index, solid.Back(points[index]), false, work.Frame.Slot()});
+    work.Marks.push_back(
+        {series, index, solid.Back(points[index]), false, work.Frame.Slot(), work.Frame.Slot()});
 }
 
 void DrawSide(std::vector<ChartShape>& shapes, double x, double top, double foot, const Solid& solid,
@@ -126,7 +127,7 @@ void DrawSolidBars(const SeriesWork& work, DepthLane lane) {
     const ChartPoint at = bar.Negative ? solid.Front({middle, bar.Area.Bottom})
                                        : ChartPoint{solid.Middle({middle, bar.Area.Top}).X,
                                                     solid.Back({middle, bar.Area.Top}).Y};
-    work.Marks.push_back({bar.Series, bar.Index, at, bar.Negative, bar.Pitch});
+    work.Marks.push_back({bar.Series, bar.Index, at, bar.Negative, bar.Pitch, work.Frame.Slot()});
   }
 }
 

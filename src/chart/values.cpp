@@ -10,6 +10,7 @@ namespace {
 
 constexpr double kGap = 3;
 constexpr double kUprightPitch = 0.9;  // heights of a text
+constexpr double kLeastSlot = 0.8;     // heights of a text
 constexpr double kNoBars = 1e9;
 constexpr double kPointGap = 6;  // above the dot of a line
 
@@ -43,13 +44,16 @@ double HeightOfValues(const ChartWork& work, double pitch) {
 }
 
 void DrawValues(const ChartWork& work, std::vector<ValueMark> marks) {
+  const double slot = marks.empty() ? 0 : marks.front().Slot;
+  // Where some would find a place by chance among hundreds, none says more.
+  const bool hasRoom = slot >= work.Texts.HeightOf(work.Data.ValueStyle) * kLeastSlot;
   double pitch = kNoBars;
   for (const ValueMark& mark : marks)
     if (IsBar(work.Data.Series[mark.Series].Type)) pitch = mark.Pitch;
   const bool upright = HeightOfValues(work, pitch) > work.Texts.HeightOf(work.Data.ValueStyle);
   for (const ValueMark& mark : marks) {
     const ChartSeries& series = work.Data.Series[mark.Series];
-    if (!series.ShowValues) continue;
+    if (!series.ShowValues || !hasRoom) continue;
     ChartText text = work.Texts.Make(work.Data.ValueStyle, series.Shown[mark.Index]);
     if (!IsBar(series.Type))
       PlaceLevel(work, mark, std::move(text), kPointGap);

@@ -22,6 +22,11 @@ void KevGraph::Show(const ChartLook& look) {
   update();
 }
 
+void KevGraph::EnlargeUpTo(double factor) {
+  largest_ = factor;
+  update();
+}
+
 QImage KevGraph::Image(double scale) const {
   return ChartImageOf(picture_, scale, fonts_, images_);
 }
@@ -34,7 +39,7 @@ QSize KevGraph::sizeHint() const {
 void KevGraph::paintEvent(QPaintEvent*) {
   if (picture_.Width <= 0 || picture_.Height <= 0) return;
   QPainter painter(this);
-  const double fit = std::min({1.0, width() / picture_.Width, height() / picture_.Height});
+  const double fit = std::min({largest_, width() / picture_.Width, height() / picture_.Height});
   painter.translate(std::floor((width() - picture_.Width * fit) / 2),
                     std::floor((height() - picture_.Height * fit) / 2));
   painter.scale(fit, fit);

@@ -21,6 +21,8 @@ class KevGraph final : public QWidget {
   void Show(const ChartLook& look);
   const ChartLook& Look() const { return look_; }
   const ChartPicture& Picture() const { return picture_; }
+  // A chart with less than the control's room is shown up to this many times as large; 1 from the start.
+  void EnlargeUpTo(double factor);
   // The chart by itself, as ChartImageOf.
   QImage Image(double scale) const;
 
@@ -34,6 +36,7 @@ class KevGraph final : public QWidget {
   ImageCache& images_;
   ChartLook look_;
   ChartPicture picture_;
+  double largest_ = 1;
 };
 
 }  // namespace kev

@@ -52,7 +52,8 @@ int RefusalOf(const ChartWizard& wizard, const Document& document) {
   return RefusalOfY(wizard, document);
 }
 
-bool ApplyChartWizard(PageWork& work, const ChartWizard& wizard) {
+bool ApplyChartWizard(PageWork& work, const ChartWizard& wizard,
+                      const std::function<void()>& saveChartImage) {
   if (const int refused = RefusalOf(wizard, work.document)) {
     work.services.ShowBox(refused, BoxIcon::Critical);
     return false;
@@ -64,6 +65,7 @@ bool ApplyChartWizard(PageWork& work, const ChartWizard& wizard) {
   if (Changed(wizard, "graph_height")) record.Height = Int32Of(wizard.Now.graph_height);
   StorePlace(record, wizard, work.document);
   record.PictureFile = ChartImageName(work.images, wizard.Row);
+  saveChartImage();
   work.services.FullRepaint();
   return true;
 }

@@ -2,6 +2,8 @@
 // Accepting `Wizard1`: what is refused, and what goes into the record.
 #pragma once
 
+#include <functional>
+
 #include "chart/wizard.h"
 #include "surface/page_work.h"
 
@@ -12,7 +14,7 @@ namespace kev {
 int RefusalOf(const ChartWizard& wizard, const Document& document);
 
 // False when it was refused: the message was shown, nothing is stored and the dialog stays. Otherwise one
-// snapshot, the record, its place on the page, and a full repaint, which makes the image anew.
-bool ApplyChartWizard(PageWork& work, const ChartWizard& wizard);
+// snapshot, the record with its place on the page, its image by `saveChartImage`, and a full repaint.
+bool ApplyChartWizard(PageWork& work, const ChartWizard& wizard, const std::function<void()>& saveChartImage);
 
 }  // namespace kev

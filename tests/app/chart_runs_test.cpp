@@ -191,6 +191,31 @@ TEST_F(ChartRun, NamesTheImageOfThisRun) {
   EXPECT_EQ(Chart().PictureFile, ChartImageName(designer_->Images(), row_));
 }
 
+TEST_F(ChartRun, MakesTheImageFromTheStoredRecordAndPaintsThen) {
+  Open();
+  Select();
+  ChartWizard wizard = OpenedChartWizard(Chart(), row_);
+  TypeText(wizard, "graph_title", "Other");
+  const int redrawn = view_.Redrawn;
+  PageWork work = designer_->Surface().Work();
+  int made = 0;
+  EXPECT_TRUE(ApplyChartWizard(work, wizard, [&] {
+    ++made;
+    EXPECT_EQ(Chart().ChartValues[slot::kTitle], "Other");
+    EXPECT_EQ(Chart().PictureFile, ChartImageName(designer_->Images(), row_));
+    EXPECT_TRUE(designer_->Enabled(Command::Undo));
+    EXPECT_EQ(view_.Redrawn, redrawn);
+  }));
+  EXPECT_EQ(made, 1);
+  EXPECT_GT(view_.Redrawn, redrawn);
+}
+
+TEST_F(ChartRun, ABackgroundThatWasNotLeftIsClampedWhenItIsAccepted) {
+  Open();
+  EXPECT_TRUE(Accepts("graph_background", "300,0,0,0,0,0"));
+  EXPECT_EQ(Chart().ChartValues[slot::kBackGround], "255,0,0,0,0,0");
+}
+
 TEST_F(ChartRun, LiesAtYWhereNoSubsectionOwnsIt) {
   Open();
   Chart().OwnerName = "NOBODY";
@@ -198,7 +223,7 @@ TEST_F(ChartRun, LiesAtYWhereNoSubsectionOwnsIt) {
   TypeText(wizard, "combo_graphY", "90000");
   PageWork work = designer_->Surface().Work();
   EXPECT_EQ(RefusalOf(wizard, work.document), 0);
-  EXPECT_TRUE(ApplyChartWizard(work, wizard));
+  EXPECT_TRUE(ApplyChartWizard(work, wizard, [] {}));
   EXPECT_EQ(Chart().AbsoluteY, 90000);
 }
 

@@ -366,6 +366,32 @@ TEST_F(PropertyPanelTest, ADoubleClickOnARowOpensTheSubsectionsDialog) {
   EXPECT_EQ(boxes.texts.size(), 1);
 }
 
+TEST_F(PropertyPanelTest, ACustomRowOpensTheWizardOfAChart) {
+  std::ofstream(home_.Path("work/chart.kev"), std::ios::binary)
+      << "KEXVER=4\r\n[HEADER]\r\n{Spacing=400;\\n}\r\n[DATA]\r\n{Graph_Height=2000;Graph_Width=3000}\r\n"
+         "{Buildgraph=500,100;\\n}\r\n{Spacing=3000;\\n}\r\n[FOOTER]\r\n{Spacing=400;\\n}\r\n";
+  ASSERT_TRUE(designer_->OpenTemplate(home_.Path("work/chart.kev")));
+  for (int row = 1; row <= Objects().LastScanned(); ++row)
+    if (Objects()[row].Kind == ObjectKind::Chart) ClickObject(row);
+  ASSERT_EQ(Title().accessibleName(), Text(915));
+  const Boxes boxes;
+  Grid().setFocus();
+  Grid().SetCurrentRow(1);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(boxes.texts, QStringList(QStringLiteral("Wizard1")));
+}
+
+TEST_F(PropertyPanelTest, TheButtonOfAColourOpensThePicker) {
+  ClickObject(RowOf("Alpha"));
+  Grid().setFocus();
+  Grid().SetCurrentRow(GridRow(QStringLiteral("Font color")));
+  const Boxes boxes;
+  Key(Qt::Key_F2);
+  Key(Qt::Key_F4);
+  EXPECT_EQ(boxes.texts, QStringList(QStringLiteral("ShowColors")));
+  EXPECT_EQ(Value(QStringLiteral("Font color")), QStringLiteral("0,0,0"));
+}
+
 // --- Places
 // ------------------------------------------------------------------------------------------------------
 

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "chart/definition.h"
 #include "support/sample_page.h"
 #include "template/reader.h"
 
@@ -162,6 +163,35 @@ TEST(RenderExamples, EveryExampleIsPaintedAtEveryZoom) {
       EXPECT_NE(image->pixel(image->width() / 2, static_cast<int>(13 * zoom)), 0xFFFFFFFF);
     }
   }
+}
+
+TEST_F(RenderTest, ChartsAreDrawnWithoutAFile) {
+  const int chart = AddRow(document_, ObjectKind::Chart, "0", 400, 3000, 1500);
+  document_.Objects[chart].ChartValues = ChartDefinition().Values;
+  constexpr QRgb kBar = 0xFFC83811;
+  for (const double scale : {1.0, 2.0}) {
+    options_.scale = scale;
+    const QImage image = Image();
+    int bars = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        bars += image.pixel(x, y) == kBar ? 1 : 0;
+    EXPECT_GT(bars, 1000 * scale) << scale;
+  }
+  EXPECT_TRUE(QDir(folder_.path()).isEmpty());
+}
+
+// As shapes, not as a picture of them.
+TEST_F(RenderTest, ChartsStayDrawingsInDrawings) {
+  const int chart = AddRow(document_, ObjectKind::Chart, "0", 400, 3000, 1500);
+  document_.Objects[chart].ChartValues = ChartDefinition().Values;
+  for (const char* name : {"a.svg", "a.pdf"}) {
+    ASSERT_EQ(RenderToFile(document_, options_, Path(name)), std::nullopt);
+    const QByteArray bytes = Bytes(Path(name));
+    EXPECT_FALSE(bytes.contains("<image")) << name;
+    EXPECT_FALSE(bytes.contains("/Subtype /Image")) << name;
+  }
+  EXPECT_TRUE(Bytes(Path("a.svg")).contains("#c83811"));
 }
 
 }  // namespace

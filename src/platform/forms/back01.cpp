@@ -42,6 +42,12 @@ std::optional<std::array<int, 6>> Back01::Choose(std::string_view ends, const La
   return dialog.exec() == QDialog::Accepted ? std::optional(dialog.Result()) : std::nullopt;
 }
 
+void Back01::accept() {
+  for (std::size_t n = 0; n < rows_.size(); ++n)
+    Leave(n);
+  QDialog::accept();
+}
+
 QString Back01::Text(int number) const {
   return ToQString(texts_.Text(number));
 }

@@ -25,6 +25,8 @@ class Back01 final : public QDialog {
   Back01(std::string_view ends, const LanguageTexts& texts, QWidget* parent = nullptr);
   ~Back01() override;
 
+  // Also takes what stands in a box that was not left.
+  void accept() override;
   const std::array<int, 6>& Result() const { return state_.Sliders; }
   // Shows the dialog; nothing when the user gives up.
   static std::optional<std::array<int, 6>> Choose(std::string_view ends, const LanguageTexts& texts,

@@ -20,8 +20,9 @@ namespace {
 // The pages stand 3120 twips from the left edge.
 constexpr int kPagesLeft = 3120 / 15;
 constexpr int kMargin = 16;
-constexpr QSize kSize(1230, 640);
+constexpr QSize kSize(1262, 640);
 constexpr QSize kLeastPreview(300, 240);
+constexpr double kMostEnlarged = 2.5;
 constexpr std::array kPageCaptions = {kTextChartPageGeneral, kTextChartPageSeries, kTextChartPageTexts,
                                       kTextChartPageColors};
 constexpr std::array kLinkNames = {"Link01", "Link02", "Link03", "Link04"};
@@ -67,9 +68,10 @@ Wizard1::Wizard1(ChartWizardRun& run, const Services& services, QWidget* parent)
   findChild<QLineEdit*>(QStringLiteral("graph_title"))->setFocus();
 }
 
-// A field that has the keyboard tells that it is left; there has to be somebody to tell.
+// A control that has the keyboard tells that it is left, also while it is deleted with the dialog; by then
+// nobody may listen.
 Wizard1::~Wizard1() {
-  hide();
+  delete fields_;
 }
 
 void Wizard1::accept() {
@@ -114,6 +116,7 @@ QWidget* Wizard1::BuildPreview(const Services& services) {
   preview_ = new KevGraph(services.Fonts, services.Images, ground);
   preview_->setAccessibleName(ToQString(texts_.Text(kTextChartPreview)));
   preview_->setMinimumSize(kLeastPreview);
+  preview_->EnlargeUpTo(kMostEnlarged);
   preview_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   auto* inside = new QVBoxLayout(ground);
   inside->setContentsMargins(kMargin, kMargin, kMargin, kMargin);

@@ -15,7 +15,7 @@ namespace kev {
 namespace {
 
 constexpr int kCountWidth = 70;
-constexpr int kNameWidth = 92, kValuesWidth = 132, kFormatWidth = 64, kColourWidth = 86, kTypeWidth = 112;
+constexpr int kNameWidth = 84, kValuesWidth = 118, kFormatWidth = 56, kColourWidth = 86, kTypeWidth = 108;
 constexpr int kSpacing = 7;
 
 constexpr std::array kHeads = {kTextChartSeriesName, kTextChartSeriesValues, kTextChartSeriesFormat,
