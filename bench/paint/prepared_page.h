@@ -52,6 +52,8 @@ class PreparedPage final : public SurfaceOps {
   void DrawDots(double, double, double, double, double) override {}
   void PlaceWidget(std::string_view, double, double, double, double) override {}
   void ShowWidget(std::string_view, bool) override {}
+  SurfaceOps& SurfaceOf(std::string_view) override { return *this; }
+  void SetWidgetText(std::string_view, std::string_view) override {}
 
  private:
   struct Line {

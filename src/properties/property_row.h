@@ -36,6 +36,8 @@ struct PropertyRow {
   int Description = 0;                  // number of the text under the grid; see DescriptionOf
   SheetAction Action = SheetAction::None;
   bool Enabled = true;
+  // The value is in the page of this character set; empty for the template's own.
+  std::string CharSet = {};
 
   bool operator==(const PropertyRow&) const = default;
 };

@@ -39,6 +39,13 @@ constexpr ObjectRow YRow(int description, CheckOfRow check = CheckY) {
 constexpr ObjectRow ContentRow(std::string_view caption, int description, CheckOfRow check = CheckNotBlank) {
   return {caption, kPlainText, ReadText<&ObjectRecord::Content>, StoreContent, check, description};
 }
+// What the object shows on the page, in its character set.
+constexpr ObjectRow ShownTextRow(std::string_view caption, int description,
+                                 CheckOfRow check = CheckNotBlank) {
+  ObjectRow row = ContentRow(caption, description, check);
+  row.inOwnCharSet = true;
+  return row;
+}
 constexpr ObjectRow GridRow(int description) {
   return YesNoRow<&ObjectRecord::AlignToGrid, 1>("Align to grid", description);
 }

@@ -128,6 +128,7 @@ std::optional<Sheet> ShowSheetFor(const Document& document, int object, SheetPla
     shown.Description = row.description;
     shown.Action = row.action;
     shown.Enabled = row.enabled == nullptr || row.enabled(source);
+    if (row.inOwnCharSet) shown.CharSet = source.Record().CharSet;
     SetEditor(shown, row.editor, document);
   }
   return sheet;

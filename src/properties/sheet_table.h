@@ -65,6 +65,7 @@ struct ObjectRow {
   RowPlace place = RowPlace::Everywhere;
   bool (*enabled)(const RowSource& source) = nullptr;  // null: always
   SheetAction action = SheetAction::None;
+  bool inOwnCharSet = false;  // the value is text in the object's character set
 };
 
 // What the refresh behind an edit has to take care of.

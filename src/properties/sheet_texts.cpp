@@ -13,7 +13,7 @@ constexpr RowEditor kFormatList = OpenList("|Currency|#,###,##0.00|#,###, K|###,
 constexpr RowEditor kCaseList = ClosedList("|none|UPPER|lower|First Up|");
 
 constexpr auto kLabelRows = std::to_array<ObjectRow>({
-    ContentRow("Expression", kTextDescribeExpression),
+    ShownTextRow("Expression", kTextDescribeExpression),
     XRow(kTextDescribeXColumn, CheckXNotNegative),
     YRow(kTextDescribeYPosition),
     AlignmentRow(kTextDescribeAlignment),
@@ -61,7 +61,7 @@ void StorePassword(const RowTarget& target, std::string_view text) {
 }
 
 constexpr auto kTextBoxRows = std::to_array<ObjectRow>({
-    ContentRow("Initial expression", 0, nullptr),
+    ShownTextRow("Initial expression", 0, nullptr),
     OptionalRow<&R::CommandPayload>("@Variable"),
     XRow(0, CheckXNotNegative),
     YRow(0),

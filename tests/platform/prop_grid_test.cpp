@@ -352,6 +352,33 @@ TEST_F(PropGridTest, ACharacterThatThePageLacksIsRefusedByName) {
   EXPECT_EQ(Cell(kText).data().toString(), QStringLiteral("Total"));
 }
 
+TEST_F(PropGridTest, ACaptionThatIsTooLongTakesASecondLine) {
+  std::vector<PropertyRow> rows = AllRows();
+  rows[kNumber - 1].Caption = "Calculate height at runtime";
+  Show(rows);
+  EXPECT_GE(grid_.rowHeight(kNumber - 1), grid_.rowHeight(kText - 1) + grid_.fontMetrics().height());
+  EXPECT_EQ(grid_.rowHeight(kOpen - 1), grid_.rowHeight(kText - 1));
+  Show(AllRows());
+  EXPECT_EQ(grid_.rowHeight(kNumber - 1), grid_.rowHeight(kText - 1));
+}
+
+TEST_F(PropGridTest, TextOfACharacterSetIsReadAndTypedInItsOwnPage) {
+  std::vector<PropertyRow> rows = AllRows();
+  rows[kText - 1].CharSet = "204";
+  rows[kText - 1].Value = "\xC4\xE0";
+  Show(rows);
+  EXPECT_EQ(Cell(kText).data().toString(), QStringLiteral("\u0414\u0430"));
+  OpenByKey(kText);
+  EditorAs<QLineEdit>(kText).setText(QStringLiteral("\u0414\u043D\u0438"));
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Value(kText), "\xC4\xED\xE8");
+  EXPECT_EQ(refused_.size(), 0);
+  OpenByKey(kText);
+  EditorAs<QLineEdit>(kText).setText(QStringLiteral("\u00E9"));
+  Key(Qt::Key_Return);
+  EXPECT_EQ(refused_.size(), 1);
+}
+
 TEST_F(PropGridTest, WhatIsBeingTypedStaysWhenTheSameRowsAreShownAgain) {
   OpenByKey(kText);
   Type("Sum");

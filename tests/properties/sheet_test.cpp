@@ -38,6 +38,20 @@ TEST_F(SheetTest, EveryKindShowsItsRowsInBothPlaces) {
   }
 }
 
+TEST_F(SheetTest, OnlyTheTextThatThePageShowsIsInTheObjectsCharacterSet) {
+  for (const ObjectKind kind : {ObjectKind::Label, ObjectKind::TextBox}) {
+    Make(kind);
+    document_.Objects[document_.Objects.CurrentObject].CharSet = "204";
+    int inCharSet = 0;
+    for (const PropertyRow& row : Shown().Rows) {
+      const bool text = row.Caption == "Expression" || row.Caption == "Initial expression";
+      EXPECT_EQ(row.CharSet, text ? "204" : "") << row.Caption;
+      inCharSet += text ? 1 : 0;
+    }
+    EXPECT_EQ(inCharSet, 1);
+  }
+}
+
 TEST_F(SheetTest, MainSectionsShowTheirHeights) {
   document_.Objects.CurrentObject = bar_;
   for (const std::string title : {"[DATA]", " [data] ", "[Header]", "[FOOTER]"}) {

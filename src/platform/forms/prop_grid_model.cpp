@@ -39,13 +39,17 @@ void PropGridModel::Show(const std::vector<PropertyRow>& rows, const CodePage& p
 }
 
 QString PropGridModel::TextAt(const QModelIndex& index) const {
-  return ToQString(RowAt(index).Value, *page_);
+  return ToQString(RowAt(index).Value, PageOf(RowAt(index)));
+}
+
+const CodePage& PropGridModel::PageOf(const PropertyRow& row) const {
+  return row.CharSet.empty() ? *page_ : PageOfCharSet(row.CharSet, *page_);
 }
 
 QString PropGridModel::Shown(const PropertyRow& row) const {
-  if (row.Editor != EditorKind::Font) return ToQString(row.Value, *page_);
+  if (row.Editor != EditorKind::Font) return ToQString(row.Value, PageOf(row));
   const std::optional<FontValue> font = ParseFontValue(row.Value);
-  if (!font) return ToQString(row.Value, *page_);
+  if (!font) return ToQString(row.Value, PageOf(row));
   QString words = ToQString(font->Name, *page_) + QStringLiteral(", %1").arg(font->Size);
   if (font->Bold) words += QStringLiteral(", bold");
   if (font->Italic) words += QStringLiteral(", italic");
@@ -88,7 +92,7 @@ Qt::ItemFlags PropGridModel::flags(const QModelIndex& index) const {
 bool PropGridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   if (role != Qt::EditRole || !index.isValid() || index.column() != kValue) return false;
   QString refused;
-  const std::optional<std::string> text = FromQString(value.toString(), *page_, &refused);
+  const std::optional<std::string> text = FromQString(value.toString(), PageOf(RowAt(index)), &refused);
   if (!text) {
     Q_EMIT Refused(refused);
     return false;

@@ -26,7 +26,7 @@ class PropGridModel final : public QAbstractTableModel {
     return rows_[static_cast<std::size_t>(index.row())];
   }
   QString TextAt(const QModelIndex& index) const;
-  const CodePage& Page() const { return *page_; }
+  const CodePage& PageOf(const PropertyRow& row) const;
   // The cell's value as the cell shows it: a colour in a swatch and numbers, a font in words.
   QString Shown(const PropertyRow& row) const;
 
