@@ -2,6 +2,7 @@
 // Cut, copy and paste of whole objects, within the program: the clipboard of the system is not used.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>

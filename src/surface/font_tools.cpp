@@ -2,6 +2,7 @@
 #include "surface/font_tools.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <utility>
 #include <vector>

@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include "base/text_numbers.h"
 #include "platform/forms/align_to_grid_frm.h"
 #include "platform/forms/group_flag_forms.h"
 #include "platform/forms/kav_edit01.h"
@@ -332,15 +333,15 @@ TEST_F(GroupWindowTest, TheTextToolsFollowTheSelection) {
             &Button("ImgButton15")};
   };
   for (const QWidget* tool : all()) {
-    EXPECT_FALSE(tool->isEnabled()) << tool->objectName();
-    EXPECT_FALSE(tool->accessibleName().isEmpty()) << tool->objectName();
+    EXPECT_FALSE(tool->isEnabled()) << tool->objectName().toStdString();
+    EXPECT_FALSE(tool->accessibleName().isEmpty()) << tool->objectName().toStdString();
   }
   EXPECT_EQ(Font().currentText(), QString());
   EXPECT_EQ(Size().currentText(), QString());
   At("Alpha").Italic = kTrue;
   Select("Alpha");
   for (const QWidget* tool : all())
-    EXPECT_TRUE(tool->isEnabled()) << tool->objectName();
+    EXPECT_TRUE(tool->isEnabled()) << tool->objectName().toStdString();
   EXPECT_EQ(Font().currentText(), QStringLiteral("Arial"));
   EXPECT_EQ(Size().currentText(), QStringLiteral("10"));
   EXPECT_TRUE(Button("ImgButton11").isChecked());

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QToolBar>
+#include <array>
 #include <utility>
 
 #include "base/text_numbers.h"

@@ -4,6 +4,9 @@
 
 #include <QComboBox>
 #include <QToolButton>
+#include <QWheelEvent>
+#include <functional>
+#include <optional>
 
 #include "app/designer.h"
 

@@ -38,6 +38,8 @@ QString ImageOf(const ToolButtonRow& row, const Designer& designer) {
 ToolBars::ToolBars(QMainWindow& window, const Designer& designer, Actions actions)
     : QObject(&window), actions_(std::move(actions)) {
   first_ = NewBar(window, designer, "toolbar1", kTextTools);
+  // One row does not hold both.
+  window.addToolBarBreak();
   second_ = NewBar(window, designer, "toolbar2", kTextMenuInsert);
   for (const ToolButtonRow& row : kToolButtons)
     if (row.command || row.fontTool || !row.tool.empty()) AddButton(row, designer);
