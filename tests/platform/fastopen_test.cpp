@@ -194,12 +194,12 @@ TEST_F(FastopenTest, WithoutFilesItSaysSo) {
   Open({});
   ASSERT_EQ(List().count(), 1);
   EXPECT_EQ(List().item(0)->text(), ToQString(designer.Text(kTextWelcomeNoRecent)));
+  EXPECT_TRUE(Button("newtemplate").hasFocus());
   ClickRow(0);
   QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, MiddleOf(0));
   EXPECT_TRUE(form->isVisible());
   EXPECT_EQ(run->Chosen(), -1);
   EXPECT_FALSE(Button("openbutt").isEnabled());
-  EXPECT_TRUE(Button("newtemplate").hasFocus());
 }
 
 TEST_F(FastopenTest, TheBarsAreDrawn) {

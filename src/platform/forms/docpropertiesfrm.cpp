@@ -86,7 +86,6 @@ void docpropertiesfrm::AddFact(QGridLayout& grid, const char* name, int caption,
 void docpropertiesfrm::AddRow(QGridLayout& grid, int caption, QWidget* control) {
   auto* label = new QLabel(Text(caption), this);
   label->setObjectName(control->objectName() + QStringLiteral("caption"));
-  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   label->setBuddy(control);
   control->setAccessibleName(label->text());
   const int row = grid.rowCount();
@@ -109,6 +108,7 @@ void docpropertiesfrm::BuildButtons(QGridLayout& grid) {
   Command2->setText(Text(kTextCancel));
   Command1->setDefault(true);
   auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(kMargin / 2);
   buttons->addStretch(1);
   for (QPushButton* button : {Command1, Command2}) {
     button->setAccessibleName(button->text());
