@@ -86,7 +86,7 @@ TEST_F(NewTemplateTest, EveryControlHasANameForThoseWhoDoNotSeeIt) {
   for (const QWidget* control : dialog->findChildren<QWidget*>()) {
     if (control->objectName().isEmpty() || control->objectName().startsWith(QLatin1String("qt_"))) continue;
     if (control->objectName() == QLatin1String("StatusLabel")) continue;
-    EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName();
+    EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName().toStdString();
   }
 }
 
@@ -98,8 +98,8 @@ TEST_F(NewTemplateTest, ChosenFileIsCheckedAndMadeATemplate) {
   EXPECT_FALSE(Button("CreateTemplate").isEnabled());
   Click("Command1");
   EXPECT_EQ(ToNative(Path().text()), home.Path("work/data.kex"));
-  EXPECT_TRUE(Status().startsWith(Text(kTextAssistantGood))) << Status();
-  EXPECT_TRUE(Status().endsWith(QStringLiteral(" 1 - 0 - 2"))) << Status();
+  EXPECT_TRUE(Status().startsWith(Text(kTextAssistantGood))) << Status().toStdString();
+  EXPECT_TRUE(Status().endsWith(QStringLiteral(" 1 - 0 - 2"))) << Status().toStdString();
   EXPECT_EQ(Find<QProgressBar>("Progress1").value(), 1000);
   Click("CreateTemplate");
   EXPECT_EQ(dialog->result(), QDialog::Accepted);
