@@ -439,6 +439,7 @@ inline constexpr int kTextLineWord = 1027;
 inline constexpr int kTextUnicodeMark = 330;
 inline constexpr int kTextCheckStopped = 331;
 inline constexpr int kTextVariableCount = 332;
+inline constexpr int kTextReadingSample = 333;
 
 // Later rows, dialogs and boxes
 inline constexpr int kTextDescribeWidthAtRuntime = 1037;

@@ -98,7 +98,7 @@ Verdict CheckSample(const SheetWork& work, std::string_view text) {
   if (name.empty()) return std::nullopt;
   const std::optional<std::string> file = FindSample(work, name);
   if (!file) return RefusedWith(kTextSampleFileMissing);
-  SampleProgress progress(work.host, work.page.services.Text(kTextStatusReading));
+  SampleProgress progress(work.host, work.page.services.Text(kTextReadingSample));
   return RefusalOf(work, CheckSampleFile(*file, [&progress](std::uint64_t done, std::uint64_t size) {
                      return progress.Go(done, size);
                    }));

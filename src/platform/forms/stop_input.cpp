@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTimer>
 
 namespace kev {
 
@@ -54,14 +55,14 @@ void StopInput::ProcessEvents() {
 }
 
 void StopInput::Finish() {
-  if (closing_) QMetaObject::invokeMethod(closing_, &QWindow::close, Qt::QueuedConnection);
+  if (closing_) QTimer::singleShot(0, closing_, &QWidget::close);
   closing_.clear();
 }
 
 bool StopInput::eventFilter(QObject* receiver, QEvent* event) {
   if (IsMouse(event->type())) return !IsForButton(receiver, *event);
-  if (event->type() == QEvent::Close) {
-    if (auto* window = qobject_cast<QWindow*>(receiver)) closing_ = window;
+  if (event->type() == QEvent::Close && receiver->isWidgetType()) {
+    closing_ = static_cast<QWidget*>(receiver);
     event->ignore();
     return true;
   }

@@ -5,7 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QWindow>
+#include <QWidget>
 
 class QAbstractButton;
 class QEvent;
@@ -31,7 +31,7 @@ class StopInput final : public QObject {
   bool IsForButton(QObject* receiver, const QEvent& event) const;
 
   QAbstractButton& button_;
-  QPointer<QWindow> closing_;
+  QPointer<QWidget> closing_;
 };
 
 }  // namespace kev
