@@ -38,6 +38,9 @@ class HintList final : public QListWidget {
  public:
   using QListWidget::QListWidget;
 
+  QSize sizeHint() const override { return {kListWidth, kListHeight}; }
+  QSize minimumSizeHint() const override { return {kListWidth / 2, kListHeight / 3}; }
+
   void SetHint(const QString& hint) {
     hint_ = hint;
     viewport()->update();
@@ -184,8 +187,6 @@ QListWidget* QuickPanelForm::AddList(const char* name, const char* captionName, 
   auto* list = new HintList(labelPage_);
   list->setObjectName(QString::fromLatin1(name));
   list->setAccessibleName(words);
-  list->setMinimumSize(kListWidth, kListHeight / 3);
-  list->setFixedHeight(kListHeight);
   list->setUniformItemSizes(true);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->setTextElideMode(Qt::ElideRight);
