@@ -337,11 +337,12 @@ TEST_F(QuickPanelTest, StaysInsideThePageWhenTheWindowShrinks) {
   designer.Quick().Moved(9000, 6000);
   designer.Quick().UpdateQuickPanel();
   const QPoint wide = Panel().pos();
-  window->resize(760, 520);
+  const QSize full = window->size();
+  window->resize(full - QSize(60, 160));
   EXPECT_TRUE(QTest::qWaitFor([&] { return IsInsidePage(); }));
   // The place that was chosen is not forgotten.
   EXPECT_EQ(designer.Options().QuickPropsX, 9000);
-  window->resize(1180, 780);
+  window->resize(full);
   EXPECT_TRUE(QTest::qWaitFor([&] { return Panel().pos() == wide; }));
 }
 
