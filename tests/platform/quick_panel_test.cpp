@@ -167,6 +167,20 @@ TEST_F(QuickPanelTest, AChosenFieldShowsItsValues) {
   EXPECT_TRUE(Find<QLabel>("recordsshown").text().isEmpty());
 }
 
+TEST_F(QuickPanelTest, NothingOfItIsCutOff) {
+  const auto isWhole = [](const QLabel& label) { return label.width() >= label.sizeHint().width(); };
+  Select(Row(ObjectKind::Box));
+  EXPECT_TRUE(isWhole(Find<QLabel>("frame_label")));
+  Select(RowOf("Alpha"));
+  EXPECT_TRUE(isWhole(Find<QLabel>("frame_label")));
+  const QSize before = Panel().size();
+  ClickItem(Fields(), 0);
+  Find<QLabel>("recordsshown").setText(Word(kTextQuickRecordsShown) + QStringLiteral(" 100"));
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(isWhole(Find<QLabel>("recordsshown")));
+  EXPECT_EQ(Panel().size(), before);
+}
+
 TEST_F(QuickPanelTest, ChoicesAreAddedByButtonDoubleClickAndEnter) {
   Select(RowOf("Alpha"));
   Click("Command2");

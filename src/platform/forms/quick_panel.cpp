@@ -158,6 +158,10 @@ QFrame* QuickPanelForm::BuildLabelPage() {
   values_ = static_cast<HintList*>(AddList("ListValues", "samplevalues", kTextQuickSampleValues, 2));
   records_ = new QLabel(page);
   records_->setObjectName(QStringLiteral("recordsshown"));
+  // The panel keeps its width when the text comes.
+  const SampleValues most{{}, kMostValuesShown};
+  records_->setMinimumWidth(
+      records_->fontMetrics().horizontalAdvance(ToQString(designer_.Quick().RecordsShown(most))));
   check1_ = BuildCheck("Check1", page);
   grid->addWidget(apply_, 0, 2);
   grid->addWidget(addField_, 3, 0);
@@ -350,6 +354,10 @@ bool QuickPanelForm::eventFilter(QObject* watched, QEvent* event) {
 
 void QuickPanelForm::FitAndPlace() {
   const QWidget& room = *canvas_.viewport();
+  // What has changed inside tells its new size only in a later event.
+  for (QWidget* part :
+       {static_cast<QWidget*>(bar_), static_cast<QWidget*>(labelPage_), static_cast<QWidget*>(shapePage_)})
+    part->layout()->activate();
   layout()->activate();
   resize(sizeHint().boundedTo(room.size()));
   const DesignerOptions& options = designer_.Options();
