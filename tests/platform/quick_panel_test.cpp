@@ -167,6 +167,20 @@ TEST_F(QuickPanelTest, AChosenFieldShowsItsValues) {
   EXPECT_TRUE(Find<QLabel>("recordsshown").text().isEmpty());
 }
 
+TEST_F(QuickPanelTest, NothingOfItIsCutOff) {
+  const auto isWhole = [](const QLabel& label) { return label.width() >= label.sizeHint().width(); };
+  Select(Row(ObjectKind::Box));
+  EXPECT_TRUE(isWhole(Find<QLabel>("frame_label")));
+  Select(RowOf("Alpha"));
+  EXPECT_TRUE(isWhole(Find<QLabel>("frame_label")));
+  const QSize before = Panel().size();
+  ClickItem(Fields(), 0);
+  Find<QLabel>("recordsshown").setText(Word(kTextQuickRecordsShown) + QStringLiteral(" 100"));
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(isWhole(Find<QLabel>("recordsshown")));
+  EXPECT_EQ(Panel().size(), before);
+}
+
 TEST_F(QuickPanelTest, ChoicesAreAddedByButtonDoubleClickAndEnter) {
   Select(RowOf("Alpha"));
   Click("Command2");
@@ -337,11 +351,12 @@ TEST_F(QuickPanelTest, StaysInsideThePageWhenTheWindowShrinks) {
   designer.Quick().Moved(9000, 6000);
   designer.Quick().UpdateQuickPanel();
   const QPoint wide = Panel().pos();
-  window->resize(760, 520);
+  const QSize full = window->size();
+  window->resize(full - QSize(60, 160));
   EXPECT_TRUE(QTest::qWaitFor([&] { return IsInsidePage(); }));
   // The place that was chosen is not forgotten.
   EXPECT_EQ(designer.Options().QuickPropsX, 9000);
-  window->resize(1180, 780);
+  window->resize(full);
   EXPECT_TRUE(QTest::qWaitFor([&] { return Panel().pos() == wide; }));
 }
 

@@ -38,6 +38,9 @@ class HintList final : public QListWidget {
  public:
   using QListWidget::QListWidget;
 
+  QSize sizeHint() const override { return {kListWidth, kListHeight}; }
+  QSize minimumSizeHint() const override { return {kListWidth / 2, kListHeight / 3}; }
+
   void SetHint(const QString& hint) {
     hint_ = hint;
     viewport()->update();
@@ -155,6 +158,10 @@ QFrame* QuickPanelForm::BuildLabelPage() {
   values_ = static_cast<HintList*>(AddList("ListValues", "samplevalues", kTextQuickSampleValues, 2));
   records_ = new QLabel(page);
   records_->setObjectName(QStringLiteral("recordsshown"));
+  // The panel keeps its width when the text comes.
+  const SampleValues most{{}, kMostValuesShown};
+  records_->setMinimumWidth(
+      records_->fontMetrics().horizontalAdvance(ToQString(designer_.Quick().RecordsShown(most))));
   check1_ = BuildCheck("Check1", page);
   grid->addWidget(apply_, 0, 2);
   grid->addWidget(addField_, 3, 0);
@@ -184,8 +191,6 @@ QListWidget* QuickPanelForm::AddList(const char* name, const char* captionName, 
   auto* list = new HintList(labelPage_);
   list->setObjectName(QString::fromLatin1(name));
   list->setAccessibleName(words);
-  list->setMinimumSize(kListWidth, kListHeight / 3);
-  list->setFixedHeight(kListHeight);
   list->setUniformItemSizes(true);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->setTextElideMode(Qt::ElideRight);
@@ -349,6 +354,10 @@ bool QuickPanelForm::eventFilter(QObject* watched, QEvent* event) {
 
 void QuickPanelForm::FitAndPlace() {
   const QWidget& room = *canvas_.viewport();
+  // What has changed inside tells its new size only in a later event.
+  for (QWidget* part :
+       {static_cast<QWidget*>(bar_), static_cast<QWidget*>(labelPage_), static_cast<QWidget*>(shapePage_)})
+    part->layout()->activate();
   layout()->activate();
   resize(sizeHint().boundedTo(room.size()));
   const DesignerOptions& options = designer_.Options();
