@@ -352,6 +352,16 @@ TEST_F(PropGridTest, ACharacterThatThePageLacksIsRefusedByName) {
   EXPECT_EQ(Cell(kText).data().toString(), QStringLiteral("Total"));
 }
 
+TEST_F(PropGridTest, ACaptionThatIsTooLongTakesASecondLine) {
+  std::vector<PropertyRow> rows = AllRows();
+  rows[kNumber - 1].Caption = "Calculate height at runtime";
+  Show(rows);
+  EXPECT_GE(grid_.rowHeight(kNumber - 1), grid_.rowHeight(kText - 1) + grid_.fontMetrics().height());
+  EXPECT_EQ(grid_.rowHeight(kOpen - 1), grid_.rowHeight(kText - 1));
+  Show(AllRows());
+  EXPECT_EQ(grid_.rowHeight(kNumber - 1), grid_.rowHeight(kText - 1));
+}
+
 TEST_F(PropGridTest, TextOfACharacterSetIsReadAndTypedInItsOwnPage) {
   std::vector<PropertyRow> rows = AllRows();
   rows[kText - 1].CharSet = "204";

@@ -191,6 +191,29 @@ TEST_F(PropertyPanelTest, EveryControlHasAnAccessibleName) {
     EXPECT_FALSE(Find<QRadioButton>(name).text().isEmpty()) << name;
 }
 
+// The docked panel at its first width.
+TEST_F(PropertyPanelTest, TitlesAndFiltersAreWholeInEveryLanguage) {
+  constexpr int kPanelWidth = 3500 / 15;
+  QFont words(QStringLiteral("Arial"));
+  words.setPixelSize(13);
+  words.setBold(true);
+  const QFontMetrics title(words);
+  const QFontMetrics radio(Find<QRadioButton>("seeall").fontMetrics());
+  for (const char language : {'E', 'S', 'I', 'P'}) {
+    const Result<LanguageTexts> texts = LoadLanguage(KEV_PROGRAM_DIR "/Kev.lng", language);
+    ASSERT_TRUE(texts);
+    std::vector<int> titles = {kTextSheetDocument, kTextSheetTextBox};
+    for (int number = kTextSheetChart; number <= kTextSheetPicture; ++number)
+      titles.push_back(number);
+    for (const int number : titles)
+      EXPECT_LE(title.horizontalAdvance(ToQString(texts->Text(number))), kPanelWidth - 36)
+          << texts->Text(number);
+    for (const int number : {kTextFilterAll, kTextFilterEndUser, kTextFilterPrint})
+      EXPECT_LE(radio.horizontalAdvance(ToQString(texts->Text(number))), kPanelWidth - 40)
+          << texts->Text(number);
+  }
+}
+
 TEST_F(PropertyPanelTest, TheFiltersOfPanelAndMenuAreOne) {
   EXPECT_TRUE(Find<QRadioButton>("seeall").isChecked());
   Find<QRadioButton>("see_ebeu").click();

@@ -107,9 +107,21 @@ void PropGrid::Show(const std::vector<PropertyRow>& rows, const CodePage& page) 
   const int row = CurrentRow();
   const bool keepFocus = committing_ && Holds(window()->focusWidget());
   model_->Show(rows, page);
+  FitRows();
   if (keepFocus && !HasOpenCell()) setFocus(Qt::OtherFocusReason);
   if (CurrentRow() == 0 && (row > 0 || hasFocus()))
     SetCurrentRow(row > 0 && row <= model_->rowCount() ? row : 1);
+}
+
+// A caption that is too long for its column takes a second line.
+void PropGrid::FitRows() {
+  const int room = kCaptionWidth - 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+  const int line = verticalHeader()->defaultSectionSize();
+  for (int row = 0; row < model_->rowCount(); ++row) {
+    const QString caption = model_->index(row, PropGridModel::kCaption).data().toString();
+    const QRect text = fontMetrics().boundingRect({0, 0, room, 1000}, Qt::TextWordWrap, caption);
+    verticalHeader()->resizeSection(row, line + text.height() - fontMetrics().height());
+  }
 }
 
 std::vector<std::string> PropGrid::Values() const {

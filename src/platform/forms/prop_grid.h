@@ -68,6 +68,7 @@ class PropGrid final : public QTableView {
   bool HasOpenCell() const { return state() == QAbstractItemView::EditingState; }
   bool Holds(const QWidget* widget) const;
   void TellFocus(const QWidget* now);
+  void FitRows();
 
   PropGridModel* model_;
   QString folder_;

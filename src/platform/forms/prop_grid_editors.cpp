@@ -22,6 +22,7 @@ namespace kev {
 namespace {
 
 constexpr int kRowRoom = 8;  // pixels above and below a row's text together
+constexpr int kArrowRoom = 16;
 constexpr int kSwatchSide = 12;
 constexpr int kButtonWidth = 22;
 
@@ -208,15 +209,24 @@ void PropGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     plain.state &= ~QStyle::State_Selected;
     painter->fillRect(option.rect, option.palette.base());
   }
+  const PropertyRow& row = ModelOf(index).RowAt(index);
+  const bool drops = row.Editor == EditorKind::ClosedList || row.Editor == EditorKind::OpenList;
+  const bool arrowed = drops && row.Enabled && index.column() == PropGridModel::kValue;
+  if (arrowed) {
+    // The cell's ground below the arrow, then the text beside it.
+    QStyleOptionViewItem ground = plain;
+    ground.features = QStyleOptionViewItem::None;
+    option.widget->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter, option.widget);
+    plain.state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
+    plain.rect.setRight(plain.rect.right() - kArrowRoom);
+  }
   QStyledItemDelegate::paint(painter, plain, index);
   painter->setPen(QColor(0xE1, 0xE4, 0xE8));
   painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
   if (index.column() != PropGridModel::kValue) return;
   painter->drawLine(option.rect.topLeft(), option.rect.bottomLeft());
-  const PropertyRow& row = ModelOf(index).RowAt(index);
   if (row.Editor == EditorKind::Button) return PaintButton(*painter, option, row.Enabled);
-  const bool drops = row.Editor == EditorKind::ClosedList || row.Editor == EditorKind::OpenList;
-  if (!drops || !row.Enabled) return;
+  if (!arrowed) return;
   QStyleOption arrow;
   arrow.rect = QRect(option.rect.right() - 15, option.rect.center().y() - 4, 9, 9);
   arrow.palette = option.palette;
