@@ -44,6 +44,8 @@ Moment MomentOf(const Document& document) {
   for (int row = 1; row <= objects.LastScanned(); ++row) {
     moment.Rows.push_back(objects[row]);
     moment.Rows.back().Selected = kFalse;
+    // How wide a bar code is, its last painting says: that of the page, or that of the panel above it.
+    if (moment.Rows.back().Kind == ObjectKind::Barcode) moment.Rows.back().Width = 0;
   }
   // A table that has grown holds no more than before.
   while (!moment.Rows.empty() && moment.Rows.back() == ObjectRecord{})
