@@ -2,12 +2,14 @@
 // Commands on a group of every object of a document, with their snapshot and the layout behind them.
 #include <string>
 
+#include "document/kind_defaults.h"
 #include "support/layout_only.h"
 #include "support/sample_template.h"
 #include "surface/clipboard.h"
 #include "surface/font_tools.h"
 #include "surface/group_commands.h"
 #include "surface/null_surface.h"
+#include "surface/selection.h"
 #include "surface/undo.h"
 
 namespace kev::bench {
@@ -46,6 +48,13 @@ struct GroupedPage {
   WithLevels services{document};
 };
 
+std::int32_t FirstBodyOf(const Document& document) {
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row)
+    if (document.Objects[row].Kind == ObjectKind::Subsection)
+      return document.Objects[row].AbsoluteY + kBarHeight;
+  return 0;
+}
+
 void GroupToGrid(benchmark::State& state) {
   GroupedPage page(static_cast<int>(state.range(0)));
   PageWork work = page.Work();
@@ -83,14 +92,15 @@ void CutAndPaste(benchmark::State& state) {
   GroupedPage page(static_cast<int>(state.range(0)));
   PageWork work = page.Work();
   ClipboardTable clipboard;
-  // In the body of the first subsection.
-  page.pointer.KeepPosition({1000, 450});
+  page.pointer.KeepPosition({1000, double(FirstBodyOf(page.document))});
   for ([[maybe_unused]] auto run : state) {
     page.pointer.MultiSelected = true;
     CutObjects(work, clipboard);
     page.pointer.MultiSelected = false;
     benchmark::DoNotOptimize(PasteObjects(work, clipboard));
   }
+  page.pointer.MultiSelected = true;
+  if (GroupMembers(work).size() != clipboard.Rows.size()) state.SkipWithError("nothing was pasted");
 }
 
 BENCHMARK(GroupToGrid)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond);

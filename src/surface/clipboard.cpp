@@ -3,11 +3,13 @@
 
 #include <algorithm>
 #include <limits>
+#include <stdexcept>
 #include <utility>
 #include <variant>
 #include <vector>
 
 #include "base/numbers.h"
+#include "base/reasons.h"
 #include "base/text_numbers.h"
 #include "document/kind_defaults.h"
 #include "document/object_fields.h"
@@ -155,13 +157,21 @@ void RaiseCount(ObjectTable& objects, std::size_t count) {
   objects.ObjectCount = std::max(objects.ObjectCount, raised);
 }
 
+// The table itself gives no row any more once its bound lies behind it; what was cut must find its place
+// again.
+int FreeRowFrom(int first, const ObjectTable& objects) {
+  for (int row = first; row <= objects.LastScanned(); ++row)
+    if (objects[row].Kind == ObjectKind::None) return row;
+  throw std::out_of_range(kReasonTooManyObjects);
+}
+
 std::vector<int> PutIntoTable(PageWork& work, std::vector<ObjectRecord> records, int bar) {
   ObjectTable& objects = work.document.Objects;
   RaiseCount(objects, records.size());
   const Corner corner = CornerOf(records);
   std::vector<int> rows;
   for (ObjectRecord& record : records) {
-    const int row = objects.TakeFreeRow();
+    const int row = FreeRowFrom(rows.empty() ? 1 : rows.back() + 1, objects);
     MoveFrom(record, corner, work);
     GiveTo(std::as_const(objects)[bar], record);
     record.Selected = kTrue;

@@ -341,6 +341,20 @@ TEST_F(ClipboardOnPage, AFullTableThrows) {
   EXPECT_THROW(PasteAt(3000, 2000), std::out_of_range);
 }
 
+TEST_F(ClipboardOnPage, WhatWasCutFromAFullTableFindsItsPlaceAgain) {
+  const int row = AddText("1000", 1000, "A");
+  const auto fill = [&] {
+    for (;;)
+      document.Objects[document.Objects.TakeFreeRow()].Kind = ObjectKind::Circle;
+  };
+  EXPECT_THROW(fill(), std::out_of_range);
+  Select(row);
+  Cut();
+  PasteAt(3000, 2000);
+  EXPECT_EQ(document.Objects.CurrentObject, row);
+  EXPECT_EQ(X(row), "3000");
+}
+
 TEST_F(ClipboardOnPage, ManyPastesLeaveTheTableUsable) {
   const int row = AddText("1000", 1000, "A");
   Select(row);
