@@ -15,7 +15,9 @@ constexpr double kLineWidth = 2.25;
 constexpr double kFineLine = 1.25;
 constexpr double kAreaLine = 1.75;
 constexpr double kDot = 3.2;
-constexpr double kDotGap = 9;  // dots nearer to each other than this are left out
+constexpr double kDotEdge = 1.6;
+constexpr double kDotShare = 0.036;  // of the shorter side of the plot
+constexpr double kDotGap = 9;        // dots nearer to each other than this are left out
 
 // A value that is not zero is never too small to be seen.
 ChartRect Visible(ChartRect area, bool negative, const ChartRect& plot) {
@@ -77,9 +79,10 @@ void MarkPoints(const SeriesWork& work, std::size_t series, const std::vector<Ch
         {series, index, points[index], drawn.Values[index] < 0, work.Frame.Slot(), work.Frame.Slot()});
 }
 
-// A dot at the plot's edge would reach out of a plot that ends where the picture does.
-bool HasRoom(ChartPoint at, const ChartRect& plot) {
-  return at.X - kDot >= plot.Left - kDot && at.X + kDot <= plot.Right + kDot && plot.Left >= kDot;
+// The room around a plot grows with it; in a small one the dots are smaller, so that none is cut.
+double DotRadius(const PlotFrame& frame) {
+  const double side = std::min(frame.Front.Width(), frame.Front.Height());
+  return std::min(kDot, side * kDotShare - kDotEdge / 2);
 }
 
 }  // namespace
@@ -117,12 +120,12 @@ void DrawFlatLine(const SeriesWork& work, std::size_t series) {
   if (points.size() > 1)
     work.Work.Shapes.push_back(ChartPolyline{
         .Points = points, .Colour = colour, .Width = work.Frame.Slot() >= kDotGap ? kLineWidth : kFineLine});
-  const bool dots = points.size() == 1 || work.Frame.Slot() >= kDotGap;
-  for (const ChartPoint& point : points) {
-    if (!dots || !HasRoom(point, work.Frame.Front)) break;
-    ChartPolygon dot = Ellipse(point, kDot, kDot, Plain(kChartWhite));
+  const double radius = DotRadius(work.Frame);
+  const bool dots = radius > 0 && (points.size() == 1 || work.Frame.Slot() >= kDotGap);
+  for (std::size_t index = 0; dots && index < points.size(); ++index) {
+    ChartPolygon dot = Ellipse(points[index], radius, radius, Plain(kChartWhite));
     dot.EdgeColour = colour;
-    dot.EdgeWidth = 1.6;
+    dot.EdgeWidth = kDotEdge;
     work.Work.Shapes.push_back(std::move(dot));
   }
   MarkPoints(work, series, points);

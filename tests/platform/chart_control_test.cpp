@@ -46,7 +46,7 @@ TEST_F(ChartPaintingTest, EachTypeAndFormPaintsSomethingOfItsOwn) {
       const QImage image = Image(LookWith({{"Graph_Type", form}, {"Graph_serie_1_type", type}}));
       EXPECT_EQ(image.size(), QSize(480, 240));
       // A pie has no types of series.
-      if (std::string_view(form) != "PIE") EXPECT_FALSE(seen.contains(image)) << form << ' ' << type;
+      EXPECT_TRUE(std::string_view(form) == "PIE" || !seen.contains(image)) << form << ' ' << type;
       seen.append(image);
     }
   }

@@ -227,7 +227,7 @@ bool KavEdit01::event(QEvent* event) {
 
 // Charts are images made for the resolution of the screen that shows them.
 void KavEdit01::FollowScreen() {
-  if (designer_.View() != this || designer_.Surface().Busy()) return;
+  if (shownRatio_ == 0 || shownRatio_ == charts_.DeviceRatio() || designer_.Surface().Busy()) return;
   designer_.GuardedView([this] { designer_.Surface().Redraw(); });
 }
 

@@ -107,6 +107,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   FindingsDock* findings_ = nullptr;
   ProgressWindow* progress_ = nullptr;
   PageFrame* frame_ = nullptr;
+  // The device ratio at which the page was painted last; 0 before it was.
+  double shownRatio_ = 0;
   bool ended_ = false;
   // The question of a close is open.
   bool closing_ = false;

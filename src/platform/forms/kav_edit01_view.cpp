@@ -29,6 +29,7 @@ void KavEdit01::DocumentReplaced() {
 
 void KavEdit01::PageShown() {
   page_.Shown();
+  shownRatio_ = charts_.DeviceRatio();
   ShowRulers();
 }
 
