@@ -154,7 +154,7 @@ void PreparedPage::PrintText(double x, double y, std::string_view text) {
 
 void PreparedPage::DrawSymbol(double x, double y, Rgb colour, std::span<const SymbolArea> areas) {
   const QPointF place = Pixels(x, y);
-  const QPointF origin(std::round(place.x()), std::round(place.y()));
+  const QPointF origin(std::floor(place.x() + 0.5 + 1e-6), std::floor(place.y() + 0.5 + 1e-6));
   QPainterPath path;
   path.setFillRule(Qt::WindingFill);
   for (const SymbolArea& area : areas)
