@@ -24,6 +24,7 @@
 #include "platform/print_qt.h"
 #include "platform/qt_measurer.h"
 #include "platform/temp_home.h"
+#include "platform/text_bridge.h"
 #include "surface/selection.h"
 
 namespace kev {
