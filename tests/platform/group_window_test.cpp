@@ -436,8 +436,11 @@ TEST_F(GroupWindowTest, TheColourIsChosenInADialog) {
   Select("Alpha");
   InDialog<ShowColors>([this](ShowColors& dialog) {
     for (const auto& [name, text] :
-         {std::pair("red_value", "10"), {"Green_value", "20"}, {"blue_value", "30"}})
-      Find<QLineEdit>(dialog, name).setText(QString::fromLatin1(text));
+         {std::pair("red_value", "10"), {"Green_value", "20"}, {"blue_value", "30"}}) {
+      auto& box = Find<QLineEdit>(dialog, name);
+      box.selectAll();
+      QTest::keyClicks(&box, QString::fromLatin1(text));
+    }
     QTest::mouseClick(&Find<QPushButton>(dialog, "Command1"), Qt::LeftButton);
   });
   Click(ColourButton());
