@@ -63,7 +63,7 @@ void NewTemplateRun::ChooseStart(TemplateStart start) {
   state_.Start = start;
   // A file of the other kind is not what is wanted now.
   const SampleKind kind = KindOfStart(start);
-  if (kind == SampleKind::Other || SampleKindOf(state_.Text1) == kind) return;
+  if (kind == SampleKind::Other || SampleKindOf(Trim(state_.Text1)) == kind) return;
   state_.Text1.clear();
   state_.Survey.reset();
 }

@@ -229,6 +229,19 @@ TEST_F(NewTemplateRunTest, TypedPathIsCheckedAnew) {
   EXPECT_EQ(run->StatusText(), "");
 }
 
+TEST_F(NewTemplateRunTest, BlanksAroundATypedPathAreNoPartOfIt) {
+  Made("data.ked", "TEMPLATE=a\r\n@number=1\r\n");
+  run.emplace(*designer);
+  run->ChooseStart(TemplateStart::Records);
+  run->TypePath(" " + Work("data.ked") + "  ");
+  EXPECT_EQ(run->State().Start, TemplateStart::Variables);
+  run->Check();
+  EXPECT_EQ(run->StatusText(), Text(kTextAssistantGood) + "\n" + Text(kTextVariableCount) + " 1");
+  run->ChooseStart(TemplateStart::Nothing);
+  run->ChooseStart(TemplateStart::Variables);
+  EXPECT_TRUE(CanCreate(run->State()));
+}
+
 TEST_F(NewTemplateRunTest, ChooserShowsTheFilesOfTheOption) {
   run.emplace(*designer);
   run->Browse();
