@@ -312,6 +312,8 @@ bool Designer::SaveTo(const std::string& path) {
   modified_ = false;
   EndRecovery(path);
   pictures_.SetTemplateFolder(FolderOf(path));
+  // Sample data that is named without a folder is looked for beside the template.
+  if (TemplateFolder() != oldFolder) GuardedView([this] { quick_.UpdateQuickPanel(); });
   ShowCaption();
   host_.ShowStatus("");
   TellUnnamedSymbologies(report);

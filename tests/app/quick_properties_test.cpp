@@ -249,6 +249,15 @@ TEST_F(QuickPropertiesTest, AShapeSnapsAsWell) {
   EXPECT_EQ(Objects()[box].XValue, "200");
 }
 
+TEST_F(QuickPropertiesTest, SavedElsewhereItsSampleFileIsTheOneThere) {
+  Select(alpha_);
+  const std::string there = Made("other/data.kex", "TEMPLATE=a.kev\r\n|ITEMS|7|screw|\r\n");
+  host_.FilesToSave = {Work("other/a.kev")};
+  ASSERT_TRUE(designer_->SaveAs());
+  EXPECT_EQ(view_.Quick.SampleFile, there);
+  EXPECT_EQ(Quick().ValuesOf(1).Items, Texts{"screw"});
+}
+
 TEST_F(QuickPropertiesTest, ALineKeepsItsLength) {
   designer_ = Start({Made("line.kev", test::TemplateWith("[ITEMS:@code]\r\n{Line=510,1510}\r\n"
                                                          "{Spacing=400;\\n}\r\n"))});
