@@ -251,6 +251,7 @@ TEST_F(QuickPropertiesTest, AShapeSnapsAsWell) {
 
 TEST_F(QuickPropertiesTest, SavedElsewhereItsSampleFileIsTheOneThere) {
   Select(alpha_);
+  std::filesystem::create_directories(Work("other"));
   const std::string there = Made("other/data.kex", "TEMPLATE=a.kev\r\n|ITEMS|7|screw|\r\n");
   host_.FilesToSave = {Work("other/a.kev")};
   ASSERT_TRUE(designer_->SaveAs());
