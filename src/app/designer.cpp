@@ -221,6 +221,13 @@ void Designer::PaintFindingsChanged() {
   SetFindings(std::move(findings_));
 }
 
+void Designer::AddFindings(const std::vector<Finding>& more) {
+  if (more.empty()) return;
+  std::vector<Finding> all = findings_;
+  all.insert(all.end(), more.begin(), more.end());
+  SetFindings(std::move(all));
+}
+
 // What the page could not show stands behind the others.
 void Designer::SetFindings(std::vector<Finding> findings) {
   std::erase_if(findings, [](const Finding& old) { return old.Kind == FindingKind::PaintingStops; });

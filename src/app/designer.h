@@ -291,6 +291,8 @@ class Designer {
   void PageShown();
   // Other objects than before cannot be painted as they should.
   void PaintFindingsChanged();
+  // Behind those of the open document, which are replaced by the next read or save.
+  void AddFindings(const std::vector<Finding>& more);
   void ShowRulers();
   void ShowArea(const CanvasArea& area);
   void CommandsChanged();

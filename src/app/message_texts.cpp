@@ -18,7 +18,7 @@ constexpr std::array<int, kFindingKinds> kFindingNumbers = {
     kTextFindingValueOutOfRange, kTextFindingWillNotComeBack, kTextFindingMissingFile,
     kTextFindingValueChanges,    kTextFindingObjectLost,      kTextFindingObjectAppears,
     kTextFindingKindChanges,     kTextFindingColumnLost,      kTextFindingColumnAppears,
-    kTextFindingPaintingStops};
+    kTextFindingPaintingStops,   kTextFindingNameWithColon};
 
 constexpr auto kReasonNumbers = std::to_array<std::pair<std::string_view, int>>({
     {kReasonOutOfMemory, kTextReasonOutOfMemory},

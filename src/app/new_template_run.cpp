@@ -27,6 +27,22 @@ std::string RefusedIn(const std::string& path, const CodePage& page, std::string
   return text.find_first_of("\r\n") == std::string::npos ? std::string() : "\\n";
 }
 
+// What stands behind the first colon of a head is no part of its name, so these subsections are of no
+// records.
+std::vector<Finding> NamesWithColon(const Document& document, const std::vector<RecordType>& types) {
+  std::vector<Finding> findings;
+  for (const RecordType& type : types) {
+    if (type.Name.find(':') == std::string::npos) continue;
+    const std::string head = " [" + type.Name + ":";
+    for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+      if (document.Objects[row].SectionTitle.find(head) == std::string::npos) continue;
+      findings.push_back({0, 0, FindingKind::NameWithColon, type.Name, row});
+      break;
+    }
+  }
+  return findings;
+}
+
 }  // namespace
 
 NewTemplateRun::NewTemplateRun(Designer& designer, const std::string& path) : designer_(designer) {
@@ -47,7 +63,7 @@ void NewTemplateRun::ChooseStart(TemplateStart start) {
   state_.Start = start;
   // A file of the other kind is not what is wanted now.
   const SampleKind kind = KindOfStart(start);
-  if (kind == SampleKind::Other || SampleKindOf(state_.Text1) == kind) return;
+  if (kind == SampleKind::Other || SampleKindOf(Trim(state_.Text1)) == kind) return;
   state_.Text1.clear();
   state_.Survey.reset();
 }
@@ -177,7 +193,9 @@ bool NewTemplateRun::WriteAndOpen(const std::string& text) const {
     Tell({.Text = kTextWriteFailed, .Path = failure->path, .Reason = failure->reason});
     return false;
   }
-  return designer_.OpenFresh(text);
+  if (!designer_.OpenFresh(text)) return false;
+  designer_.AddFindings(NamesWithColon(designer_.OpenDocument(), state_.Survey->Types));
+  return true;
 }
 
 }  // namespace kev

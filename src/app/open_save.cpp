@@ -261,10 +261,13 @@ std::optional<std::string> Designer::ChooseTarget(FileChoice choice) {
 }
 
 std::string Designer::SampleDataPath() const {
-  const std::string named(Trim(document_.Page->ToUtf8(document_.Settings[Setting::Sample_Kex_file])));
-  if (named.empty()) return {};
-  const std::filesystem::path missing = std::filesystem::path(TemplateFolder()) / named;
-  return FindFile(named, TemplateFolder()).value_or(missing.string());
+  const std::string written(Trim(document_.Settings[Setting::Sample_Kex_file]));
+  if (written.empty()) return {};
+  const std::string named = document_.Page->ToUtf8(written);
+  if (const auto found = FindFile(named, TemplateFolder())) return *found;
+  // The name on the disk may be in the code page as well.
+  if (const auto found = FindFile(written, TemplateFolder())) return *found;
+  return (std::filesystem::path(TemplateFolder()) / named).string();
 }
 
 WriteReport Designer::WriteDocument(const std::string& path) {
@@ -309,6 +312,8 @@ bool Designer::SaveTo(const std::string& path) {
   modified_ = false;
   EndRecovery(path);
   pictures_.SetTemplateFolder(FolderOf(path));
+  // Sample data that is named without a folder is looked for beside the template.
+  if (TemplateFolder() != oldFolder) GuardedView([this] { quick_.UpdateQuickPanel(); });
   ShowCaption();
   host_.ShowStatus("");
   TellUnnamedSymbologies(report);

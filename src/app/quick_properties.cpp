@@ -122,6 +122,7 @@ void QuickProperties::SnapToGrid(int row) {
   ObjectRecord& record = document.Objects[row];
   const int bar = BarOf(document, row);
   record.XValue = WholePosition(SnappedX(document, row));
+  CarryLineEnd(document, record);
   PlaceInBody(document, row, bar, ToInt32(SnapToStep(record.Y, GridStepOf(document))));
   if (MakeRoom(document, row, bar)) return designer_.Surface().BandsChanged();
   designer_.Surface().FullRepaint();

@@ -21,7 +21,8 @@ std::string_view FindingText(FindingKind kind) {
                                                                   "object becomes another kind on saving",
                                                                   "column is lost on saving",
                                                                   "column appears on saving",
-                                                                  "bar code reaches too far to be painted"};
+                                                                  "bar code reaches too far to be painted",
+                                                                  "record name with a colon gets no values"};
   return kTexts.at(static_cast<std::size_t>(kind));
 }
 

@@ -26,9 +26,10 @@ enum class FindingKind : std::uint8_t {
   KindChanges,    // an object becomes one of another kind
   ColumnLost,     // a column
   ColumnAppears,  // a column that the page does not hold
-  PaintingStops   // a bar code that reaches farther than it can be painted
+  PaintingStops,  // a bar code that reaches farther than it can be painted
+  NameWithColon   // a subsection made for records whose name it cannot hold
 };
-inline constexpr std::size_t kFindingKinds = 16;
+inline constexpr std::size_t kFindingKinds = 17;
 
 // "unknown key", "text is lost" and so on, for the command line; a list in the window takes its words from
 // the language file.

@@ -490,6 +490,7 @@ inline constexpr int kTextFindingKindChanges = 1247;
 inline constexpr int kTextFindingColumnLost = 1248;
 inline constexpr int kTextFindingColumnAppears = 1249;
 inline constexpr int kTextFindingPaintingStops = 300;
+inline constexpr int kTextFindingNameWithColon = 334;
 
 // Reasons, behind 762, 1223 and 1224
 inline constexpr int kTextReasonOutOfMemory = 1250;

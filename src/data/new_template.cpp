@@ -56,7 +56,7 @@ SampleKind KindOfStart(TemplateStart start) {
 }
 
 TemplateStart StartOfFile(TemplateStart chosen, const std::string& path) {
-  switch (SampleKindOf(path)) {
+  switch (SampleKindOf(Trim(path))) {
     case SampleKind::Kex:
       return TemplateStart::Records;
     case SampleKind::Ked:
@@ -88,7 +88,7 @@ std::vector<NumberedText> StatusLines(const NewTemplateDialog& dialog) {
   const SampleSurvey& survey = *dialog.Survey;
   if (survey.Check.Fault == SampleFault::Stopped) return {{kTextCheckStopped}};
   if (!IsGood(dialog)) return {{kTextAssistantBad}};
-  if (SampleKindOf(dialog.Text1) == SampleKind::Ked)
+  if (SampleKindOf(Trim(dialog.Text1)) == SampleKind::Ked)
     return {{kTextAssistantGood}, {kTextVariableCount, " " + std::to_string(survey.Variables)}};
   return {{kTextAssistantGood},
           {kTextAssistantCounts, " " + std::to_string(survey.Types.size()) + " - " +

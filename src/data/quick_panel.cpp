@@ -53,10 +53,13 @@ void FillLabel(QuickPanel& panel, const Document& document, const std::vector<st
       panel.Fields.push_back({name, panel.Fields.size()});
     return;
   }
-  const int bar = OwnerIndex(document).OwnerOf(panel.Object);
-  if (bar == 0) return;
-  panel.RecordName = WithoutBracket(document.Objects[bar].SectionName);
-  panel.Fields = FieldsOfBar(document.Objects[bar], *document.Page);
+  const int row = OwnerIndex(document).OwnerOf(panel.Object);
+  if (row == 0) return;
+  const ObjectRecord& bar = document.Objects[row];
+  // Only the name of a head without fields ends with the bracket of the head; any other bracket is its own.
+  const bool hasFields = bar.SectionTitle.find(':') != std::string::npos;
+  panel.RecordName = hasFields ? std::string_view(bar.SectionName) : WithoutBracket(bar.SectionName);
+  panel.Fields = FieldsOfBar(bar, *document.Page);
 }
 
 }  // namespace

@@ -187,6 +187,17 @@ TEST_F(NewTemplateRunTest, PathIsWrittenInTheCodePageOfTheTemplate) {
   EXPECT_EQ(designer->SampleDataPath(), Work("\xC3\xA9t\xC3\xA9.kex"));
 }
 
+TEST_F(NewTemplateRunTest, RecordNameWithAColonIsAFinding) {
+  Open("data.kex", "TEMPLATE=a\r\n|ORDERS|1|\r\n|TAX:EU|1|2|\r\n");
+  EXPECT_TRUE(run->Create());
+  EXPECT_THAT(Noname(), HasSubstr(" [TAX:EU:@Field01,@Field02]\r\n"));
+  ASSERT_EQ(designer->Findings().size(), 1U);
+  const Finding& finding = designer->Findings()[0];
+  EXPECT_EQ(finding.Kind, FindingKind::NameWithColon);
+  EXPECT_EQ(finding.Text, "TAX:EU");
+  EXPECT_EQ(designer->OpenDocument().Objects[finding.Row].SectionTitle, "[DATA] [TAX:EU:@Field01,@Field02]");
+}
+
 TEST_F(NewTemplateRunTest, MoreVariablesThanATemplateHoldsAreTold) {
   std::string bytes = "TEMPLATE=a\n";
   for (int n = 0; n <= 2000; ++n)
@@ -216,6 +227,19 @@ TEST_F(NewTemplateRunTest, TypedPathIsCheckedAnew) {
   EXPECT_EQ(run->State().Start, TemplateStart::Variables);
   EXPECT_FALSE(CanCreate(run->State()));
   EXPECT_EQ(run->StatusText(), "");
+}
+
+TEST_F(NewTemplateRunTest, BlanksAroundATypedPathAreNoPartOfIt) {
+  Made("data.ked", "TEMPLATE=a\r\n@number=1\r\n");
+  run.emplace(*designer);
+  run->ChooseStart(TemplateStart::Records);
+  run->TypePath(" " + Work("data.ked") + "  ");
+  EXPECT_EQ(run->State().Start, TemplateStart::Variables);
+  run->Check();
+  EXPECT_EQ(run->StatusText(), Text(kTextAssistantGood) + "\n" + Text(kTextVariableCount) + " 1");
+  run->ChooseStart(TemplateStart::Nothing);
+  run->ChooseStart(TemplateStart::Variables);
+  EXPECT_TRUE(CanCreate(run->State()));
 }
 
 TEST_F(NewTemplateRunTest, ChooserShowsTheFilesOfTheOption) {

@@ -249,5 +249,38 @@ TEST_F(QuickPropertiesTest, AShapeSnapsAsWell) {
   EXPECT_EQ(Objects()[box].XValue, "200");
 }
 
+TEST_F(QuickPropertiesTest, SavedElsewhereItsSampleFileIsTheOneThere) {
+  Select(alpha_);
+  std::filesystem::create_directories(Work("other"));
+  const std::string there = Made("other/data.kex", "TEMPLATE=a.kev\r\n|ITEMS|7|screw|\r\n");
+  host_.FilesToSave = {Work("other/a.kev")};
+  ASSERT_TRUE(designer_->SaveAs());
+  EXPECT_EQ(view_.Quick.SampleFile, there);
+  EXPECT_EQ(Quick().ValuesOf(1).Items, Texts{"screw"});
+}
+
+TEST_F(QuickPropertiesTest, ALineKeepsItsLength) {
+  designer_ = Start({Made("line.kev", test::TemplateWith("[ITEMS:@code]\r\n{Line=510,1510}\r\n"
+                                                         "{Spacing=400;\\n}\r\n"))});
+  const int line = Row(ObjectKind::Line);
+  ASSERT_NE(line, 0);
+  Objects()[line].AlignToGrid = 0;
+  Select(line);
+  Quick().SetAlignToGrid(true);
+  EXPECT_EQ(Objects()[line].XValue, "600");
+  EXPECT_EQ(Objects()[line].X2Value, "1600");
+  EXPECT_EQ(Objects()[line].Width, 1000);
+}
+
+TEST_F(QuickPropertiesTest, TheNameOfTheSampleFileMayBeInTheCodePageOnTheDisk) {
+  const std::string data = Made("d\xE9.kex", kRecords);
+  Open("d\xE9.kex");
+  EXPECT_EQ(designer_->SampleDataPath(), data);
+  Select(alpha_);
+  EXPECT_EQ(Quick().ValuesOf(1).Items, (Texts{"bolt", "nut"}));
+  const std::string inUtf8 = Made("d\xC3\xA9.kex", kRecords);
+  EXPECT_EQ(designer_->SampleDataPath(), inUtf8);
+}
+
 }  // namespace
 }  // namespace kev

@@ -99,6 +99,12 @@ TEST_F(QuickPanels, TheBracketOfAHeadWithoutFieldsIsNoPartOfTheRecordsName) {
   EXPECT_EQ(Panel().RecordName, "TAX");
 }
 
+TEST_F(QuickPanels, ABracketThatBelongsToTheRecordsNameIsKept) {
+  Bar("[DATA] [[TAX]:@a]", "[TAX]", 5000);
+  Select(ObjectKind::Label, "[TAX]");
+  EXPECT_EQ(Panel().RecordName, "[TAX]");
+}
+
 TEST_F(QuickPanels, VariablesHoldInEverySubsection) {
   Bar("[DATA]", "DATA]", 5000);
   Select(ObjectKind::Label, "DATA]");

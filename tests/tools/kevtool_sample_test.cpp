@@ -107,6 +107,13 @@ TEST_F(KevtoolSample, MakesATemplateOfRecords) {
   Expect({"check", "out.kev"}, 0, "out.kev: 11113\n", "");
 }
 
+TEST_F(KevtoolSample, TellsARecordNameThatATemplateCannotHold) {
+  WriteBytes(folder / "colon.kex", "TEMPLATE=a\r\n|TAX:EU|1|\r\n");
+  Expect({"new", "--kex", "colon.kex", "out.kev"}, 0, "",
+         "out.kev: record name with a colon gets no values: TAX:EU\n");
+  EXPECT_TRUE(std::filesystem::exists(folder / "out.kev"));
+}
+
 TEST_F(KevtoolSample, MakesATemplateOfVariables) {
   Expect({"new", "--ked", "good.ked", "out.kev"}, 0, "", "");
   const std::string made = ReadBytes(folder / "out.kev");

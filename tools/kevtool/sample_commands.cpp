@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/files.h"
+#include "base/finding.h"
 #include "commands.h"
 #include "data/new_template.h"
 #include "data/sample_survey.h"
@@ -90,6 +91,14 @@ int Refuse(const std::string& path, std::string_view reason) {
   return kRefused;
 }
 
+void TellNamesWithColon(const std::string& out, const SampleSurvey& survey, const CodePage& page) {
+  for (const RecordType& type : survey.Types) {
+    if (type.Name.find(':') == std::string::npos) continue;
+    std::cerr << out << ": " << FindingText(FindingKind::NameWithColon) << ": " << page.ToUtf8(type.Name)
+              << '\n';
+  }
+}
+
 }  // namespace
 
 int Sample(const std::string& file, bool json) {
@@ -122,6 +131,7 @@ int New(const std::string& dataFile, const std::string& out) {
   }
   if (const std::optional<FileFailure> failure = WriteWholeFile(out, text))
     return Refuse(failure->path, failure->reason);
+  TellNamesWithColon(out, survey, page);
   return kGood;
 }
 
