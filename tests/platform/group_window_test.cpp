@@ -5,10 +5,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -19,6 +19,7 @@
 #include "platform/forms/kav_edit01.h"
 #include "platform/forms/placeselection.h"
 #include "platform/forms/prop_grid.h"
+#include "platform/forms/show_colors.h"
 #include "platform/forms/text_tools.h"
 #include "platform/page_canvas.h"
 #include "platform/print_qt.h"
@@ -432,18 +433,23 @@ TEST_F(GroupWindowTest, TheButtonsToggleAndStayDownAsTheTextIs) {
   EXPECT_EQ(Level(), 3);
 }
 
-TEST_F(GroupWindowTest, TheColourIsChosenInADialog) {
+TEST_F(GroupWindowTest, TheColourIsChosenInThePicker) {
   Select("Alpha");
-  InDialog<QColorDialog>([](QColorDialog& dialog) {
-    dialog.setCurrentColor(QColor(10, 20, 30));
-    QTest::keyClick(&dialog, Qt::Key_Return);
+  InDialog<ShowColors>([&](ShowColors& picker) {
+    Find<QSlider>(picker, "red").setValue(10);
+    Find<QSlider>(picker, "green").setValue(20);
+    Find<QSlider>(picker, "blue").setValue(30);
+    Click(Find<QPushButton>(picker, "Command1"));
   });
   Click(ColourButton());
   EXPECT_EQ(At("Alpha").ColorR, 10);
   EXPECT_EQ(At("Alpha").ColorG, 20);
   EXPECT_EQ(At("Alpha").ColorB, 30);
   EXPECT_EQ(designer.Last().Label.Color, "10,20,30");
-  InDialog<QColorDialog>([](QColorDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+  InDialog<ShowColors>([](ShowColors& picker) {
+    EXPECT_EQ(picker.Result(), 0x0A141EU);
+    QTest::keyClick(&picker, Qt::Key_Escape);
+  });
   Click(ColourButton());
   EXPECT_EQ(dialogs, 2);
   EXPECT_EQ(Level(), 1);
