@@ -143,7 +143,8 @@ void KavEdit01::ShowFontTools(const FontTools& tools) {
 std::optional<Colour> KavEdit01::ChooseColour(const Colour& first) {
   const std::optional<Rgb> chosen = ShowColors::Choose(ToRgb(first), designer_.Texts(), this);
   if (!chosen) return std::nullopt;
-  return Colour{ToInt16(*chosen >> 16 & 0xFF), ToInt16(*chosen >> 8 & 0xFF), ToInt16(*chosen & 0xFF)};
+  const auto part = [&](int shift) { return ToInt16((*chosen >> shift) & 0xFFU); };
+  return Colour{part(16), part(8), part(0)};
 }
 
 void KavEdit01::ShowRecentFiles(const std::vector<std::string>& captions) {
