@@ -8,6 +8,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "chart/chart_data.h"
 #include "chart/definition.h"
 #include "document/object_fields.h"
 #include "document/position.h"
@@ -175,10 +176,10 @@ std::string Comparable(const ObjectRecord& record, const FieldRow& row, const Co
   return value;
 }
 
-// The file says "N" where the value is empty.
+// The file says "N" for all but "Y". The other ways to say yes show the titles, and would lose them.
 std::string ComparableChartValue(std::string_view key, const std::string& value) {
-  if (key != "Graph_ShowSeriesTitles") return value;
-  return value == "Y" ? "Y" : "N";
+  if (key != "Graph_ShowSeriesTitles" || IsChartYes(value)) return value;
+  return "N";
 }
 
 struct Value {

@@ -37,10 +37,6 @@ bool Is(std::string_view text, std::string_view word) {
   return CodePage::Default().EqualsIgnoringCase(Trim(text), word);
 }
 
-bool IsYes(std::string_view text) {
-  return Is(text, "Y") || Is(text, "1");
-}
-
 std::string ShortText(std::string_view text) {
   return std::string(Trim(text).substr(0, kLongestText));
 }
@@ -89,7 +85,7 @@ ChartSeries SeriesOf(const ChartLook& look, int n) {
   series.Colour = ColourOr(value(SeriesPart::Color),
                            ChartColourOf(ChartKeys()[slot::OfSeries(n, SeriesPart::Color)].defaultValue));
   series.Name = ShortText(value(SeriesPart::Name));
-  series.ShowValues = IsYes(value(SeriesPart::ShowValues));
+  series.ShowValues = IsChartYes(value(SeriesPart::ShowValues));
   for (const std::string_view piece : Pieces(value(SeriesPart::Values))) {
     series.Values.push_back(std::clamp(NumericPrefix(piece), -kLargestValue, kLargestValue));
     series.Shown.push_back(ValueText(piece, series.Values.back()));
@@ -109,9 +105,9 @@ void ReadStyles(ChartData& data, const ChartLook& look) {
   const auto value = [&](std::size_t slot) { return ValueOf(look, slot); };
   data.TitleStyle = {FontOf(value(slot::kTitleFont), value(slot::kTitleFontSize)),
                      ColourOr(value(slot::kTitleFontColor), kChartTextColour)};
-  data.TitleStyle.Font.Bold = IsYes(value(slot::kTitleFontBold));
-  data.TitleStyle.Font.Italic = IsYes(value(slot::kTitleFontItalic));
-  data.TitleStyle.Font.Underline = IsYes(value(slot::kTitleFontUnderline));
+  data.TitleStyle.Font.Bold = IsChartYes(value(slot::kTitleFontBold));
+  data.TitleStyle.Font.Italic = IsChartYes(value(slot::kTitleFontItalic));
+  data.TitleStyle.Font.Underline = IsChartYes(value(slot::kTitleFontUnderline));
   data.LabelStyle = {FontOf(value(slot::kLayoutFont), value(slot::kLayoutFontSize)),
                      ColourOr(value(slot::kLayoutFontColor), DefaultLabelColour(data))};
   data.ValueStyle = {FontOf(value(slot::kShowValuesFont), value(slot::kShowValuesFontSize)),
@@ -124,11 +120,15 @@ void ReadAxes(ChartData& data, const ChartLook& look) {
   data.ValueLines = style == 3 || style == 4;
   data.AxisColour = ColourOr(ValueOf(look, slot::kAxisColor1), kAxisGrey);
   data.ValueLineColour = ColourOr(ValueOf(look, slot::kAxisColor2), kValueLineGrey);
-  data.ShowAxis = IsYes(ValueOf(look, slot::kShowAxis));
-  data.ShowAxisBackGround = IsYes(ValueOf(look, slot::kShowAxisBackGround));
+  data.ShowAxis = IsChartYes(ValueOf(look, slot::kShowAxis));
+  data.ShowAxisBackGround = IsChartYes(ValueOf(look, slot::kShowAxisBackGround));
 }
 
 }  // namespace
+
+bool IsChartYes(std::string_view text) {
+  return Is(text, "Y") || Is(text, "1");
+}
 
 std::size_t ChartData::Categories() const {
   std::size_t most = std::max<std::size_t>(1, Labels.size());
@@ -151,7 +151,7 @@ ChartData ReadChart(const ChartLook& look) {
   data.BackGround = GradientOf(ValueOf(look, slot::kBackGround));
   data.BackGroundPicture = std::string(Trim(ValueOf(look, slot::kBackGroundPicture)));
   data.Title = ShortText(ValueOf(look, slot::kTitle));
-  data.ShowSeriesTitles = IsYes(ValueOf(look, slot::kShowSeriesTitles));
+  data.ShowSeriesTitles = IsChartYes(ValueOf(look, slot::kShowSeriesTitles));
   ReadStyles(data, look);
   ReadAxes(data, look);
   for (const std::string_view label : Pieces(ValueOf(look, slot::kLayoutValues)))

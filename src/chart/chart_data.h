@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "chart/graph.h"
@@ -57,5 +58,7 @@ struct ChartData {
 };
 
 ChartData ReadChart(const ChartLook& look);
+// Whether a flag is drawn as set: "Y", "y" or "1", with blanks around it or not.
+bool IsChartYes(std::string_view text);
 
 }  // namespace kev

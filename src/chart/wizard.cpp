@@ -71,6 +71,7 @@ Rgb ColourWithout(std::size_t at) {
   if (at == slot::kAxisColor1) return plain.AxisColour;
   if (at == slot::kAxisColor2) return plain.ValueLineColour;
   if (at == slot::kLayoutFontColor) return plain.LabelStyle.Colour;
+  if (at >= slot::kFirstSeries && at < slot::kSeries) return ChartColourOf(ChartKeys()[at].defaultValue);
   return 0;
 }
 

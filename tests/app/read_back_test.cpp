@@ -139,6 +139,24 @@ TEST_F(ReadingBack, ChartValuesAreCompared) {
             "CHART " + std::string(ChartKeys()[1].key) + ": b -> c");
 }
 
+TEST_F(ReadingBack, SeriesTitlesThatAreShownAndWrittenAsNoAreFound) {
+  const std::size_t titles = *ChartKeyIndex("GRAPH_SHOWSERIESTITLES");
+  const int shown = Add(page_, ObjectKind::Chart, "", 700);
+  const int written = Add(file_, ObjectKind::Chart, "", 700);
+  page_.Objects[shown].ChartValues = file_.Objects[written].ChartValues = ChartDefinition().Values;
+  file_.Objects[written].ChartValues[titles] = "N";
+  for (const char* no : {"", "N", "n", "0"}) {
+    page_.Objects[shown].ChartValues[titles] = no;
+    EXPECT_TRUE(CompareReadBack(page_, file_).Findings.empty()) << no;
+  }
+  for (const char* yes : {"Y", "y", "1"}) {
+    page_.Objects[shown].ChartValues[titles] = yes;
+    const ReadBack result = CompareReadBack(page_, file_);
+    ASSERT_EQ(result.Findings.size(), 1U) << yes;
+    EXPECT_EQ(result.Findings[0].Text, "CHART Graph_ShowSeriesTitles: " + std::string(yes) + " -> N");
+  }
+}
+
 TEST_F(ReadingBack, TheListOfFindingsHasAnEnd) {
   for (int row = 0; row < 1500; ++row)
     Add(page_, ObjectKind::Label, std::to_string(row), row);

@@ -229,7 +229,10 @@ TEST(WizardEdits, ASwatchWithoutAColourShowsTheOneThatIsDrawn) {
   EXPECT_EQ(second >> 16, second & 0xFFU);
   EXPECT_EQ(second >> 8 & 0xFFU, second & 0xFFU);
   EXPECT_NE(second, 0U);
-  EXPECT_EQ(SampleColour(With("Graph_serie_1_color", "").Now, "serie_1_color_sample"), 0U);
+  EXPECT_EQ(SampleColour(With("Graph_serie_1_color", "").Now, "serie_1_color_sample"), 0xC83811U);
+  EXPECT_EQ(SampleColour(With("Graph_serie_8_color", " ").Now, "serie_8_color_sample"), 0x808000U);
+  EXPECT_EQ(SampleColour(With("Graph_serie_1_color", "red").Now, "serie_1_color_sample"), 0U);
+  EXPECT_EQ(SampleColour(With("Graph_Title_FontColor", "").Now, "sample_title_color"), 0U);
   EXPECT_EQ(SampleColour(With("Graph_AxisColor_2", "0,0,0").Now, "sample_AxisColor_2"), 0U);
 }
 
