@@ -35,7 +35,7 @@ inline constexpr std::string_view kButtonImageEnding = ".prbm";
 
 // The order within a bar is the order on the screen.
 inline constexpr auto kToolButtons = std::to_array<ToolButtonRow>({
-    {"ImgButton1", "newICss", kTextTipNewTemplate, "", ToolBarId::First, Command::New, ""},
+    {"Imgbutton1", "newICss", kTextTipNewTemplate, "", ToolBarId::First, Command::New, ""},
     {"ImgButton2", "openICss", 0, "", ToolBarId::First, Command::Open, ""},
     {"ImgButton3", "saveicss", kTextTipSave, "", ToolBarId::First, Command::Save, ""},
     {"ImgButton4", "runicss", kTextTipTestRun, "", ToolBarId::First, Command::TestRun, "", true},

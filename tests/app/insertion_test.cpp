@@ -228,7 +228,7 @@ struct ExpectedButton {
 };
 
 constexpr auto kExpectedButtons = std::to_array<ExpectedButton>({
-    {"ImgButton1", "newICss", 893, "", "", Command::New},
+    {"Imgbutton1", "newICss", 893, "", "", Command::New},
     {"ImgButton2", "openICss", 0, "", "", Command::Open},
     {"ImgButton3", "saveicss", 895, "", "", Command::Save},
     {"ImgButton4", "runicss", 889, "", "", {}},
