@@ -7,6 +7,7 @@
 
 #include "platform/display_list.h"
 #include "platform/qt_measurer.h"
+#include "platform/symbol_image.h"
 
 namespace kev::bench {
 namespace {
@@ -71,10 +72,7 @@ class PreparedPage::Painting {
     painter_.drawText(QPointF(0, 0), text.text);
     painter_.setTransform(page_);
   }
-  void operator()(const Symbol& symbol) {
-    painter_.setRenderHint(QPainter::Antialiasing, true);
-    painter_.fillPath(symbol.path, symbol.colour);
-  }
+  void operator()(const Symbol& symbol) { painter_.drawImage(symbol.place, symbol.image); }
 
  private:
   const PagePictures& pictures_;
@@ -153,13 +151,17 @@ void PreparedPage::PrintText(double x, double y, std::string_view text) {
 }
 
 void PreparedPage::DrawSymbol(double x, double y, Rgb colour, std::span<const SymbolArea> areas) {
+  constexpr double kHalf = 0.5 + 1e-6;
   const QPointF place = Pixels(x, y);
-  const QPointF origin(std::round(place.x()), std::round(place.y()));
-  QPainterPath path;
-  path.setFillRule(Qt::WindingFill);
-  for (const SymbolArea& area : areas)
-    path.addRect(Between(area.Left, area.Top, area.Right, area.Bottom).translated(origin));
-  shapes_.push_back({path.boundingRect(), Symbol{ToColour(colour), path}});
+  const QPointF origin(std::floor(place.x() + kHalf), std::floor(place.y() + kHalf));
+  std::vector<QRectF> pixels;
+  QRectF bounds;
+  for (const SymbolArea& area : areas) {
+    pixels.push_back(Between(area.Left, area.Top, area.Right, area.Bottom).translated(origin));
+    bounds |= pixels.back();
+  }
+  const QRect box = bounds.toAlignedRect();
+  shapes_.push_back({box, Symbol{box.topLeft(), SymbolImage(pixels, box, ToColour(colour).rgb())}});
 }
 
 double PreparedPage::TextWidth(std::string_view text) {

@@ -5,7 +5,6 @@
 
 #include <QFont>
 #include <QImage>
-#include <QPainterPath>
 #include <QPen>
 #include <QString>
 #include <QSvgRenderer>
@@ -86,8 +85,8 @@ class PreparedPage final : public SurfaceOps {
     QString text;
   };
   struct Symbol {
-    QColor colour;
-    QPainterPath path;
+    QPoint place;
+    QImage image;
   };
   struct Shape {
     QRectF bounds;

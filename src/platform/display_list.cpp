@@ -9,6 +9,7 @@
 
 #include "base/numbers.h"
 #include "platform/qt_measurer.h"
+#include "platform/symbol_image.h"
 
 namespace kev {
 namespace {
@@ -75,6 +76,12 @@ Part PartInside(const QLineF& line, const QRectF& area) {
   return part;
 }
 
+// Halves go the same way on both sides of a window's edge, or scrolling would shift what stands there.
+QPointF NearestWhole(const QPointF& point) {
+  constexpr double kHalf = 0.5 + 1e-6;
+  return {std::floor(point.x() + kHalf), std::floor(point.y() + kHalf)};
+}
+
 }  // namespace
 
 // One paint of a region. All lengths that reach the painter are logical pixels from the region's corner, so
@@ -108,8 +115,8 @@ class DisplayList::Painting {
   void DrawFlat(const QLineF& line, const Pen& pen);
   void DrawOutline(const QRectF& area, const Pen& pen);
   void DrawDotRow(const Dots& dots, double y);
-  // The nearest whole pixel of a bitmap or window; other devices have none.
-  QPointF OnWholePixel(const QPointF& point) const;
+  // On a bitmap or window, where the origin stands on a whole pixel.
+  void DrawOnPixels(const Symbol& symbol, const QTransform& toDevice);
 
   const DisplayList& list_;
   QPainter& painter_;
@@ -200,15 +207,12 @@ void DisplayList::Painting::operator()(const Dots& dots) {
     DrawDotRow(dots, dots.area.top() + n * dots.step);
 }
 
-QPointF DisplayList::Painting::OnWholePixel(const QPointF& point) const {
-  if (painter_.paintEngine()->type() != QPaintEngine::Raster) return point;
-  const QTransform toDevice = painter_.deviceTransform();
-  const QPointF device = toDevice.map(point);
-  return toDevice.inverted().map(QPointF(std::round(device.x()), std::round(device.y())));
-}
-
 void DisplayList::Painting::operator()(const Symbol& symbol) {
-  const QPointF origin = OnWholePixel(At(symbol.origin));
+  const QTransform toDevice = painter_.deviceTransform();
+  const bool isUpright = toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0 && toDevice.m22() > 0;
+  if (isUpright && painter_.paintEngine()->type() == QPaintEngine::Raster)
+    return DrawOnPixels(symbol, toDevice);
+  const QPointF origin = At(symbol.origin);
   const QRectF seen = Grown(window_, kBeyond);
   // One path, since areas that share a pixel must add up.
   QPainterPath path;
@@ -219,6 +223,28 @@ void DisplayList::Painting::operator()(const Symbol& symbol) {
   }
   painter_.setRenderHint(QPainter::Antialiasing, true);
   painter_.fillPath(path, ToColour(symbol.colour));
+}
+
+void DisplayList::Painting::DrawOnPixels(const Symbol& symbol, const QTransform& toDevice) {
+  const QRectF seen = toDevice.mapRect(window_);
+  const QPointF origin = NearestWhole(toDevice.map(At(symbol.origin)));
+  std::vector<QRectF> areas;
+  QRectF bounds;
+  for (const QRectF& area : symbol.areas) {
+    const QPointF corner(area.left() * kPixel * toDevice.m11(), area.top() * kPixel * toDevice.m22());
+    const QSizeF size(area.width() * kPixel * toDevice.m11(), area.height() * kPixel * toDevice.m22());
+    const QRectF part = QRectF(origin + corner, size) & seen;
+    if (part.isEmpty()) continue;
+    areas.push_back(part);
+    bounds |= part;
+  }
+  if (areas.empty()) return;
+  const QRect box = bounds.toAlignedRect();
+  // From here on the painter's unit is the pixel of the device.
+  const QTransform kept = painter_.worldTransform();
+  painter_.setWorldTransform(toDevice.inverted() * kept);
+  painter_.drawImage(box.topLeft(), SymbolImage(areas, box, symbol.colour));
+  painter_.setWorldTransform(kept);
 }
 
 void DisplayList::Paint(QPainter& painter, const QRectF& region) const {

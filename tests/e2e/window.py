@@ -93,8 +93,13 @@ class Program:
         return xdotool("getactivewindow", "getwindowname")
 
     def wait_title(self, start):
-        wait_for(f"the window \"{start}\", there is \"{self.title()}\"",
-                 lambda: self.title().startswith(start) and xdotool("getwindowfocus", "getwindowname") == self.title())
+        try:
+            wait_for(f"the window \"{start}\"", lambda: self.title().startswith(start)
+                     and xdotool("getwindowfocus", "getwindowname") == self.title())
+        except Failed as failure:
+            ended = self.process.poll()
+            state = "runs" if ended is None else f"ended with {ended}"
+            raise Failed(f"{failure}; there is \"{self.title()}\", and the program {state}") from None
 
     # --- Where the page is -----------------------------------------------------------------------------------
 

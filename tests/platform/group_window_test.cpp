@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -19,6 +18,7 @@
 #include "platform/forms/kav_edit01.h"
 #include "platform/forms/placeselection.h"
 #include "platform/forms/prop_grid.h"
+#include "platform/forms/show_colors.h"
 #include "platform/forms/text_tools.h"
 #include "platform/page_canvas.h"
 #include "platform/print_qt.h"
@@ -437,16 +437,21 @@ TEST_F(GroupWindowTest, TheButtonsToggleAndStayDownAsTheTextIs) {
 
 TEST_F(GroupWindowTest, TheColourIsChosenInADialog) {
   Select("Alpha");
-  InDialog<QColorDialog>([](QColorDialog& dialog) {
-    dialog.setCurrentColor(QColor(10, 20, 30));
-    QTest::keyClick(&dialog, Qt::Key_Return);
+  InDialog<ShowColors>([this](ShowColors& dialog) {
+    for (const auto& [name, text] :
+         {std::pair("red_value", "10"), {"Green_value", "20"}, {"blue_value", "30"}}) {
+      auto& box = Find<QLineEdit>(dialog, name);
+      box.selectAll();
+      QTest::keyClicks(&box, QString::fromLatin1(text));
+    }
+    QTest::mouseClick(&Find<QPushButton>(dialog, "Command1"), Qt::LeftButton);
   });
   Click(ColourButton());
   EXPECT_EQ(At("Alpha").ColorR, 10);
   EXPECT_EQ(At("Alpha").ColorG, 20);
   EXPECT_EQ(At("Alpha").ColorB, 30);
   EXPECT_EQ(designer.Last().Label.Color, "10,20,30");
-  InDialog<QColorDialog>([](QColorDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+  InDialog<ShowColors>([](ShowColors& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
   Click(ColourButton());
   EXPECT_EQ(dialogs, 2);
   EXPECT_EQ(Level(), 1);

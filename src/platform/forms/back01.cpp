@@ -43,8 +43,9 @@ std::optional<std::array<int, 6>> Back01::Choose(std::string_view ends, const La
 }
 
 void Back01::accept() {
+  // All are read before any is shown again.
   for (std::size_t n = 0; n < rows_.size(); ++n)
-    Leave(n);
+    LeaveBack01(state_, n, rows_[n].Box->text().toLatin1().toStdString());
   QDialog::accept();
 }
 

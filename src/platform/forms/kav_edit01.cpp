@@ -51,7 +51,7 @@ namespace kev {
 
 namespace {
 
-constexpr QSize kFirstSize(1180, 780);
+constexpr QSize kFirstSize(1180, 814);
 
 constexpr std::array kFilterCommands = {std::pair(DisplayFilter::All, Command::SeeAll),
                                         std::pair(DisplayFilter::Ebeu, Command::SeeModifiable),

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // What the designer shows in the main window: the page, its panels and the dialogs above it.
-#include <QColorDialog>
 #include <QMenu>
 #include <QTimer>
 #include <utility>
@@ -20,10 +19,11 @@
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/placeselection.h"
-#include "platform/forms/recent_menu.h"
 #include "platform/forms/quick_panel.h"
+#include "platform/forms/recent_menu.h"
 #include "platform/forms/recover_form.h"
 #include "platform/forms/set_this_column.h"
+#include "platform/forms/show_colors.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/sub_section_propert.h"
 #include "platform/forms/text_tools.h"
@@ -32,6 +32,7 @@
 #include "platform/forms/zoom_box.h"
 #include "platform/forms/zoom_menu.h"
 #include "platform/text_bridge.h"
+#include "surface/paint_kinds.h"
 
 namespace kev {
 
@@ -140,10 +141,10 @@ void KavEdit01::ShowFontTools(const FontTools& tools) {
 }
 
 std::optional<Colour> KavEdit01::ChooseColour(const Colour& first) {
-  const QColor chosen = QColorDialog::getColor(QColor(first.Red, first.Green, first.Blue), this,
-                                               ToQString(designer_.Text(kTextToolFontColor)));
-  if (!chosen.isValid()) return std::nullopt;
-  return Colour{ToInt16(chosen.red()), ToInt16(chosen.green()), ToInt16(chosen.blue())};
+  const std::optional<Rgb> chosen = ShowColors::Choose(ToRgb(first), designer_.Texts(), this);
+  if (!chosen) return std::nullopt;
+  const auto part = [&](int shift) { return ToInt16((*chosen >> shift) & 0xFFU); };
+  return Colour{part(16), part(8), part(0)};
 }
 
 void KavEdit01::ShowRecentFiles(const std::vector<std::string>& captions) {

@@ -21,7 +21,7 @@ namespace kev {
 namespace {
 
 constexpr int kRowRoom = 8;  // pixels above and below a row's text together
-constexpr int kArrowRoom = 16;
+constexpr int kArrowRoom = 13;
 constexpr int kSwatchSide = 12;
 constexpr int kButtonWidth = 22;
 
@@ -220,7 +220,7 @@ void PropGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
   if (row.Editor == EditorKind::Button) return PaintButton(*painter, option, row.Enabled);
   if (!arrowed) return;
   QStyleOption arrow;
-  arrow.rect = QRect(option.rect.right() - 15, option.rect.center().y() - 4, 9, 9);
+  arrow.rect = QRect(option.rect.right() - 12, option.rect.center().y() - 4, 9, 9);
   arrow.palette = option.palette;
   arrow.state = QStyle::State_Enabled;
   option.widget->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, painter, option.widget);
