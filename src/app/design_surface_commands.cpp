@@ -77,12 +77,14 @@ bool DesignSurface::Enabled(Command command) const {
     case Command::DeleteObject:
       return current || pointer_.MultiSelected;
     case Command::Cut:
+    case Command::Copy:
+      return !TextHasKeys() && (current || pointer_.MultiSelected);
+    // They have no keys that a text could want.
     case Command::CutContext:
     case Command::CutGroup:
-    case Command::Copy:
     case Command::CopyContext:
     case Command::CopyGroup:
-      return !TextHasKeys() && (current || pointer_.MultiSelected);
+      return current || pointer_.MultiSelected;
     case Command::Paste:
       return !TextHasKeys() && !clipboard_.Empty();
     case Command::DeleteSelection:

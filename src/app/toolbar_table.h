@@ -35,15 +35,15 @@ inline constexpr std::string_view kButtonImageEnding = ".prbm";
 
 // The order within a bar is the order on the screen.
 inline constexpr auto kToolButtons = std::to_array<ToolButtonRow>({
-    {"ImgButton1", "newICss", kTextTipNewTemplate, "", ToolBarId::First, Command::New, ""},
+    {"Imgbutton1", "newICss", kTextTipNewTemplate, "", ToolBarId::First, Command::New, ""},
     {"ImgButton2", "openICss", 0, "", ToolBarId::First, Command::Open, ""},
     {"ImgButton3", "saveicss", kTextTipSave, "", ToolBarId::First, Command::Save, ""},
     {"ImgButton4", "runicss", kTextTipTestRun, "", ToolBarId::First, Command::TestRun, "", true},
     {"ImgButton5", "propics", kTextTipProperties, "", ToolBarId::First, Command::Properties, ""},
     {"ImgButton21", "undoicss", kTextTipUndo, "", ToolBarId::First, Command::Undo, "", true},
     {"ImgButton22", "redoicss", kTextTipRedo, "", ToolBarId::First, Command::Redo, ""},
-    {"ImgButton17", "cuticss", kTextTipCut, "", ToolBarId::First, Command::Cut, "", true},
-    {"ImgButton18", "copyicss", kTextTipCopy, "", ToolBarId::First, Command::Copy, ""},
+    {"ImgButton17", "cuticss", kTextTipCut, "", ToolBarId::First, Command::CutContext, "", true},
+    {"ImgButton18", "copyicss", kTextTipCopy, "", ToolBarId::First, Command::CopyContext, ""},
     {"ImgButton10", "boldicss", kTextTipFontBold, "", ToolBarId::First, std::nullopt, "", true,
      FontTool::Bold},
     {"ImgButton11", "italicicss", 0, "Font Italic", ToolBarId::First, std::nullopt, "", false,

@@ -6,7 +6,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
-#include <algorithm>
 #include <array>
 
 #include "app/folders.h"
@@ -160,8 +159,9 @@ std::optional<std::string> QtHost::Choose(const FileChoice& choice, bool save) {
     dialog.setDefaultSuffix(SuffixOf(choice.Filters.front().second));
   if (!choice.SuggestedName.empty()) dialog.selectFile(FromNative(choice.SuggestedName));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  if (choice.Filter != nullptr)
-    *choice.Filter = std::max(0, static_cast<int>(filters.indexOf(dialog.selectedNameFilter())));
+  // A desktop's own dialog may tell of a kind that it was never given; what was offered holds then.
+  const qsizetype kind = filters.indexOf(dialog.selectedNameFilter());
+  if (choice.Filter != nullptr && kind >= 0) *choice.Filter = static_cast<int>(kind);
   return ToNative(dialog.selectedFiles().constFirst());
 }
 

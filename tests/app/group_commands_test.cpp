@@ -175,6 +175,32 @@ TEST_F(GroupsOfDesigner, TheGridAndATextBoxKeepTheKeys) {
   EXPECT_TRUE(designer_->Enabled(Command::Paste));
 }
 
+TEST_F(GroupsOfDesigner, ToolsAndContextMenusActWhileATextHasTheKeys) {
+  StartWithTwo();
+  for (const Command copy : {Command::CopyContext, Command::CopyGroup}) {
+    Select(Label("Alpha"));
+    designer_->Sheets().SetGridFocus(true);
+    EXPECT_TRUE(designer_->Enabled(copy)) << static_cast<int>(copy);
+    EXPECT_TRUE(designer_->Run(copy));
+    EXPECT_EQ(Surface().Clipboard().Rows.count(Label("Alpha")), 1U);
+    Select(Label("Beta"));
+    EXPECT_TRUE(designer_->Run(copy));
+    EXPECT_EQ(Surface().Clipboard().Rows.count(Label("Beta")), 1U);
+  }
+  EXPECT_TRUE(designer_->Run(Command::CutContext));
+  EXPECT_EQ(Labels(), 1);
+  designer_->Sheets().SetGridFocus(false);
+  Select(Label("Alpha"));
+  EXPECT_TRUE(Surface().KeyDown(113, 0, ""));
+  ASSERT_TRUE(Surface().Edit().Active());
+  Surface().FieldTextChanged("Typed");
+  EXPECT_TRUE(designer_->Run(Command::CutGroup));
+  EXPECT_FALSE(Surface().Edit().Active());
+  EXPECT_EQ(Labels(), 0);
+  ASSERT_EQ(Surface().Clipboard().Rows.size(), 1U);
+  EXPECT_EQ(Surface().Clipboard().Rows.begin()->second.Content, "Typed");
+}
+
 TEST_F(GroupsOfDesigner, ASectionBarIsRefusedWithItsMessage) {
   StartWithTwo();
   int bar = 0;

@@ -228,7 +228,7 @@ struct ExpectedButton {
 };
 
 constexpr auto kExpectedButtons = std::to_array<ExpectedButton>({
-    {"ImgButton1", "newICss", 893, "", "", Command::New},
+    {"Imgbutton1", "newICss", 893, "", "", Command::New},
     {"ImgButton2", "openICss", 0, "", "", Command::Open},
     {"ImgButton3", "saveicss", 895, "", "", Command::Save},
     {"ImgButton4", "runicss", 889, "", "", {}},
@@ -245,8 +245,8 @@ constexpr auto kExpectedButtons = std::to_array<ExpectedButton>({
     {"ImgButton14", "centericss", 904, "", "", {}},
     {"ImgButton15", "righticss", 905, "", "", {}},
     {"ImgButton16", "anylineics", 906, "", "ANYLINE", {}},
-    {"ImgButton17", "cuticss", 805, "", "", {}},
-    {"ImgButton18", "copyicss", 806, "", "", {}},
+    {"ImgButton17", "cuticss", 805, "", "", Command::CutContext},
+    {"ImgButton18", "copyicss", 806, "", "", Command::CopyContext},
     {"ImgButton19", "configics", 907, "", "COMMAND", {}},
     {"ImgButton20", "chartics", 908, "", "CHART", {}},
     {"ImgButton21", "undoicss", 803, "", "", Command::Undo},

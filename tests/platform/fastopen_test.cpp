@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTest>
 
 #include "app/recent_files.h"
@@ -110,6 +111,15 @@ TEST_F(FastopenTest, AClickChoosesAndTheButtonOpens) {
   EXPECT_FALSE(Button("prevbutt").isEnabled());
   QTest::mouseClick(&Button("openbutt"), Qt::LeftButton);
   EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(run->Chosen(), 1);
+}
+
+TEST_F(FastopenTest, AClickOnlyChoosesWhereADesktopOpensByOne) {
+  const auto putBack = qScopeGuard([before = qApp->styleSheet()] { qApp->setStyleSheet(before); });
+  qApp->setStyleSheet(QStringLiteral("QAbstractItemView { activate-on-singleclick: 1; }"));
+  Open();
+  ClickRow(1);
+  EXPECT_TRUE(form->isVisible());
   EXPECT_EQ(run->Chosen(), 1);
 }
 

@@ -315,6 +315,9 @@ TEST_F(GroupWindowTest, TheGridKeepsItsKeys) {
   EXPECT_FALSE(Action("copythis").isEnabled());
   QTest::keyClick(grid, Qt::Key_C, Qt::ControlModifier);
   EXPECT_TRUE(designer.Surface().Clipboard().Empty());
+  Click(Button("ImgButton18"));
+  EXPECT_FALSE(designer.Surface().Clipboard().Empty()) << "a tool is no key";
+  EXPECT_TRUE(designer.Sheets().HasGridFocus());
   Canvas().setFocus();
   EXPECT_TRUE(Action("Cuthis").isEnabled());
 }

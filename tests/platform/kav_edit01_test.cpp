@@ -672,7 +672,7 @@ TEST_F(KavEdit01Test, AToolButtonStaysDownUntilTheToolIsGivenUp) {
 TEST_F(KavEdit01Test, TheZoomBoxStandsInTheFirstBar) {
   Start();
   EXPECT_EQ(Zoom().parentWidget()->objectName(), QStringLiteral("toolbar1"));
-  EXPECT_EQ(Find<QToolButton>("ImgButton1").parentWidget(), Zoom().parentWidget());
+  EXPECT_EQ(Find<QToolButton>("Imgbutton1").parentWidget(), Zoom().parentWidget());
   EXPECT_EQ(Find<QToolButton>("ImgButton6").parentWidget()->objectName(), QStringLiteral("toolbar2"));
 }
 

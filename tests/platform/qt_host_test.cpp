@@ -167,6 +167,19 @@ TEST_F(ChooserTest, TheKindOfFileIsOfferedAndTold) {
   EXPECT_EQ(kind, 2);
 }
 
+TEST_F(ChooserTest, AKindThatWasNeverOfferedLeavesTheOneThatWas) {
+  FileChoice choice = Choice();
+  choice.Filters = {{"Plain", "*.kev"}, {"Encoded", "*.kev"}};
+  int kind = 1;
+  choice.Filter = &kind;
+  WhenModal([](QWidget& modal) {
+    dynamic_cast<QFileDialog&>(modal).setNameFilters({QStringLiteral("Of the desktop (*.kev)")});
+    AnswerFileDialog(modal, QStringLiteral("two"));
+  });
+  EXPECT_EQ(host.ChooseFileToSave(choice), folder.path().toStdString() + "/two.kev");
+  EXPECT_EQ(kind, 1);
+}
+
 TEST_F(ChooserTest, AnExistingFileIsChosenToOpen) {
   WhenModal([](QWidget& modal) { AnswerFileDialog(modal, QStringLiteral("one.kev")); });
   EXPECT_EQ(host.ChooseFileToOpen(Choice()), folder.path().toStdString() + "/one.kev");

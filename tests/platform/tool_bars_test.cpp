@@ -117,8 +117,8 @@ TEST_F(ToolBarsTest, WhatCannotBeUsedIsDisabled) {
 TEST_F(ToolBarsTest, AButtonWithoutItsImageShowsItsName) {
   home_.InstallProgram();
   Make();
-  EXPECT_TRUE(Button("ImgButton1")->icon().isNull());
-  EXPECT_EQ(Button("ImgButton1")->text(), ToQString(designer_->Text(kTextTipNewTemplate)));
+  EXPECT_TRUE(Button("Imgbutton1")->icon().isNull());
+  EXPECT_EQ(Button("Imgbutton1")->text(), ToQString(designer_->Text(kTextTipNewTemplate)));
 }
 
 TEST_F(ToolBarsTest, BothBarsHaveTheColourOfTheTheme) {
