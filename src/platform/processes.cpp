@@ -68,7 +68,7 @@ std::optional<ProcessId> Processes::StartDetached(const ProgramStart& start) {
 
 void Processes::Wait(ProcessId process) {
   if (!running_.contains(process)) return;
-  ++waits_;
+  waitedFor_.push_back(process);
   QEventLoop loop;
   connect(this, &Processes::Ended, &loop, [&loop, process](qint64 ended) {
     if (ended == process) loop.quit();
@@ -77,7 +77,14 @@ void Processes::Wait(ProcessId process) {
   // Both return at once where the program is to end.
   loop.exec(QEventLoop::ExcludeUserInputEvents);
   if (running_.contains(process)) loop.exec();
-  if (--waits_ == 0) Q_EMIT WaitsEnded();
+  waitedFor_.pop_back();
+  if (!Waiting()) Q_EMIT WaitsEnded();
+}
+
+void Processes::KillWaitedFor() {
+  for (const ProcessId process : waitedFor_)
+    if (const auto running = running_.find(process); running != running_.end())
+      running->second.process->kill();
 }
 
 void Processes::Stop(ProcessId process) {

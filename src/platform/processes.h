@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "base/host.h"
 
@@ -31,7 +32,9 @@ class Processes final : public QObject {
   // Kills it; its `ended` is not called.
   void Stop(ProcessId process);
 
-  bool Waiting() const { return waits_ > 0; }
+  bool Waiting() const { return !waitedFor_.empty(); }
+  // Kills what is waited for, which then ends as if by itself: its `ended` is called and the wait returns.
+  void KillWaitedFor();
 
  Q_SIGNALS:
   void Ended(qint64 process);
@@ -48,7 +51,7 @@ class Processes final : public QObject {
   std::map<ProcessId, Running> running_;
   // Numbers of our own: the system gives those of ended processes to others.
   ProcessId last_ = 0;
-  int waits_ = 0;
+  std::vector<ProcessId> waitedFor_;  // the innermost wait last
 };
 
 }  // namespace kev

@@ -53,6 +53,7 @@ class QtHost final : public QObject, public Host {
 
   // Whether a program is waited for.
   bool Waiting() const { return processes_.Waiting(); }
+  void KillWaitedFor() { processes_.KillWaitedFor(); }
   // The user has had enough of what is under way.
   void StopProgress() { progressStopped_ = true; }
 

@@ -208,6 +208,22 @@ TEST_F(ProcessesTest, AStoppedProgramEndsTheWaitAndIsToldNoMore) {
   processes_.Stop(-1);
 }
 
+TEST_F(ProcessesTest, WhatIsWaitedForCanBeKilledAndIsTold) {
+  const auto other = Start(Shell("exec sleep 60"));
+  const auto id = Start(Shell("exec sleep 60"));
+  QElapsedTimer timer;
+  timer.start();
+  QTimer::singleShot(100, &processes_, [this] { processes_.KillWaitedFor(); });
+  processes_.Wait(*id);
+  EXPECT_LT(timer.elapsed(), 20000);
+  EXPECT_EQ(ended_, 1) << "the other one goes on";
+  EXPECT_FALSE(processes_.Waiting());
+  processes_.KillWaitedFor();
+  QTest::qWait(50);
+  EXPECT_EQ(ended_, 1);
+  processes_.Stop(*other);
+}
+
 TEST_F(ProcessesTest, WhatStillRunsIsKilledAtTheEndAndTellsNothing) {
   {
     Processes processes;

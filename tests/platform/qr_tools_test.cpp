@@ -226,5 +226,23 @@ TEST_F(QrToolsTest, DelayACloseToTheEndOfTheWait) {
   window_.reset();
 }
 
+TEST_F(QrToolsTest, ThatHangHoldACloseUpForAMomentOnly) {
+  InstallStubs("exec sleep 60");
+  Open();
+  Click();
+  QTimer::singleShot(300, qApp, [&] {
+    ASSERT_TRUE(host_.Waiting());
+    EXPECT_TRUE(designer_->Save());
+    EXPECT_FALSE(window_->close());
+  });
+  QElapsedTimer timer;
+  timer.start();
+  TypeText("second");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->isVisible(); }));
+  EXPECT_GT(timer.elapsed(), 2000);
+  EXPECT_LT(timer.elapsed(), 20000);
+  window_.reset();
+}
+
 }  // namespace
 }  // namespace kev

@@ -33,8 +33,8 @@
 #include "platform/forms/page_frame.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
-#include "platform/forms/recent_menu.h"
 #include "platform/forms/quick_panel.h"
+#include "platform/forms/recent_menu.h"
 #include "platform/forms/status_panels.h"
 #include "platform/forms/text_tools.h"
 #include "platform/forms/tool_bars.h"
@@ -52,6 +52,11 @@ namespace kev {
 namespace {
 
 constexpr QSize kFirstSize(1180, 814);
+
+// Milliseconds: what the programs that are waited for still get when the user wants to close, and how soon
+// those go that are started in their place.
+constexpr int kPatience = 3000;
+constexpr int kNoPatience = 50;
 
 constexpr std::array kFilterCommands = {std::pair(DisplayFilter::All, Command::SeeAll),
                                         std::pair(DisplayFilter::Ebeu, Command::SeeModifiable),
@@ -223,6 +228,8 @@ void KavEdit01::ConnectHost() {
   connect(&host_, &QtHost::ProgressStepped, progress_, &ProgressWindow::Step);
   connect(&host_, &QtHost::ProgressEnded, progress_, &ProgressWindow::End);
   connect(&host_, &QtHost::WaitsEnded, this, &KavEdit01::CloseIfWanted, Qt::QueuedConnection);
+  patience_.setSingleShot(true);
+  connect(&patience_, &QTimer::timeout, this, &KavEdit01::GiveUpWaits);
   connect(&host_, &QtHost::StopOffered, progress_, &ProgressWindow::OfferStop);
   connect(progress_, &ProgressWindow::StopWanted, &host_, &QtHost::StopProgress);
   connect(&host_, &QtHost::CaptionChanged, this, [this](const QString& title, bool modified) {
@@ -288,7 +295,15 @@ void KavEdit01::closeEvent(QCloseEvent* event) {
 bool KavEdit01::DelayClose() {
   if (QApplication::activeModalWidget() == nullptr && !host_.Waiting()) return closing_;
   closeWanted_ = !closing_;
+  if (host_.Waiting() && !patience_.isActive()) patience_.start(kPatience);
   return true;
+}
+
+// A tool may hang, and the window must not stay open for ever because of it.
+void KavEdit01::GiveUpWaits() {
+  if (!closeWanted_ || !host_.Waiting()) return;
+  host_.KillWaitedFor();
+  patience_.start(kNoPatience);
 }
 
 void KavEdit01::CloseIfWanted() {

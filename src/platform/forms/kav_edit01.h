@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <memory>
 
 #include "app/commands.h"
@@ -103,6 +104,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void SetZoom(const QString& text);
   bool DelayClose();
   void CloseIfWanted();
+  void GiveUpWaits();
   void OnZoomWheel(int steps, const QPointF& viewportPoint);
   void OpenDocumentation();
 
@@ -133,6 +135,8 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   bool closing_ = false;
   // A close was asked for while something else had to be answered first.
   bool closeWanted_ = false;
+  // How long a wanted close is held up by a program that is waited for.
+  QTimer patience_;
   CloseRequests closeRequests_{*this, [this] { DelayClose(); }};
 };
 
