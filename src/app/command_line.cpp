@@ -106,7 +106,7 @@ CommandLineParts ParseCommandLine(std::span<const std::string> arguments) {
   const bool closed = tail.ends_with('/');
   if (closed) tail.remove_suffix(1);
   if (tail.find('/') != std::string_view::npos) return parts;
-  if (!closed && (before.empty() || !FileExists(ResolveTemplatePath(before)))) return parts;
+  if (!closed && (before.empty() || !FindFile(ResolveTemplatePath(before), {}))) return parts;
   parts.CommandLine = before;
   parts.CommandOptions = tail;
   return parts;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/language.h"
+#include "base/code_page.h"
 #include "base/host.h"
 #include "base/text_numbers.h"
 #include "template/reader.h"
@@ -24,10 +25,15 @@ class HostProgress final : public ReadProgress {
     host_.BeginProgress(texts_.Text(kTextStatusReading), lines);
     host_.ShowStatus(texts_.Text(kTextStatusReading));
   }
-  void Line(int number) override { host_.StepProgress(number, texts_.Text(kTextStatusReading)); }
+  void Line(int number) override {
+    line_ = number;
+    host_.StepProgress(number, texts_.Text(kTextStatusReading));
+  }
   void Object(int row, ObjectKind kind) override {
-    host_.ShowStatus(std::to_string(row) + " " + texts_.Text(kTextStatusReadingObject) + ": " +
-                     std::string(KindText(kind)));
+    const std::string text = std::to_string(row) + " " + texts_.Text(kTextStatusReadingObject) + ": " +
+                             CodePage::Default().Lower(KindText(kind));
+    host_.ShowStatus(text);
+    host_.StepProgress(line_, text);
   }
   void End() override {
     if (!shown_) return;
@@ -39,6 +45,7 @@ class HostProgress final : public ReadProgress {
  private:
   Host& host_;
   const LanguageTexts& texts_;
+  int line_ = 0;
   bool shown_ = false;
 };
 

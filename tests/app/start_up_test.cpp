@@ -243,8 +243,9 @@ TEST_F(StartUp, ProgressRunsToTheLastLineAndIsHidden) {
   EXPECT_EQ(host_.ProgressMaximum, 8);
   EXPECT_EQ(host_.ProgressValue, 8);
   const auto& history = host_.StatusHistory;
-  EXPECT_TRUE(std::any_of(history.begin(), history.end(),
-                          [](const std::string& text) { return text.ends_with("Reading object: LABEL"); }));
+  const auto names = [](const std::string& text) { return text.ends_with("Reading object: label"); };
+  EXPECT_TRUE(std::any_of(history.begin(), history.end(), names));
+  EXPECT_TRUE(std::any_of(host_.ProgressTexts.begin(), host_.ProgressTexts.end(), names));
 }
 
 class ShutDown : public test::DesignerTest {};

@@ -25,6 +25,7 @@
 #include <fstream>
 #include <new>
 
+#include "app/documentation.h"
 #include "base/files.h"
 #include "base/text_numbers.h"
 #include "platform/file_dialog.h"
@@ -570,6 +571,20 @@ TEST_F(KavEdit01Test, DocumentationThatNothingShowsIsToldAsSuch) {
   ASSERT_EQ(answers.texts.size(), 1);
   EXPECT_TRUE(answers.texts[0].startsWith(ToQString(designer->Text(kTextDocumentationNotOpened))));
   EXPECT_TRUE(answers.texts[0].endsWith(QStringLiteral("program/docs/README.md")));
+}
+
+TEST_F(KavEdit01Test, TheDocumentsLieBesideTheProgram) {
+  const std::optional<std::string> documents = InstalledDocumentation(KEV_PROGRAM_DIR);
+  ASSERT_TRUE(documents);
+  EXPECT_TRUE(documents->ends_with("docs/README.md"));
+}
+
+TEST_F(KavEdit01Test, APanelThatWasClosedStaysClosedAtTheNextStart) {
+  std::ofstream(home.Path("data/Kev/LASTRV.DAT")) << "SHOWWELCOME=0\r\nPROPFIX=-1\r\n";
+  Start();
+  EXPECT_FALSE(Find<QWidget>("FrameProps").isVisible());
+  window->Run(Command::Properties);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Find<QWidget>("FrameProps").isVisible(); }));
 }
 
 TEST_F(KavEdit01Test, TheWheelRoundsNoTypedZoom) {

@@ -27,6 +27,7 @@ class ScriptedHost final : public Host {
   std::vector<std::string> StatusHistory;
   std::string Caption;
   bool CaptionModified = false;
+  std::set<std::string> ProgressTexts;
   int ProgressMaximum = 0, ProgressValue = 0, ProgressBegun = 0, ProgressEnded = 0;
   std::deque<std::optional<std::string>> FilesToOpen, FilesToSave;
   std::deque<int> FiltersToTake;   // the kind of file chosen, one for each file to save; else the first shown
@@ -64,8 +65,9 @@ class ScriptedHost final : public Host {
     ++ProgressBegun;
     ProgressMaximum = maximum;
   }
-  void StepProgress(int value, std::string_view) override {
+  void StepProgress(int value, std::string_view text) override {
     ProgressValue = value;
+    ProgressTexts.insert(std::string(text));
     if (OnStep) OnStep();
   }
   void EndProgress() override { ++ProgressEnded; }

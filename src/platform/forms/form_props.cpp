@@ -2,6 +2,7 @@
 #include "platform/forms/form_props.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -33,7 +34,9 @@ FormPROPS::FormPROPS(const PanelArea& area, const QString& caption, QWidget* par
   setWindowTitle(caption);
   setMinimumSize(kLeast);
   PanelArea inside = area;
-  MovePanelIn(inside, AreaOfScreen(screen()->availableGeometry()));
+  // A place on a second screen is kept; one on a screen that is gone comes back to the window's.
+  const QScreen* there = QGuiApplication::screenAt({Pixels(area.Left), Pixels(area.Top)});
+  MovePanelIn(inside, AreaOfScreen((there != nullptr ? there : screen())->availableGeometry()));
   // The place is that of the frame, the size that of what it holds: both are told the same way.
   resize(Pixels(inside.Width), Pixels(inside.Height));
   move(Pixels(inside.Left), Pixels(inside.Top));

@@ -4,7 +4,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMenuBar>
@@ -422,10 +421,9 @@ void KavEdit01::OpenDocumentation() {
     designer_.ShowText(kTextFileMissing, BoxIcon::Critical, designer_.Folders().ProgramFolder + "/docs");
     return;
   }
-  const QUrl url = kHost.empty() ? QUrl::fromLocalFile(FromNative(*installed)) : QUrl(FromNative(address));
-  if (!QDesktopServices::openUrl(url)) {
-    designer_.ShowText(kTextDocumentationNotOpened, BoxIcon::Critical, ToNative(url.toDisplayString()));
-  }
+  const bool opened = kHost.empty() ? host_.OpenWithDesktop(*installed) : host_.OpenAddress(address);
+  if (!opened)
+    designer_.ShowText(kTextDocumentationNotOpened, BoxIcon::Critical, kHost.empty() ? *installed : address);
 }
 
 void KavEdit01::dragEnterEvent(QDragEnterEvent* event) {
