@@ -240,7 +240,7 @@ void Designer::SetFindings(std::vector<Finding> findings) {
 
 // Runs behind work of any kind, also behind one that failed.
 void Designer::TakeArrivals() noexcept {
-  while (holds_ == 0 && !arrivals_.empty()) {
+  while (holds_ == 0 && !arrivals_.empty() && !surface_.Busy()) {
     const auto [pictureFile, there] = std::move(arrivals_.front());
     arrivals_.erase(arrivals_.begin());
     PictureArrived(pictureFile, there);
@@ -264,7 +264,7 @@ void Designer::PictureArrived(const std::string& pictureFile, bool there) {
       if (!file) record.PictureFile = kMissingPicture;
       if (own.Width > 0 && own.Height > 0) FitPicture(record, own);
     }
-    DeriveGeometryAndRedraw();
+    surface_.FullRepaint();
   });
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/page_input.h"
 
+#include <QCoreApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -220,7 +221,13 @@ bool PageInput::OnKey(const QKeyEvent& event) {
     if (wanted) TellRefused(refused);
     return wanted;
   }
+  const bool wasOpen = !field_->isHidden();
   const bool taken = designer_.Surface().KeyDown(code, ShiftState(event.modifiers()), *text);
+  // The box that a key has opened gets the key as well.
+  if (!wasOpen && !field_->isHidden() && (event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Home)) {
+    QKeyEvent key(QEvent::KeyPress, event.key(), event.modifiers());
+    QCoreApplication::sendEvent(field_, &key);
+  }
   RefreshCursor();
   return taken;
 }
@@ -233,7 +240,7 @@ const CodePage& PageInput::PageOfKeys() const {
 
 void PageInput::OnTyped(const QString& text) {
   QString refused;
-  const std::optional<std::string> typed = FromQString(text, *fieldPage_, &refused);
+  const std::optional<std::string> typed = FromLine(text, *fieldPage_, &refused);
   if (typed) return designer_.Surface().FieldTextChanged(*typed);
   const QString before = ToQString(designer_.Surface().Edit().Text, *fieldPage_);
   const int cursor = field_->cursorPosition() - static_cast<int>(text.size() - before.size());

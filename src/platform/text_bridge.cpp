@@ -18,6 +18,13 @@ std::optional<std::string> FromQString(const QString& text, const CodePage& page
   return bytes;
 }
 
+QString OneLine(QString text) {
+  text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+  for (QChar& c : text)
+    if (c.unicode() < 0x20 || c == QChar::LineSeparator || c == QChar::ParagraphSeparator) c = QChar::Space;
+  return text;
+}
+
 std::string ToNative(const QString& path) {
   return QFile::encodeName(path).toStdString();
 }

@@ -22,6 +22,14 @@ inline QString ToQString(std::string_view text) {
 // character. A typed text that gives nothing is put back, never stored with a substitute.
 std::optional<std::string> FromQString(const QString& text, const CodePage& page, QString* refused = nullptr);
 
+// What was typed or pasted into a field of one line: breaks and other control characters become a blank each,
+// since they would tear the line of the template in which the text is stored.
+QString OneLine(QString text);
+inline std::optional<std::string> FromLine(const QString& text, const CodePage& page,
+                                           QString* refused = nullptr) {
+  return FromQString(OneLine(text), page, refused);
+}
+
 // A path that the user chose, as the file system's own bytes.
 std::string ToNative(const QString& path);
 

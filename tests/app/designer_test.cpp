@@ -206,6 +206,21 @@ TEST_F(Arrival, AFetchedPictureGetsItsOwnSizeAndIsPainted) {
   EXPECT_EQ(designer->PictureFileOnDisk("\\Cache\\logo.gif"), Temp("Cache/logo.gif"));
 }
 
+TEST_F(Arrival, TheSelectedPictureGetsItsHandlesAndSheetAnew) {
+  const auto designer = Start({Remote("")});
+  for (int row = 1; row <= designer->OpenDocument().Objects.LastScanned(); ++row)
+    if (designer->OpenDocument().Objects[row].Kind == ObjectKind::Picture)
+      designer->Surface().GoToObject(row);
+  test::WriteBytes(host_.Fetches.at(0).File, Gif());
+  host_.Fetches[0].Done(true);
+  EXPECT_EQ(designer->Surface().Pointer().Overlay[1].Width(), 300);
+  const auto& rows = designer->Sheets().Shown().Rows;
+  const auto width =
+      std::find_if(rows.begin(), rows.end(), [](const auto& row) { return row.Caption == "Width"; });
+  ASSERT_NE(width, rows.end());
+  EXPECT_EQ(width->Value, "300");
+}
+
 TEST_F(Arrival, AGivenWidthKeepsTheProportion) {
   const auto designer = Start({Remote("600")});
   test::WriteBytes(host_.Fetches.at(0).File, Gif());

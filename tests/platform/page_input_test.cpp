@@ -189,5 +189,27 @@ TEST_F(PageInputTest, ACharacterWithoutACodeOnlyMattersWhereItWouldBeTyped) {
   EXPECT_FALSE(Surface().Edit().Active());
 }
 
+TEST_F(PageInputTest, TheKeyThatOpensTheTextBoxWorksInIt) {
+  Surface().GoToObject(label);
+  QTest::keyClick(Page().viewport(), Qt::Key_Backspace);
+  EXPECT_EQ(Field().text(), QStringLiteral("Alph"));
+  QTest::keyClick(&Field(), Qt::Key_Escape);
+  QTest::keyClick(Page().viewport(), Qt::Key_Home);
+  ASSERT_FALSE(Field().isHidden());
+  EXPECT_EQ(Field().cursorPosition(), 0);
+  EXPECT_EQ(Field().text(), QStringLiteral("Alpha"));
+}
+
+TEST_F(PageInputTest, AnInsertionByTheMenuTakesTheKeyboardToThePage) {
+  window->show();
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  auto* grid = window->findChild<QWidget*>(QStringLiteral("PropGrid1"));
+  grid->setFocus();
+  ASSERT_TRUE(grid->hasFocus());
+  window->Run(Command::InsertLabel);
+  EXPECT_TRUE(Page().hasFocus() || Page().viewport()->hasFocus());
+}
+
 }  // namespace
 }  // namespace kev

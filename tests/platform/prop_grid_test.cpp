@@ -351,6 +351,16 @@ TEST_F(PropGridTest, ACharacterThatThePageLacksIsRefusedByName) {
   EXPECT_EQ(Cell(kText).data().toString(), QStringLiteral("Total"));
 }
 
+TEST_F(PropGridTest, APastedTextOfSeveralLinesIsStoredAsOne) {
+  for (const int row : {int{kText}, int{kOpen}}) {
+    Go(row);
+    QApplication::clipboard()->setText(QStringLiteral("Title\nOpen=<\r\n[DATA]"));
+    Key(Qt::Key_V, Qt::ControlModifier);
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Value(row), "Title Open=< [DATA]");
+  }
+}
+
 TEST_F(PropGridTest, ACaptionThatIsTooLongTakesASecondLine) {
   std::vector<PropertyRow> rows = AllRows();
   rows[kNumber - 1].Caption = "Calculate height at runtime";

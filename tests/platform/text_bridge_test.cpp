@@ -41,6 +41,11 @@ TEST(TextBridge, PathsPassByTheCodePage) {
   EXPECT_EQ(ToNative(FromNative(path)), path);
 }
 
+TEST(TextBridge, AFieldOfOneLineHasNoBreaks) {
+  EXPECT_EQ(OneLine(QString::fromUtf8("a\r\nb\nc\rd\te\u2028f")), QStringLiteral("a b c d e f"));
+  EXPECT_EQ(FromLine(QStringLiteral("Title\nOpen=<"), CodePage::Default()), "Title Open=<");
+}
+
 TEST(TextBridge, ADetailIsPartedFromItsTextByOneBlank) {
   EXPECT_EQ(WithDetail("Missing:", "/a"), QStringLiteral("Missing: /a"));
   EXPECT_EQ(WithDetail("Missing ", "/a"), QStringLiteral("Missing /a"));

@@ -121,7 +121,7 @@ void docpropertiesfrm::BuildButtons(QGridLayout& grid) {
 
 void docpropertiesfrm::Accept() {
   QString refused;
-  const std::optional<std::string> by = FromQString(ebeuby->text(), run_.Page(), &refused);
+  const std::optional<std::string> by = FromLine(ebeuby->text(), run_.Page(), &refused);
   if (!by) {
     run_.RefuseCharacter(refused.toStdString());
     ebeuby->setFocus();

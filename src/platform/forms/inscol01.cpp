@@ -126,7 +126,7 @@ void inscol01::Choose(int item) {
 
 void inscol01::Accept() {
   QString refused;
-  const std::optional<std::string> typed = FromQString(colposition->text(), run_.Page(), &refused);
+  const std::optional<std::string> typed = FromLine(colposition->text(), run_.Page(), &refused);
   if (typed) {
     run_.TypePosition(*typed);
     run_.AddOrModify();

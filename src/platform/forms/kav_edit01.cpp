@@ -19,6 +19,7 @@
 #include <utility>
 
 #include "app/documentation.h"
+#include "app/toolbar_table.h"
 #include "app/zoom_steps.h"
 #include "base/numbers.h"
 #include "base/text_numbers.h"
@@ -327,6 +328,8 @@ void KavEdit01::Run(Command command) {
   // Nothing runs in the middle of a gesture, and nothing passes an open text box by.
   if (designer_.Surface().Busy()) return;
   designer_.Surface().CommitOpenEdits();
+  // The next key is meant for the new object.
+  if (InsertionOf(command)) page_.Canvas().setFocus(Qt::OtherFocusReason);
   designer_.GuardedView([&] { Dispatch(command); });
 }
 

@@ -62,7 +62,7 @@ void placeselection::Show() {
 
 bool placeselection::TakeOver(const QString& text, void (PlaceSelectionRun::*typed)(std::string)) {
   QString refused;
-  const std::optional<std::string> bytes = FromQString(text, run_.Page(), &refused);
+  const std::optional<std::string> bytes = FromLine(text, run_.Page(), &refused);
   if (bytes) {
     (run_.*typed)(*bytes);
   } else {

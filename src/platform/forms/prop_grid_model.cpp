@@ -91,8 +91,9 @@ Qt::ItemFlags PropGridModel::flags(const QModelIndex& index) const {
 
 bool PropGridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   if (role != Qt::EditRole || !index.isValid() || index.column() != kValue) return false;
+  if (value.toString() == TextAt(index)) return false;
   QString refused;
-  const std::optional<std::string> text = FromQString(value.toString(), PageOf(RowAt(index)), &refused);
+  const std::optional<std::string> text = FromLine(value.toString(), PageOf(RowAt(index)), &refused);
   if (!text) {
     Q_EMIT Refused(refused);
     return false;

@@ -305,7 +305,7 @@ void QuickPanelForm::AddChoice(const QListWidget& list) {
 
 void QuickPanelForm::Apply() {
   QString refused;
-  const std::optional<std::string> text = FromQString(value_->text(), PageOfText(), &refused);
+  const std::optional<std::string> text = FromLine(value_->text(), PageOfText(), &refused);
   if (!text) return designer_.ShowText(kTextCharacterNotInPage, BoxIcon::Critical, ToNative(refused));
   designer_.GuardedView([&] { designer_.Quick().StoreText(*text); });
   // Also behind a refusal: the label's own text stands there again.

@@ -84,7 +84,7 @@ void SetThisColumn::Show() {
 
 bool SetThisColumn::TakeOver(const QLineEdit& field, void (SetColumnRun::*typed)(std::string)) {
   QString refused;
-  const std::optional<std::string> text = FromQString(field.text(), run_.Page(), &refused);
+  const std::optional<std::string> text = FromLine(field.text(), run_.Page(), &refused);
   if (text)
     (run_.*typed)(*text);
   else

@@ -272,7 +272,7 @@ void SubSectionpropert::Connect() {
     if (!checked) start_->setFocus();
   });
   connect(start_, &QLineEdit::textEdited, this, [this](const QString& text) {
-    if (const auto bytes = Bytes(text)) dialog_.Start = *bytes;
+    if (const auto bytes = Bytes(OneLine(text))) dialog_.Start = *bytes;
     ShowStart();
   });
   if (dialog_.ShortForm) return;
@@ -305,7 +305,7 @@ void SubSectionpropert::ChooseEntry(const QListWidgetItem& item) {
 
 void SubSectionpropert::ConnectNameAndFields() {
   connect(name_, &QLineEdit::textEdited, this, [this](const QString& text) {
-    if (const auto bytes = Bytes(text))
+    if (const auto bytes = Bytes(OneLine(text)))
       dialog_.Name = *bytes;
     else
       name_->setText(ToQString(dialog_.Name, services_.Page));

@@ -245,7 +245,7 @@ bool Wizard1Fields::eventFilter(QObject* watched, QEvent* event) {
 
 void Wizard1Fields::Type(const std::string& name, const QString& text) {
   QString refused;
-  if (std::optional<std::string> typed = FromQString(text, run_.Page(), &refused))
+  if (std::optional<std::string> typed = FromLine(text, run_.Page(), &refused))
     TypeText(run_.Wizard(), name, std::move(*typed));
   else
     run_.RefuseCharacter(refused.toStdString());
