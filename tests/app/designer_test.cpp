@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/designer.h"
 
+#include <algorithm>
 #include <new>
 #include <stdexcept>
 
