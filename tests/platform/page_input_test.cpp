@@ -200,16 +200,5 @@ TEST_F(PageInputTest, TheKeyThatOpensTheTextBoxWorksInIt) {
   EXPECT_EQ(Field().text(), QStringLiteral("Alpha"));
 }
 
-TEST_F(PageInputTest, AnInsertionByTheMenuTakesTheKeyboardToThePage) {
-  window->show();
-  window->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  auto* grid = window->findChild<QWidget*>(QStringLiteral("PropGrid1"));
-  grid->setFocus();
-  ASSERT_TRUE(grid->hasFocus());
-  window->Run(Command::InsertLabel);
-  EXPECT_TRUE(Page().hasFocus() || Page().viewport()->hasFocus());
-}
-
 }  // namespace
 }  // namespace kev

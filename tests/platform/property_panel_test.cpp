@@ -381,6 +381,15 @@ TEST_F(PropertyPanelTest, ACustomRowOpensTheWizardOfAChart) {
   EXPECT_EQ(boxes.texts, QStringList(QStringLiteral("Wizard1")));
 }
 
+TEST_F(PropertyPanelTest, AnInsertionByTheMenuTakesTheKeyboardToThePage) {
+  ClickObject(RowOf("Alpha"));
+  Grid().setFocus();
+  ASSERT_TRUE(Grid().hasFocus());
+  Find<QAction>("insertlabel").trigger();
+  Settle();
+  EXPECT_TRUE(Page().hasFocus());
+}
+
 TEST_F(PropertyPanelTest, TheButtonOfAColourOpensThePicker) {
   ClickObject(RowOf("Alpha"));
   Grid().setFocus();
