@@ -28,19 +28,22 @@ def wait_for(what, condition, limit=60):
 
 
 class Display:
-    """A virtual screen with a window manager."""
+    """A virtual screen with a window manager.
+
+    The server must not reset itself when its last client leaves: in the moment between a first client and the
+    window manager it would throw out whoever is just arriving, and that program ends for want of a display."""
 
     def __enter__(self):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x860x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x860x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as numbers:
             os.environ["DISPLAY"] = ":" + numbers.readline().strip()
         self.manager = subprocess.Popen(["openbox"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_for("the window manager", lambda: "not found" not in subprocess.run(
-            ["xprop", "-root", "-notype", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True).stdout)
+        wait_for("the window manager", lambda: "window id" in subprocess.run(
+            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True).stdout)
         return self
 
     def __exit__(self, *_):
@@ -81,11 +84,16 @@ class Program:
         self.zoom = 1.0
         self.origin = None
 
+    def launch(self, *arguments):
+        """Starts the program; what it says on its outputs is kept for the message of a failure."""
+        environment = dict(os.environ, TEMP=str(self.home / "temp"), appdata=str(self.home / "data"))
+        with open(self.home / "said", "ab") as said:
+            self.process = subprocess.Popen([str(self.binaries / "kev"), *map(str, arguments)], env=environment,
+                                            stdout=said, stderr=said)
+
     def start(self, path):
         self.path = pathlib.Path(path)
-        environment = dict(os.environ, TEMP=str(self.home / "temp"), appdata=str(self.home / "data"))
-        self.process = subprocess.Popen([str(self.binaries / "kev"), str(path)], env=environment,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.launch(path)
         self.wait_title(self.path.name + " - Kev Visual Editor")
         self.find_page()
 
@@ -99,7 +107,8 @@ class Program:
         except Failed as failure:
             ended = self.process.poll()
             state = "runs" if ended is None else f"ended with {ended}"
-            raise Failed(f"{failure}; there is \"{self.title()}\", and the program {state}") from None
+            said = (self.home / "said").read_text(errors="replace")[-2000:]
+            raise Failed(f"{failure}; there is \"{self.title()}\", and the program {state}\n{said}") from None
 
     # --- Where the page is -----------------------------------------------------------------------------------
 
