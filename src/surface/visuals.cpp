@@ -130,7 +130,12 @@ PaintResult RedrawDocument(PaintContext& context, const SortedRows& sorted) {
   CanvasArea bounds{kFar, kFar, -kFar, -kFar};
   for (const int row : sorted.Rows) {
     const ObjectRecord& record = context.document.Objects[row];
-    if (record.Kind == ObjectKind::None || !PassesFilter(record, context.filter)) continue;
+    if (record.Kind == ObjectKind::None) continue;
+    if (!PassesFilter(record, context.filter)) {
+      // What can't be seen is no member of a group: nothing may happen to it behind the user's back.
+      if (record.Selected == kTrue) context.document.Objects[row].Selected = kFalse;
+      continue;
+    }
     PaintObject(context, row);
     if (record.Selected != kTrue) continue;
     DrawCornerMarks(context.surface, MarkedAreaOf(record, context.document, context.ZoomFactor));

@@ -267,12 +267,14 @@ TEST_F(VisualsTest, SelectedObjectsCarryMarksAndBounds) {
   EXPECT_EQ(fills[7], "rect 200 1325 275 1400 F5F5F5 filled");
 }
 
-TEST_F(VisualsTest, HiddenRowsAreNotCountedAsSelected) {
+TEST_F(VisualsTest, WhatAFilterHidesIsNoMemberOfAGroupAnyMore) {
   const int row = AddLabel(document_, "0", 0, "x");
   Record(row).Selected = kTrue;
   Record(row).PrintFlag = kFalse;
-  EXPECT_FALSE(Redraw(1, DisplayFilter::Print).MultiSelected());
   EXPECT_TRUE(Redraw().MultiSelected());
+  EXPECT_FALSE(Redraw(1, DisplayFilter::Print).MultiSelected());
+  EXPECT_EQ(Record(row).Selected, kFalse);
+  EXPECT_FALSE(Redraw().MultiSelected());
 }
 
 TEST_F(VisualsTest, BoundsOfFlatObjectsCanBeTakenHoldOf) {
