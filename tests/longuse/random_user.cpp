@@ -397,8 +397,8 @@ void RandomUser::OpenSomething() {
       WriteBytes(path, templates_.Hostile());
       break;
     case 3:
-      designer_->AskAndOpen(KEV_EXAMPLES_DIR "/invoice.kev");
-      return;
+      WriteBytes(path, ReadBytes(KEV_EXAMPLES_DIR "/invoice.kev"));
+      break;
     default:
       break;
   }

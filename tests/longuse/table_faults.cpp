@@ -133,6 +133,7 @@ std::vector<ObjectRecord> RowsToCompare(const Document& document) {
   for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
     rows.push_back(document.Objects[row]);
     rows.back().Selected = kFalse;
+    rows.back().SortKey.clear();
     // Painting measures it, with what the code painted before left behind.
     if (rows.back().Kind == ObjectKind::Barcode) rows.back().Width = 0;
   }
@@ -150,11 +151,12 @@ std::string FirstRowDifference(const std::vector<ObjectRecord>& actual,
     if (one == other) continue;
     const int row = static_cast<int>(index) + 1;
     if (one.Kind != other.Kind) return Named(row, one) + " instead of " + Named(row, other);
+    std::string fields;
     for (const FieldRow& field : kObjectFields) {
       const auto isSame = [&](auto member) { return one.*member == other.*member; };
-      if (!std::visit(isSame, field.member)) return Named(row, one) + ": " + std::string(field.name);
+      if (!std::visit(isSame, field.member)) fields += ' ' + std::string(field.name);
     }
-    return Named(row, one) + ": its chart";
+    return Named(row, one) + ':' + (fields.empty() ? " its chart" : fields);
   }
   return {};
 }
