@@ -125,7 +125,9 @@ class LongUse : public DesignerTest {
 
   void BeginChapter(Designer& designer, RandomUser& user) {
     if (command_ > 0) EndChapter(designer);
-    if (command_ / kChapter % kFullEvery == kFullEvery / 2) user.OpenFullTemplate(designer);
+    if (command_ / kChapter % kFullEvery != kFullEvery / 2) return;
+    user.OpenFullTemplate(designer);
+    EXPECT_GT(designer.OpenDocument().Objects.ObjectCount, ObjectTable::kLastRow - 30);
   }
 
   // With a fresh document the process holds what it held behind the chapters before.
