@@ -12,15 +12,15 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION editors)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "designer of report templates
- Kev draws the templates of invoices, labels, price lists and statistics that
- other programs print. The page is laid out in bands for header, data and
- footer; text, pictures, shapes, bar codes, QR codes and charts are placed
- freely or on named columns. A template is a plain text file that a report
- viewer fills with data.
- .
- The package also holds kevtool, which checks, renders and converts templates
- on the command line, and ten example templates with their data.")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "designer of report templates")
+set(CPACK_PACKAGE_DESCRIPTION "Kev draws the templates of invoices, labels, price lists and statistics that
+other programs print. The page is laid out in bands for header, data and
+footer; text, pictures, shapes, bar codes, QR codes and charts are placed
+freely or on named columns. A template is a plain text file that a report
+viewer fills with data.
+
+The package also holds kevtool, which checks, renders and converts templates
+on the command line, and ten example templates with their data.")
 # What the programs are linked with is found out; the rest is used, not linked. The fonts have the widths of
 # those that templates name.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
