@@ -22,9 +22,9 @@ viewer fills with data.
 The package also holds kevtool, which checks, renders and converts templates
 on the command line, and ten example templates with their data.")
 # What the programs are linked with is found out; the rest is used, not linked. The fonts have the widths of
-# those that templates name.
+# those that templates name; without another font the words of the window would be shown in one of theirs.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-  "qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland, shared-mime-info, desktop-file-utils, xdg-utils")
+  "fonts-dejavu-core, qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland, shared-mime-info, desktop-file-utils, xdg-utils")
 include(CPack)

@@ -78,7 +78,8 @@ class Installed(Program):
         return found[0]
 
     def ended(self):
-        return self.pid is None or not os.path.exists(f"/proc/{self.pid}")
+        """One that has ended, but that nobody has asked for its status, still has its folder and no arguments."""
+        return self.pid is None or not os.path.exists(f"/proc/{self.pid}") or not any(self.command_line())
 
     def quit(self):
         self.key("ctrl+q")
