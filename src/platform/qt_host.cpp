@@ -184,6 +184,12 @@ bool QtHost::OpenAddress(std::string_view address) {
 }
 
 bool QtHost::OpenWithDesktop(const std::string& path) {
+  // Where the designer is installed the desktop opens a template in it, but who asks here wants to read the
+  // text.
+  if (FromNative(path).endsWith(QStringLiteral(".kev"), Qt::CaseInsensitive)) {
+    const std::optional<ProgramStart> editor = TextHandlerOf(path, DesktopSettingsOf(ProcessEnvironment()));
+    return editor && processes_.StartDetached(*editor);
+  }
   return QDesktopServices::openUrl(QUrl::fromLocalFile(FromNative(path)));
 }
 

@@ -14,6 +14,7 @@ namespace {
 using Words = std::vector<std::string>;
 
 constexpr std::string_view kTypePrefix = "x-scheme-handler/";
+constexpr std::string_view kEntryGroup = "Desktop Entry";
 constexpr std::string_view kAddressCodes = "uUfF";
 
 Words Parts(std::string_view text, char separator) {
@@ -149,6 +150,18 @@ std::optional<std::string> Filled(std::string_view word, std::string_view addres
   return filled.empty() && !word.empty() ? std::nullopt : std::optional(filled);
 }
 
+// The best program for the type whose entry suits.
+std::optional<ProgramStart> HandlerOfType(const std::string& type, std::string_view argument,
+                                          const DesktopSettings& settings,
+                                          const std::function<bool(const std::string&)>& suits) {
+  for (const std::string& name : Candidates(settings, type)) {
+    const std::string entry = EntryText(settings, name);
+    if (ValueIn(entry, kEntryGroup, "Hidden") == "true" || !suits(entry)) continue;
+    if (auto start = StartOfExec(Unescaped(ValueIn(entry, kEntryGroup, "Exec")), argument)) return start;
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 DesktopSettings DesktopSettingsOf(
@@ -184,13 +197,14 @@ std::optional<ProgramStart> StartOfExec(std::string_view exec, std::string_view 
 std::optional<ProgramStart> HandlerOf(std::string_view address, const DesktopSettings& settings) {
   const std::size_t colon = address.find(':');
   if (colon == std::string_view::npos || colon == 0) return std::nullopt;
-  const std::string type = std::string(kTypePrefix) + CodePage::Default().Lower(address.substr(0, colon));
-  for (const std::string& name : Candidates(settings, type)) {
-    const std::string entry = EntryText(settings, name);
-    if (ValueIn(entry, "Desktop Entry", "Hidden") == "true") continue;
-    if (auto start = StartOfExec(Unescaped(ValueIn(entry, "Desktop Entry", "Exec")), address)) return start;
-  }
-  return std::nullopt;
+  return HandlerOfType(std::string(kTypePrefix) + CodePage::Default().Lower(address.substr(0, colon)),
+                       address, settings, [](const std::string&) { return true; });
+}
+
+std::optional<ProgramStart> TextHandlerOf(std::string_view path, const DesktopSettings& settings) {
+  return HandlerOfType("text/plain", path, settings, [](const std::string& entry) {
+    return ValueIn(entry, kEntryGroup, "Terminal") != "true";
+  });
 }
 
 }  // namespace kev

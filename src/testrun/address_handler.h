@@ -28,6 +28,10 @@ DesktopSettings DesktopSettingsOf(
 // none. The address becomes one argument, exactly as it stands.
 std::optional<ProgramStart> HandlerOf(std::string_view address, const DesktopSettings& settings);
 
+// The program for plain text, told to open the file. For templates: the desktop's program for those may well
+// be the designer itself. Programs that want a terminal are passed over.
+std::optional<ProgramStart> TextHandlerOf(std::string_view path, const DesktopSettings& settings);
+
 // What the "Exec" of a desktop entry starts; a line that names no place for the address gets it behind it.
 std::optional<ProgramStart> StartOfExec(std::string_view exec, std::string_view address);
 

@@ -48,6 +48,11 @@ class Desktop:
         (self.config / "mimeapps.list").write_text(
             "[Default Applications]\nx-scheme-handler/viewkevreport=viewer.desktop\n")
 
+    def register_editor(self, program):
+        (self.data / "applications/typer.desktop").write_text(
+            f"[Desktop Entry]\nType=Application\nName=Typer\nExec=\"{program}\" --text %f\n")
+        (self.config / "mimeapps.list").write_text("[Default Applications]\ntext/plain=typer.desktop\n")
+
     def forget(self):
         (self.config / "mimeapps.list").unlink()
 

@@ -93,6 +93,27 @@ TEST_F(AddressHandlers, AnEntryMayLieInAFolderThatItsNameTells) {
   EXPECT_EQ(Program(), "a");
 }
 
+TEST_F(AddressHandlers, ATextIsOpenedByTheProgramForPlainText) {
+  EXPECT_FALSE(TextHandlerOf("/tmp/a b.kev", settings_));
+  Write("config/mimeapps.list", "[Default Applications]\ntext/plain=gone.desktop;typer.desktop\n");
+  Entry("home/applications/typer.desktop", "typer %f");
+  const auto start = TextHandlerOf("/tmp/a b.kev", settings_);
+  ASSERT_TRUE(start);
+  EXPECT_EQ(start->Program, "typer");
+  EXPECT_EQ(start->Arguments, Words{"/tmp/a b.kev"});
+}
+
+TEST_F(AddressHandlers, AnEditorThatWantsATerminalIsPassedOver) {
+  Write("config/mimeapps.list", "[Default Applications]\ntext/plain=bare.desktop\n");
+  Entry("home/applications/bare.desktop", "bare %f", "Terminal=true\n");
+  EXPECT_FALSE(TextHandlerOf("/tmp/a.kev", settings_));
+  Entry("home/applications/typer.desktop", "typer %f", "Terminal=false\n");
+  Write("home/applications/mimeinfo.cache", "[MIME Cache]\ntext/plain=typer.desktop;\n");
+  const auto start = TextHandlerOf("/tmp/a.kev", settings_);
+  ASSERT_TRUE(start);
+  EXPECT_EQ(start->Program, "typer");
+}
+
 TEST(DesktopFolders, HaveTheirUsualPlaces) {
   std::map<std::string, std::string, std::less<>> variables = {{"HOME", "/home/u"}};
   const auto look = [&](std::string_view name) -> std::optional<std::string> {

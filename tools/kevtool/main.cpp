@@ -128,7 +128,7 @@ void AddRender(CLI::App& app, Invocation& invocation) {
 
 int main(int argc, char** argv) {
   CLI::App app{"Kev templates on the command line", "kevtool"};
-  app.set_version_flag("--version", "kevtool 0.1.0");
+  app.set_version_flag("--version", "kevtool " KEV_VERSION);
   app.require_subcommand(1);
   // A position such as -120 is an argument, not an option.
   app.allow_windows_style_options(false);
