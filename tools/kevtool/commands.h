@@ -45,6 +45,15 @@ struct RenderChoice {
 };
 int Render(const RenderChoice& choice);
 
+struct DiffChoice {
+  std::string first;
+  std::string second;
+  bool json = false;
+  std::string image;  // empty for none
+};
+// kRefused where the templates differ too.
+int Diff(const DiffChoice& choice);
+
 struct Opened {
   std::string Check;                   // the five characters; empty for a file that cannot be read
   std::optional<ReadOutcome> Outcome;  // nothing when the file is refused; the reason is on standard error

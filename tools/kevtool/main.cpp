@@ -109,6 +109,27 @@ void AddBarcode(CLI::App& app, Invocation& invocation) {
 }
 
 #ifdef KEV_WITH_QT
+// The ending tells the form of a picture, here as in render.
+std::string PngName(const std::string& name) {
+  return name.size() > 4 && name.ends_with(".png") ? std::string() : "the name must end in .png";
+}
+#endif
+
+void AddDiff(CLI::App& app, Invocation& invocation) {
+  auto* command = app.add_subcommand("diff", "Compare two templates: objects, settings and columns");
+  auto choice = std::make_shared<DiffChoice>();
+  command->add_option("FIRST", choice->first, "Template")->required();
+  command->add_option("SECOND", choice->second, "Template to compare it with")->required();
+  command->add_flag("--json", choice->json, "As JSON");
+#ifdef KEV_WITH_QT
+  command
+      ->add_option("--image", choice->image, "Paint both pages with the differences framed, to a .png file")
+      ->check(PngName);
+#endif
+  command->callback([&invocation, choice] { invocation.run = [choice] { return Diff(*choice); }; });
+}
+
+#ifdef KEV_WITH_QT
 void AddRender(CLI::App& app, Invocation& invocation) {
   auto* command = app.add_subcommand("render", "Paint the page as the designer does, to PNG, PDF or SVG");
   auto choice = std::make_shared<RenderChoice>();
@@ -142,6 +163,7 @@ int main(int argc, char** argv) {
   AddSample(app, invocation);
   AddNew(app, invocation);
   AddBarcode(app, invocation);
+  AddDiff(app, invocation);
 #ifdef KEV_WITH_QT
   AddRender(app, invocation);
 #endif

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "app/compare_documents.h"
+
+#include <algorithm>
+#include <deque>
+#include <unordered_map>
+
+#include "app/compared_object.h"
+#include "base/text.h"
+
+namespace kev {
+namespace {
+
+// Texts are joined with a byte that none of them holds.
+void Append(std::string& key, std::string_view part) {
+  key.append(part).push_back('\0');
+}
+
+bool IsPlace(std::string_view field) {
+  return field == "XValue" || field == "X2Value" || field == "Y";
+}
+
+struct Item {
+  ComparedObject object;
+  Item* partner = nullptr;
+
+  explicit Item(ComparedObject from) : object(std::move(from)) {}
+  bool IsSubsection() const { return object.Kind == ObjectKind::Subsection; }
+  std::string Key() const {
+    std::string key;
+    Append(key, KindText(object.Kind));
+    Append(key, object.Owner);
+    return key;
+  }
+  std::string PlaceKey() const {
+    std::string key;
+    Append(key, object.Owner);
+    Append(key, object["XValue"]);
+    Append(key, object["Y"]);
+    return key;
+  }
+};
+
+// What two rows must share to be partners; an empty key has none.
+using KeyOf = std::string (*)(const Item& item);
+
+std::string Everything(const Item& item) {
+  std::string key = item.Key();
+  for (const ComparedValue& value : item.object.Values)
+    Append(key, value.Text);
+  return key;
+}
+
+std::string KindWordsAndPlace(const Item& item) {
+  if (item.IsSubsection()) return {};
+  std::string key = item.Key() + item.PlaceKey();
+  Append(key, item.object.Words());
+  return key;
+}
+
+std::string EverythingButPlace(const Item& item) {
+  if (item.IsSubsection()) return {};
+  std::string key = item.Key();
+  for (const ComparedValue& value : item.object.Values)
+    if (!IsPlace(value.Field)) Append(key, value.Text);
+  return key;
+}
+
+std::string KindAndWords(const Item& item) {
+  const std::string_view words = item.object.Words();
+  return words.empty() ? std::string() : item.Key().append(words);
+}
+
+std::string KindAndPlace(const Item& item) {
+  return item.IsSubsection() ? std::string() : item.Key() + item.PlaceKey();
+}
+
+std::string Place(const Item& item) {
+  return item.IsSubsection() ? std::string() : item.PlaceKey();
+}
+
+std::string Kind(const Item& item) {
+  return item.Key();
+}
+
+constexpr KeyOf kPasses[] = {Everything,   KindWordsAndPlace, EverythingButPlace,
+                             KindAndWords, KindAndPlace,      Place};
+
+std::vector<Item> ItemsOf(const Document& document) {
+  std::vector<Item> items;
+  for (ComparedObject& object : ComparedObjects(document))
+    items.emplace_back(std::move(object));
+  return items;
+}
+
+// The rows of either document that have no partner yet are matched in their order.
+void Match(std::vector<Item>& first, std::vector<Item>& second, KeyOf keyOf) {
+  std::unordered_map<std::string, std::deque<Item*>> byKey;
+  for (Item& item : second)
+    if (item.partner == nullptr) byKey[keyOf(item)].push_back(&item);
+  byKey.erase(std::string());
+  for (Item& item : first) {
+    if (item.partner != nullptr) continue;
+    const auto found = byKey.find(keyOf(item));
+    if (found == byKey.end() || found->second.empty()) continue;
+    item.partner = found->second.front();
+    item.partner->partner = &item;
+    found->second.pop_front();
+  }
+}
+
+class Comparison {
+ public:
+  Comparison(const Document& first, const Document& second) : first_(first), second_(second) {}
+
+  DocumentChanges Run(Strangers strangers) {
+    std::vector<Item> before = ItemsOf(first_);
+    std::vector<Item> after = ItemsOf(second_);
+    MatchSubsections(before, after, strangers);
+    for (const KeyOf keyOf : kPasses)
+      Match(before, after, keyOf);
+    if (strangers == Strangers::Pair) Match(before, after, Kind);
+    NoteObjects(before, after);
+    NoteSettings();
+    NoteColumns();
+    return std::move(changes_);
+  }
+
+ private:
+  const ObjectRecord& Before(const Item& item) const { return first_.Objects[item.object.Row]; }
+  const ObjectRecord& After(const Item& item) const { return second_.Objects[item.object.Row]; }
+
+  // A subsection whose fields changed is the same, and so is the only one of a section that lost its name:
+  // what they hold is matched as if they had kept it.
+  void MatchSubsections(std::vector<Item>& before, std::vector<Item>& after, Strangers strangers) {
+    Match(before, after, [](const Item& item) { return item.IsSubsection() ? Everything(item) : ""; });
+    Match(before, after, [](const Item& item) { return item.IsSubsection() ? KindAndWords(item) : ""; });
+    for (Item& item : before)
+      PairSubsection(item, after, [&](const Item& other) { return HasSameName(item, other); });
+    for (Item& item : before) {
+      const auto isAlone = [&](const Item& other) {
+        return SectionOf(first_, other) == SectionOf(first_, item);
+      };
+      const auto mayBe = [&](const Item& other) {
+        return SectionOf(second_, other) == SectionOf(first_, item);
+      };
+      if (strangers == Strangers::Leave && (Unmatched(before, isAlone) != 1 || Unmatched(after, mayBe) != 1))
+        continue;
+      PairSubsection(item, after, mayBe);
+    }
+    TakeNames(after);
+  }
+
+  bool HasSameName(const Item& item, const Item& other) const {
+    return After(other).SectionName == Before(item).SectionName &&
+           SectionOf(second_, other) == SectionOf(first_, item);
+  }
+  static const std::string& SectionOf(const Document& document, const Item& item) {
+    return document.Objects[item.object.Row].SectionOwner;
+  }
+
+  template <typename Condition>
+  static std::ptrdiff_t Unmatched(const std::vector<Item>& items, Condition condition) {
+    return std::count_if(items.begin(), items.end(), [&](const Item& item) {
+      return item.IsSubsection() && item.partner == nullptr && condition(item);
+    });
+  }
+
+  template <typename Condition>
+  static void PairSubsection(Item& item, std::vector<Item>& after, Condition condition) {
+    if (!item.IsSubsection() || item.partner != nullptr) return;
+    const auto found = std::find_if(after.begin(), after.end(), [&](const Item& other) {
+      return other.IsSubsection() && other.partner == nullptr && condition(other);
+    });
+    if (found == after.end()) return;
+    item.partner = &*found;
+    found->partner = &item;
+  }
+
+  void TakeNames(std::vector<Item>& after) const {
+    std::unordered_map<std::string_view, std::string> names;
+    for (const Item& item : after)
+      if (item.IsSubsection() && item.partner != nullptr)
+        names.try_emplace(After(item).SectionName, Before(*item.partner).SectionName);
+    for (Item& item : after)
+      if (const auto found = names.find(item.object.Owner); found != names.end())
+        item.object.Owner = found->second;
+  }
+
+  void NoteObjects(const std::vector<Item>& before, const std::vector<Item>& after) {
+    for (const Item& item : before) {
+      if (item.partner == nullptr) {
+        changes_.Objects.push_back({item.object.Row, 0, {}});
+      } else {
+        NoteDifferences(item.object, item.partner->object);
+      }
+    }
+    for (const Item& item : after)
+      if (item.partner == nullptr) changes_.Objects.push_back({0, item.object.Row, {}});
+  }
+
+  void NoteDifferences(const ComparedObject& mine, const ComparedObject& theirs) {
+    ObjectChange change{mine.Row, theirs.Row, {}};
+    if (mine.Kind != theirs.Kind) {
+      change.Fields.push_back({"Kind", std::string(KindText(mine.Kind)), std::string(KindText(theirs.Kind))});
+    } else {
+      for (std::size_t at = 0; at < mine.Values.size() && at < theirs.Values.size(); ++at)
+        if (mine.Values[at].Text != theirs.Values[at].Text)
+          change.Fields.push_back({mine.Values[at].Field, mine.Values[at].Text, theirs.Values[at].Text});
+    }
+    if (!change.Fields.empty()) changes_.Objects.push_back(std::move(change));
+  }
+
+  void NoteSettings() {
+    for (const SettingRow& row : SettingRows()) {
+      SettingChange change{row.id, PrintedForm(first_, row.id), PrintedForm(second_, row.id)};
+      if (change.Before != change.After) changes_.Settings.push_back(std::move(change));
+    }
+  }
+
+  static std::string PrintedForm(const Document& document, Setting id) {
+    if (!SettingIsPrinted(document.Settings, id, *document.Page)) return {};
+    return std::string(Trim(PrintedValue(document.Settings, id)));
+  }
+
+  static std::vector<Column> UsedColumns(const Document& document) {
+    std::vector<Column> columns;
+    for (int slot = 1; slot <= ColumnTable::kLastSlot; ++slot)
+      if (!document.Columns[slot].Name.empty()) columns.push_back(document.Columns[slot]);
+    return columns;
+  }
+
+  static std::optional<double> PositionIn(const std::vector<Column>& columns, const std::string& name) {
+    const auto found = std::find_if(columns.begin(), columns.end(),
+                                    [&](const Column& column) { return column.Name == name; });
+    return found == columns.end() ? std::nullopt : std::optional(found->Position);
+  }
+
+  void NoteColumns() {
+    const std::vector<Column> mine = UsedColumns(first_);
+    const std::vector<Column> theirs = UsedColumns(second_);
+    for (const Column& column : mine) {
+      const std::optional<double> other = PositionIn(theirs, column.Name);
+      if (other != column.Position) changes_.Columns.push_back({column.Name, column.Position, other});
+    }
+    for (const Column& column : theirs)
+      if (!PositionIn(mine, column.Name))
+        changes_.Columns.push_back({column.Name, std::nullopt, column.Position});
+  }
+
+  const Document& first_;
+  const Document& second_;
+  DocumentChanges changes_;
+};
+
+}  // namespace
+
+DocumentChanges CompareDocuments(const Document& first, const Document& second, Strangers strangers) {
+  return Comparison(first, second).Run(strangers);
+}
+
+}  // namespace kev
