@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What kevtool says of itself and of a wrong call, command by command.
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -173,6 +175,16 @@ TEST_F(KevtoolUsage, AFolderInPlaceOfAFileIsNamed) {
                  {{"diff", "good.kev", "folder"}, "folder" + reason}});
 }
 
+void MakeSocket(const std::string& path) {
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  ASSERT_LT(path.size(), sizeof address.sun_path);
+  path.copy(address.sun_path, path.size());
+  const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
+  EXPECT_EQ(::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  ::close(socket);
+}
+
 void ExpectUnreadable(const TemporaryFolder& folder, const std::string& file, const std::string& reason) {
   for (const Arguments& call : std::vector<Arguments>{{"check", file},
                                                       {"dump", file},
@@ -190,8 +202,9 @@ void ExpectUnreadable(const TemporaryFolder& folder, const std::string& file, co
 }
 
 TEST_F(KevtoolUsage, AFileThatCannotBeReadIsNamed) {
-  // Reading its start fails for everyone.
-  ExpectUnreadable(folder, "/proc/self/mem", "Input/output error");
+  // Nobody opens a socket as a file.
+  MakeSocket(folder / "socket");
+  ExpectUnreadable(folder, "socket", "No such device or address");
 }
 
 TEST_F(KevtoolUsage, AFileThatMayNotBeReadIsNamed) {
@@ -236,10 +249,11 @@ TEST_F(KevtoolUsage, PicturesNameWhatIsWrong) {
        {{"render", "good.kev", "a.png", "--filter", "x"}, "--filter: x not in {all,ebeu,print}"},
        {{"diff", "good.kev", "good.kev", "--image", "a.gif"}, "--image: the name must end in .png"},
        {{"diff", "good.kev", "good.kev", "--image"}, "--image: 1 required TEXT missing"}});
+  MakeSocket(folder / "socket");
   ExpectRefused(
       {{{"render", "none.kev", "a.png"}, "none.kev: No such file or directory"},
        {{"render", "folder", "a.png"}, "folder: Is a directory"},
-       {{"render", "/proc/self/mem", "a.png"}, "/proc/self/mem: Input/output error"},
+       {{"render", "socket", "a.png"}, "socket: No such device or address"},
        {{"render", "good.kev", "a.gif"},
         "a.gif: the name of the picture ends neither in .png nor in .pdf nor in .svg"},
        {{"render", "good.kev", "none/a.png"}, "none/a.png: No such file or directory"},
