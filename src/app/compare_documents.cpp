@@ -188,11 +188,14 @@ class Comparison {
   }
 
   void NoteObjects(const std::vector<Item>& before, const std::vector<Item>& after) {
+    changes_.Partners.assign(static_cast<std::size_t>(second_.Objects.LastScanned()) + 1, 0);
     for (const Item& item : before) {
       if (item.partner == nullptr) {
         changes_.Objects.push_back({item.object.Row, 0, {}});
       } else {
-        NoteDifferences(item.object, item.partner->object);
+        const ComparedObject& partner = item.partner->object;
+        changes_.Partners[static_cast<std::size_t>(partner.Row)] = item.object.Row;
+        NoteDifferences(item.object, partner);
       }
     }
     for (const Item& item : after)

@@ -39,6 +39,8 @@ struct DocumentChanges {
   std::vector<ObjectChange> Objects;  // in the order of the first document, then what was added
   std::vector<SettingChange> Settings;
   std::vector<ColumnChange> Columns;
+  // For each row of the second document its partner in the first; 0 where there is none.
+  std::vector<int> Partners;
 
   bool None() const { return Objects.empty() && Settings.empty() && Columns.empty(); }
 };

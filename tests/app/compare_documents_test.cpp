@@ -116,6 +116,15 @@ TEST_F(ComparingDocuments, ASubsectionOfManyThatIsGoneIsNotTakenForANewOne) {
   EXPECT_EQ(Compare().Objects.size(), 4U);
 }
 
+TEST_F(ComparingDocuments, EachRowOfTheSecondDocumentKnowsItsPartner) {
+  const int moved = Add(first_, ObjectKind::Label, "A", 0);
+  const int made = Add(second_, ObjectKind::Label, "B", 0);
+  const int there = Add(second_, ObjectKind::Label, "A", 300);
+  const std::vector<int> partners = Compare().Partners;
+  EXPECT_EQ(partners.at(static_cast<std::size_t>(there)), moved);
+  EXPECT_EQ(partners.at(static_cast<std::size_t>(made)), 0);
+}
+
 TEST_F(ComparingDocuments, SettingsAndColumnsNameBothValues) {
   second_.Settings[Setting::Copies] = "3";
   first_.Columns[1] = {"$A", 100, ""};
