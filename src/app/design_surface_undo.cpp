@@ -32,7 +32,8 @@ void DesignSurface::Protect() {
 void DesignSurface::WriteRecovery() {
   const std::optional<FileFailure> failure =
       recovery_.Write(InTempFolder(designer_.Folders(), kRecoveryFolder), designer_.Now(),
-                      designer_.DocumentTitle(), designer_.OpenDocument());
+                      designer_.DocumentTitle(), designer_.OpenDocument(),
+                      WriteOptions{designer_.Command().WriterComments()});
   const bool isTold = std::exchange(recoveryFailed_, failure.has_value());
   if (failure && !isTold)
     designer_.ShowText(kTextWriteFailed, BoxIcon::Critical,

@@ -69,6 +69,7 @@ constexpr std::string_view kTextBoxFields[] = {"XValue",
                                                "AlignToGrid",
                                                "Content",
                                                "Width",
+                                               "Height",
                                                "ValueType",
                                                "FontName",
                                                "FontSize",
@@ -247,35 +248,41 @@ class Comparison {
   }
 
  private:
-  void Note(int row, FindingKind kind, std::string text) {
-    if (result_.Findings.size() < kMostFindings)
-      result_.Findings.push_back({0, 0, kind, std::move(text), row});
+  void Note(int row, FindingKind kind, std::string text, int fileRow = 0) {
+    if (result_.Findings.size() >= kMostFindings) return;
+    result_.Findings.push_back({0, 0, kind, std::move(text), row});
+    result_.FileRows.push_back(fileRow);
   }
-  void NoteStructure(int row, FindingKind kind, std::string text) {
+  void NoteStructure(int row, FindingKind kind, std::string text, int fileRow = 0) {
     result_.Structure = true;
-    Note(row, kind, std::move(text));
+    Note(row, kind, std::move(text), fileRow);
+  }
+  void Match(Item& shown, Item& read) {
+    shown.matched = read.matched = true;
+    result_.PageRows[static_cast<std::size_t>(read.row)] = shown.row;
   }
 
   void Rows() {
     std::vector<Item> shown = ItemsOf(page_);
     std::vector<Item> read = ItemsOf(file_);
+    result_.PageRows.assign(static_cast<std::size_t>(file_.Objects.LastScanned()) + 1, 0);
     MatchEqual(shown, read);
     for (Item& item : shown) {
       if (!item.matched) MatchDifferent(item, read);
     }
     for (const Item& item : read) {
-      if (!item.matched) NoteStructure(0, FindingKind::ObjectAppears, Shown(item));
+      if (!item.matched) NoteStructure(0, FindingKind::ObjectAppears, Shown(item), item.row);
     }
   }
 
-  static void MatchEqual(std::vector<Item>& shown, std::vector<Item>& read) {
+  void MatchEqual(std::vector<Item>& shown, std::vector<Item>& read) {
     std::unordered_multimap<std::string_view, Item*> byValue;
     for (Item& item : read)
       byValue.emplace(item.all, &item);
     for (Item& item : shown) {
       const auto found = byValue.find(item.all);
       if (found == byValue.end()) continue;
-      item.matched = found->second->matched = true;
+      Match(item, *found->second);
       byValue.erase(found);
     }
   }
@@ -292,7 +299,7 @@ class Comparison {
     auto partner = std::find_if(read.begin(), read.end(), atSamePlace);
     if (partner == read.end()) partner = std::find_if(read.begin(), read.end(), ofSameKind);
     if (partner == read.end()) return NoteStructure(item.row, FindingKind::ObjectLost, Shown(item));
-    item.matched = partner->matched = true;
+    Match(item, *partner);
     NoteDifferences(item, *partner);
   }
 
@@ -300,13 +307,13 @@ class Comparison {
     const std::string kind(KindText(item.kind));
     if (item.kind != other.kind)
       return NoteStructure(item.row, FindingKind::KindChanges,
-                           kind + " -> " + std::string(KindText(other.kind)));
+                           kind + " -> " + std::string(KindText(other.kind)), other.row);
     for (std::size_t at = 0; at < item.values.size() && at < other.values.size(); ++at) {
       const Value& mine = item.values[at];
       const Value& theirs = other.values[at];
       if (mine.text == theirs.text) continue;
       Note(item.row, FindingKind::ValueChanges,
-           kind + " " + std::string(mine.field) + ": " + mine.text + " -> " + theirs.text);
+           kind + " " + std::string(mine.field) + ": " + mine.text + " -> " + theirs.text, other.row);
     }
   }
 

@@ -19,9 +19,11 @@ struct Invocation {
 
 void AddCheck(CLI::App& app, Invocation& invocation) {
   auto* command = app.add_subcommand("check", "Check templates: structure, and what a save would lose");
-  auto files = std::make_shared<std::vector<std::string>>();
-  command->add_option("FILE", *files, "Templates")->required();
-  command->callback([&invocation, files] { invocation.run = [files] { return Check(*files); }; });
+  auto choice = std::make_shared<CheckChoice>();
+  command->add_option("FILE", choice->files, "Templates")->required();
+  command->add_flag("--json", choice->json, "A JSON object on a line of its own for each template");
+  command->add_flag("--strict", choice->strict, "Fail too where a rewrite would change a byte");
+  command->callback([&invocation, choice] { invocation.run = [choice] { return Check(*choice); }; });
 }
 
 void AddDump(CLI::App& app, Invocation& invocation) {
