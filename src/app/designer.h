@@ -285,9 +285,7 @@ class Designer {
   // A surface that shows nothing while there is no window.
   SurfaceOps& Canvas() { return view_ != nullptr ? view_->Canvas() : nowhere_; }
   WorkImages Images() const { return {folders_.TempFolder, session_}; }
-  MadePictures Made() {
-    return {.Qr = &qrImages_, .Charts = charts_.HasPainter() ? &charts_ : nullptr};
-  }
+  MadePictures Made() { return {.Qr = &qrImages_, .Charts = charts_.HasPainter() ? &charts_ : nullptr}; }
   ChartImages& Charts() { return charts_; }
   void PageShown();
   // Other objects than before cannot be painted as they should.
