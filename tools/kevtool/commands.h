@@ -41,8 +41,9 @@ struct BarcodeChoice {
 int Barcode(const BarcodeChoice& choice);
 
 struct RenderChoice {
-  std::string in;
-  std::string out;
+  std::vector<std::string> files;  // a template and its picture; templates alone where there is a folder
+  std::string outFolder;           // for `format` of each template under its own name; empty for none
+  std::string format = "png";
   double zoom = 100;  // percent
   double scale = 1;   // device ratio
   std::string filter = "all";
