@@ -51,8 +51,9 @@ constexpr std::string_view kPictureFields[] = {"XValue",
 constexpr std::string_view kBarcodeFields[] = {
     "XValue",   "Y",      "AlignToGrid", "Content", "BarcodeKind", "VerticalBar",        "Height",
     "BarWidth", "ColorR", "ColorG",      "ColorB",  "PrintFlag",   "ModifiableByEndUser"};
-constexpr std::string_view kQrFields[] = {"XValue", "Y",         "AlignToGrid",        "Content",
-                                          "Height", "PrintFlag", "ModifiableByEndUser"};
+constexpr std::string_view kQrFields[] = {
+    "XValue", "Y",      "AlignToGrid", "Content",   "Height",
+    "ColorR", "ColorG", "ColorB",      "PrintFlag", "ModifiableByEndUser"};
 constexpr std::string_view kLabelFields[] = {"XValue",        "Y",
                                              "AlignToGrid",   "Content",
                                              "Link",          "FontName",
