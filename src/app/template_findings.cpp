@@ -134,6 +134,13 @@ std::vector<Finding> PaintingFindings(const Document& document, const BarcodeSta
   return findings;
 }
 
+// A save gives every template its three sections; nothing is lost or misread by that.
+bool IsEmptySection(const Finding& finding) {
+  return finding.Kind == FindingKind::ObjectAppears &&
+         (finding.Text == "SUBSECTION: [HEADER]" || finding.Text == "SUBSECTION: [DATA]" ||
+          finding.Text == "SUBSECTION: [FOOTER]");
+}
+
 // What a save in memory gives back, told at the places of the file that was read first.
 std::vector<Finding> LossesOf(const Document& document, std::span<const SourcePlace> places,
                               std::string_view bytes, const std::string& written,
@@ -143,6 +150,7 @@ std::vector<Finding> LossesOf(const Document& document, std::span<const SourcePl
   if (!back) return {{0, 0, FindingKind::WillNotComeBack, back.Error().reason, 0}};
   DeriveGeometry(back->Read);
   std::vector<Finding> losses = CompareReadBack(document, back->Read).Findings;
+  std::erase_if(losses, IsEmptySection);
   for (Finding& loss : losses) {
     const SourcePlace place = PlaceOf(loss.Row, places);
     loss.Line = place.Line;
@@ -218,10 +226,12 @@ std::vector<Finding> FirstDifference(std::string_view bytes, std::string_view wr
   const auto line = static_cast<std::size_t>(std::count(bytes.begin(), at, '\n')) + 1;
   const auto lineFrom = [&](std::string_view text) {
     std::string_view rest = text.substr(std::min(lineStart, text.size()));
-    return rest.empty() ? std::string("(end)") : std::string(TakeLine(rest));
+    return rest.empty() ? std::string("(end)") : '"' + std::string(TakeLine(rest)) + '"';
   };
+  const std::string before = lineFrom(bytes);
+  const std::string after = lineFrom(written);
   return {{line, same - lineStart + 1, FindingKind::RewriteDiffers,
-           lineFrom(bytes) + " -> " + lineFrom(written), 0}};
+           before == after ? before + ", its end" : before + " -> " + after, 0}};
 }
 
 }  // namespace kev

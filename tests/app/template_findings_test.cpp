@@ -216,12 +216,12 @@ TEST(FirstDifferenceTest, NamesTheLineAndBothForms) {
                ? std::string("none")
                : std::to_string(found[0].Line) + ":" + std::to_string(found[0].Column) + ": " + found[0].Text;
   };
-  EXPECT_EQ(at("a\r\nbcd\r\n", "a\r\nbxd\r\n"), "2:2: bcd -> bxd");
-  EXPECT_EQ(at("x", "y"), "1:1: x -> y");
-  EXPECT_EQ(at("a\r\n", "a\r\nb\r\n"), "2:1: (end) -> b");
-  EXPECT_EQ(at("a\r\nb", "a\r\n"), "2:1: b -> (end)");
-  EXPECT_EQ(at("a\nb\n", "a\r\nb\r\n"), "1:2: a -> a");
-  EXPECT_EQ(at("", "a"), "1:1: (end) -> a");
+  EXPECT_EQ(at("a\r\nbcd\r\n", "a\r\nbxd\r\n"), "2:2: \"bcd\" -> \"bxd\"");
+  EXPECT_EQ(at("x", "y"), "1:1: \"x\" -> \"y\"");
+  EXPECT_EQ(at("a\r\n", "a\r\nb\r\n"), "2:1: (end) -> \"b\"");
+  EXPECT_EQ(at("a\r\nb", "a\r\n"), "2:1: \"b\" -> (end)");
+  EXPECT_EQ(at("a\nb\n", "a\r\nb\r\n"), "1:2: \"a\", its end");
+  EXPECT_EQ(at("", "a"), "1:1: (end) -> \"a\"");
 }
 
 TEST(Findings, HaveEachANameOfTheirOwn) {
