@@ -48,8 +48,9 @@ constexpr std::string_view kPictureFields[] = {"XValue",
 constexpr std::string_view kBarcodeFields[] = {
     "XValue",   "Y",      "AlignToGrid", "Content", "BarcodeKind", "VerticalBar",        "Height",
     "BarWidth", "ColorR", "ColorG",      "ColorB",  "PrintFlag",   "ModifiableByEndUser"};
-constexpr std::string_view kQrFields[] = {"XValue", "Y",         "AlignToGrid",        "Content",
-                                          "Height", "PrintFlag", "ModifiableByEndUser"};
+constexpr std::string_view kQrFields[] = {
+    "XValue", "Y",      "AlignToGrid", "Content",   "Height",
+    "ColorR", "ColorG", "ColorB",      "PrintFlag", "ModifiableByEndUser"};
 constexpr std::string_view kLabelFields[] = {"XValue",        "Y",
                                              "AlignToGrid",   "Content",
                                              "Link",          "FontName",
@@ -66,6 +67,7 @@ constexpr std::string_view kTextBoxFields[] = {"XValue",
                                                "AlignToGrid",
                                                "Content",
                                                "Width",
+                                               "Height",
                                                "ValueType",
                                                "FontName",
                                                "FontSize",

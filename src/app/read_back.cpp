@@ -14,6 +14,7 @@ class Report {
   Report(const Document& page, const Document& file) : page_(page), file_(file) {}
 
   ReadBack Of(const DocumentChanges& changes) {
+    result_.PageRows = changes.Partners;
     for (const ObjectChange& change : changes.Objects)
       Object(change);
     for (const SettingChange& change : changes.Settings)
@@ -27,26 +28,29 @@ class Report {
   }
 
  private:
-  void Note(int row, FindingKind kind, std::string text) {
-    if (result_.Findings.size() < kMostFindings)
-      result_.Findings.push_back({0, 0, kind, std::move(text), row});
+  void Note(int row, FindingKind kind, std::string text, int fileRow = 0) {
+    if (result_.Findings.size() >= kMostFindings) return;
+    result_.Findings.push_back({0, 0, kind, std::move(text), row});
+    result_.FileRows.push_back(fileRow);
   }
-  void NoteStructure(int row, FindingKind kind, std::string text) {
+  void NoteStructure(int row, FindingKind kind, std::string text, int fileRow = 0) {
     result_.Structure = true;
-    Note(row, kind, std::move(text));
+    Note(row, kind, std::move(text), fileRow);
   }
 
   void Object(const ObjectChange& change) {
     if (change.After == 0)
       return NoteStructure(change.Before, FindingKind::ObjectLost, Shown(page_, change.Before));
-    if (change.Before == 0) return NoteStructure(0, FindingKind::ObjectAppears, Shown(file_, change.After));
+    if (change.Before == 0)
+      return NoteStructure(0, FindingKind::ObjectAppears, Shown(file_, change.After), change.After);
     const std::string kind(KindText(page_.Objects[change.Before].Kind));
     for (const FieldChange& field : change.Fields) {
       const std::string values = field.Before + " -> " + field.After;
       if (field.Field == "Kind") {
-        NoteStructure(change.Before, FindingKind::KindChanges, values);
+        NoteStructure(change.Before, FindingKind::KindChanges, values, change.After);
       } else {
-        Note(change.Before, FindingKind::ValueChanges, kind + " " + std::string(field.Field) + ": " + values);
+        Note(change.Before, FindingKind::ValueChanges, kind + " " + std::string(field.Field) + ": " + values,
+             change.After);
       }
     }
   }

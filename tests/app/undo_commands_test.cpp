@@ -60,6 +60,14 @@ TEST_F(UndoCommands, APushMarksTheDocumentAndWritesTheTableAsItStood) {
   EXPECT_FALSE(CanRedo());
 }
 
+TEST_F(UndoCommands, TheRecoveryFileCarriesTheCommentsThatTheOptionsAskFor) {
+  Edit("A1");
+  EXPECT_EQ(InCache().find("{rem=modulo"), std::string::npos);
+  designer_ = Start({Work("a.kev"), "/!!#/"});
+  Edit("A1");
+  EXPECT_NE(InCache().find("{rem=modulo"), std::string::npos) << InCache();
+}
+
 TEST_F(UndoCommands, AFreshDocumentIsProtectedUnderItsName) {
   designer_->NewTemplate();
   Surface().PushUndo();

@@ -19,9 +19,11 @@ struct Invocation {
 
 void AddCheck(CLI::App& app, Invocation& invocation) {
   auto* command = app.add_subcommand("check", "Check templates: structure, and what a save would lose");
-  auto files = std::make_shared<std::vector<std::string>>();
-  command->add_option("FILE", *files, "Templates")->required();
-  command->callback([&invocation, files] { invocation.run = [files] { return Check(*files); }; });
+  auto choice = std::make_shared<CheckChoice>();
+  command->add_option("FILE", choice->files, "Templates")->required();
+  command->add_flag("--json", choice->json, "A JSON object on a line of its own for each template");
+  command->add_flag("--strict", choice->strict, "Fail too where a rewrite would change a byte");
+  command->callback([&invocation, choice] { invocation.run = [choice] { return Check(*choice); }; });
 }
 
 void AddDump(CLI::App& app, Invocation& invocation) {
@@ -133,15 +135,22 @@ void AddDiff(CLI::App& app, Invocation& invocation) {
 void AddRender(CLI::App& app, Invocation& invocation) {
   auto* command = app.add_subcommand("render", "Paint the page as the designer does, to PNG, PDF or SVG");
   auto choice = std::make_shared<RenderChoice>();
-  command->add_option("FILE", choice->in, "Template")->required();
-  command->add_option("OUT", choice->out, "Picture: .png, .pdf or .svg")->required();
+  command->add_option("FILE", choice->files, "Template and its picture (.png, .pdf or .svg), or templates")
+      ->required();
+  command->add_option("--out-dir", choice->outFolder, "Folder for a picture of each template");
+  command->add_option("--format", choice->format, "Pictures in that folder")
+      ->check(CLI::IsMember({"png", "pdf", "svg"}));
   command->add_option("--zoom", choice->zoom, "Zoom in percent")->check(CLI::Range(10.0, 800.0));
   command->add_option("--scale", choice->scale, "Device pixels for each logical pixel")
       ->check(CLI::Range(0.1, 16.0));
   command->add_option("--filter", choice->filter, "Which objects")
       ->check(CLI::IsMember({"all", "ebeu", "print"}));
   command->add_flag("--grid", choice->grid, "Draw the grid");
-  command->callback([&invocation, choice] { invocation.run = [choice] { return Render(*choice); }; });
+  command->callback([&invocation, choice] {
+    if (choice->outFolder.empty() && choice->files.size() != 2)
+      throw CLI::ValidationError("FILE", "needs a template and its picture, or templates with --out-dir");
+    invocation.run = [choice] { return Render(*choice); };
+  });
 }
 #endif
 
