@@ -94,6 +94,64 @@ TEST_F(KevtoolDiff, ThePictureHoldsBothPagesBesideEachOther) {
   EXPECT_GT(NumberAt(both, 20), NumberAt(page, 20));
 }
 
+struct Colour {
+  unsigned char blue, green, red;
+};
+constexpr Colour kRemoved = {40, 30, 200}, kAdded = {60, 130, 20}, kChanged = {210, 90, 30};
+constexpr std::size_t kHead = 44;  // pixels above the pages: the names of the files and the legend
+
+// A bitmap of 24 bits a pixel, its rows from the bottom.
+class Bitmap {
+ public:
+  explicit Bitmap(std::string bytes) : bytes_(std::move(bytes)) {}
+
+  bool LeftHas(Colour colour) const { return Has(colour, 0, Width() / 2); }
+  bool RightHas(Colour colour) const { return Has(colour, Width() / 2, Width()); }
+
+ private:
+  std::size_t Number(std::size_t at) const {
+    std::size_t number = 0;
+    for (std::size_t n = 4; n > 0; --n)
+      number = number << 8 | static_cast<unsigned char>(bytes_.at(at + n - 1));
+    return number;
+  }
+  std::size_t Width() const { return Number(18); }
+  std::size_t Height() const { return Number(22); }
+  bool Has(Colour colour, std::size_t left, std::size_t right) const {
+    const std::size_t rowLength = (Width() * 3 + 3) / 4 * 4;
+    for (std::size_t row = 0; row + kHead < Height(); ++row)
+      for (std::size_t x = left; x < right; ++x)
+        if (IsAt(Number(10) + row * rowLength + x * 3, colour)) return true;
+    return false;
+  }
+  bool IsAt(std::size_t at, Colour colour) const {
+    const auto byte = [&](std::size_t n) { return static_cast<unsigned char>(bytes_.at(at + n)); };
+    return byte(0) == colour.blue && byte(1) == colour.green && byte(2) == colour.red;
+  }
+
+  std::string bytes_;
+};
+
+TEST_F(KevtoolDiff, ThePictureFramesWhatChangedOnTheSideWhereItIs) {
+  const auto picture = [&](const std::string& first, const std::string& second) {
+    Run({"diff", first, second, "--image", "diff.png"});
+    EXPECT_EQ(RunTool("png2bmp", {"diff.png", "diff.bmp"}, folder).ExitCode, 0);
+    return Bitmap(ReadBytes(folder / "diff.bmp"));
+  };
+  const Bitmap different = picture("a.kev", "b.kev");
+  EXPECT_TRUE(different.LeftHas(kRemoved));
+  EXPECT_FALSE(different.RightHas(kRemoved));
+  EXPECT_FALSE(different.LeftHas(kAdded));
+  EXPECT_TRUE(different.RightHas(kAdded));
+  EXPECT_TRUE(different.LeftHas(kChanged));
+  EXPECT_TRUE(different.RightHas(kChanged));
+  const Bitmap same = picture("a.kev", "a.kev");
+  for (const Colour colour : {kRemoved, kAdded, kChanged}) {
+    EXPECT_FALSE(same.LeftHas(colour));
+    EXPECT_FALSE(same.RightHas(colour));
+  }
+}
+
 TEST_F(KevtoolDiff, ThePictureIsMadeOfTemplatesThatAreTheSameToo) {
   EXPECT_EQ(Run({"diff", "a.kev", "a.kev", "--image", "same.png"}).ExitCode, 0);
   EXPECT_TRUE(std::filesystem::exists(folder / "same.png"));
