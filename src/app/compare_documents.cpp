@@ -86,10 +86,50 @@ std::string Kind(const Item& item) {
 constexpr KeyOf kPasses[] = {Everything,   KindWordsAndPlace, EverythingButPlace,
                              KindAndWords, KindAndPlace,      Place};
 
-std::vector<Item> ItemsOf(const Document& document) {
+// A row of either document; the other one's where it is the same.
+struct Row {
+  int row = 0;
+  const ObjectRecord* record = nullptr;
+  int same = 0;
+};
+
+std::vector<Row> RowsOf(const Document& document) {
+  std::vector<Row> rows;
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+    const ObjectRecord& record = document.Objects[row];
+    if (IsCompared(record, *document.Page)) rows.push_back({row, &record, 0});
+  }
+  return rows;
+}
+
+// The same for rows that are the same; where the bar of a subsection stands does not count.
+std::size_t RoughKey(const ObjectRecord& record) {
+  const auto y = record.Kind == ObjectKind::Subsection ? 0U : static_cast<std::uint32_t>(record.Y);
+  return std::hash<std::string_view>()(record.OwnerName) ^ (std::size_t{y} << 8) ^
+         static_cast<std::size_t>(record.Kind);
+}
+
+// Most rows of two documents are the same, and need no texts to be compared.
+void MatchSame(std::vector<Row>& first, std::vector<Row>& second, const CodePage& page) {
+  std::unordered_multimap<std::size_t, Row*> byKey;
+  byKey.reserve(second.size());
+  for (Row& row : second)
+    byKey.emplace(RoughKey(*row.record), &row);
+  for (Row& row : first) {
+    const auto [begin, end] = byKey.equal_range(RoughKey(*row.record));
+    const auto found = std::find_if(
+        begin, end, [&](const auto& entry) { return SameObjects(*row.record, *entry.second->record, page); });
+    if (found == end) continue;
+    row.same = found->second->row;
+    found->second->same = row.row;
+    byKey.erase(found);
+  }
+}
+
+std::vector<Item> ItemsOf(const std::vector<Row>& rows, const CodePage& page) {
   std::vector<Item> items;
-  for (ComparedObject& object : ComparedObjects(document))
-    items.emplace_back(std::move(object));
+  for (const Row& row : rows)
+    if (row.same == 0) items.emplace_back(ObjectOf(*row.record, row.row, page));
   return items;
 }
 
@@ -114,8 +154,12 @@ class Comparison {
   Comparison(const Document& first, const Document& second) : first_(first), second_(second) {}
 
   DocumentChanges Run(Strangers strangers) {
-    std::vector<Item> before = ItemsOf(first_);
-    std::vector<Item> after = ItemsOf(second_);
+    std::vector<Row> firstRows = RowsOf(first_);
+    std::vector<Row> secondRows = RowsOf(second_);
+    MatchSame(firstRows, secondRows, *first_.Page);
+    NoteSame(secondRows);
+    std::vector<Item> before = ItemsOf(firstRows, *first_.Page);
+    std::vector<Item> after = ItemsOf(secondRows, *second_.Page);
     MatchSubsections(before, after, strangers);
     for (const KeyOf keyOf : kPasses)
       Match(before, after, keyOf);
@@ -129,6 +173,16 @@ class Comparison {
  private:
   const ObjectRecord& Before(const Item& item) const { return first_.Objects[item.object.Row]; }
   const ObjectRecord& After(const Item& item) const { return second_.Objects[item.object.Row]; }
+
+  // Of what is the same in both, the later steps need its partner and the names of its subsections.
+  void NoteSame(const std::vector<Row>& rows) {
+    changes_.Partners.assign(static_cast<std::size_t>(second_.Objects.LastScanned()) + 1, 0);
+    for (const Row& row : rows) {
+      changes_.Partners[static_cast<std::size_t>(row.row)] = row.same;
+      if (row.same != 0 && row.record->Kind == ObjectKind::Subsection)
+        kept_.try_emplace(row.record->SectionName, row.record->SectionName);
+    }
+  }
 
   // A subsection whose fields changed is the same, and so is the only one of a section that lost its name:
   // what they hold is matched as if they had kept it.
@@ -178,7 +232,7 @@ class Comparison {
   }
 
   void TakeNames(std::vector<Item>& after) const {
-    std::unordered_map<std::string_view, std::string> names;
+    std::unordered_map<std::string_view, std::string> names = kept_;
     for (const Item& item : after)
       if (item.IsSubsection() && item.partner != nullptr)
         names.try_emplace(After(item).SectionName, Before(*item.partner).SectionName);
@@ -188,7 +242,6 @@ class Comparison {
   }
 
   void NoteObjects(const std::vector<Item>& before, const std::vector<Item>& after) {
-    changes_.Partners.assign(static_cast<std::size_t>(second_.Objects.LastScanned()) + 1, 0);
     for (const Item& item : before) {
       if (item.partner == nullptr) {
         changes_.Objects.push_back({item.object.Row, 0, {}});
@@ -254,6 +307,7 @@ class Comparison {
   const Document& first_;
   const Document& second_;
   DocumentChanges changes_;
+  std::unordered_map<std::string_view, std::string> kept_;  // names of subsections that are the same
 };
 
 }  // namespace

@@ -2,7 +2,9 @@
 #include "app/compared_object.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <map>
 #include <span>
 
 #include "base/numbers.h"
@@ -123,6 +125,11 @@ std::span<const std::string_view> FieldsOf(ObjectKind kind) {
   return {};
 }
 
+constexpr auto kComparedKinds = std::to_array<ObjectKind>(
+    {ObjectKind::Subsection, ObjectKind::Command, ObjectKind::Box, ObjectKind::Chart, ObjectKind::Line,
+     ObjectKind::Circle, ObjectKind::AnyLine, ObjectKind::Picture, ObjectKind::Barcode, ObjectKind::Qr,
+     ObjectKind::Label, ObjectKind::TextBox});
+
 struct Printer {
   std::string operator()(const std::string& value) const { return value; }
   std::string operator()(ObjectKind value) const { return std::string(KindText(value)); }
@@ -139,7 +146,8 @@ std::string ComparablePosition(const std::string& text) {
   const std::string_view trimmed = Trim(text);
   if (trimmed.find('$') != std::string_view::npos) return std::string(trimmed);
   // Where it lies, not what it begins with: a label keeps only the number at the start of "100 + 50".
-  const double number = PositionOrZero(trimmed, ColumnTable());
+  static const ColumnTable none;
+  const double number = PositionOrZero(trimmed, none);
   return std::abs(number) < 0.01 ? "0" : FormatNumber(number);
 }
 
@@ -154,24 +162,95 @@ std::string ComparableStart(const std::string& text, const CodePage& page) {
   return FormatNumber(number == 0 ? 1 : number);
 }
 
+// How a field is brought into one form where several mean the same.
+enum class Form : std::uint8_t {
+  Plain,
+  Position,
+  Start,
+  Trimmed,
+  Number,
+  Align,
+  Case,
+  ValueType,
+  AtLeastOne,
+  Size
+};
+
+Form FormOf(ObjectKind kind, std::string_view field) {
+  constexpr auto kForms = std::to_array<std::pair<std::string_view, Form>>({
+      {"XValue", Form::Position},
+      {"X2Value", Form::Position},
+      {"StartY", Form::Start},
+      {"SectionTitle", Form::Trimmed},
+      {"Stretch", Form::Trimmed},
+      {"CharSet", Form::Number},
+      {"Align", Form::Align},
+      {"CaseMode", Form::Case},
+      {"ValueType", Form::ValueType},
+      {"LineWidth", Form::AtLeastOne},
+      {"BarWidth", Form::AtLeastOne},
+  });
+  if (kind == ObjectKind::Picture && (field == "Width" || field == "Height")) return Form::Size;
+  const auto* found =
+      std::find_if(kForms.begin(), kForms.end(), [&](const auto& row) { return row.first == field; });
+  return found == kForms.end() ? Form::Plain : found->second;
+}
+
+// A size that follows the picture is none of the template's.
 bool IsMeasured(const ObjectRecord& record, std::string_view field) {
-  if (record.Kind != ObjectKind::Picture) return false;
-  return (field == "Width" && record.PictureFixedWidth == kFalse) ||
-         (field == "Height" && record.PictureFixedHeight == kFalse);
+  return field == "Width" ? record.PictureFixedWidth == kFalse : record.PictureFixedHeight == kFalse;
+}
+
+struct ComparedField {
+  const FieldRow* row;
+  Form form;
+};
+
+const FieldRow& FieldNamed(std::string_view name) {
+  return *std::find_if(kObjectFields.begin(), kObjectFields.end(),
+                       [&](const FieldRow& row) { return row.name == name; });
+}
+
+// Looked up once for each kind: a document has thousands of rows with dozens of fields.
+const std::vector<ComparedField>& ComparedFields(ObjectKind kind) {
+  static const auto table = [] {
+    std::map<ObjectKind, std::vector<ComparedField>> all;
+    for (const ObjectKind each : kComparedKinds) {
+      for (const std::string_view name : FieldsOf(each))
+        all[each].push_back({&FieldNamed(name), FormOf(each, name)});
+    }
+    return all;
+  }();
+  static const std::vector<ComparedField> none;
+  const auto found = table.find(kind);
+  return found == table.end() ? none : found->second;
 }
 
 // Forms that mean the same are one text.
-std::string Comparable(const ObjectRecord& record, const FieldRow& row, const CodePage& page) {
-  if (IsMeasured(record, row.name)) return {};
-  std::string value = std::visit([&](auto member) { return Printer{}(record.*member); }, row.member);
-  if (row.name == "XValue" || row.name == "X2Value") return ComparablePosition(value);
-  if (row.name == "StartY") return ComparableStart(value, page);
-  if (row.name == "SectionTitle" || row.name == "Stretch") return std::string(Trim(value));
-  if (row.name == "CharSet") return FormatNumber(NumericPrefix(value));
-  if (row.name == "Align") return OrDefault(std::string(Trim(value)), "L");
-  if (row.name == "CaseMode") return OrDefault(std::move(value), "N");
-  if (row.name == "ValueType") return OrDefault(std::move(value), "General");
-  if ((row.name == "LineWidth" || row.name == "BarWidth") && value == "0") return "1";
+std::string Comparable(const ObjectRecord& record, const ComparedField& field, const CodePage& page) {
+  std::string value = std::visit([&](auto member) { return Printer{}(record.*member); }, field.row->member);
+  switch (field.form) {
+    case Form::Plain:
+      break;
+    case Form::Position:
+      return ComparablePosition(value);
+    case Form::Start:
+      return ComparableStart(value, page);
+    case Form::Trimmed:
+      return std::string(Trim(value));
+    case Form::Number:
+      return FormatNumber(NumericPrefix(value));
+    case Form::Align:
+      return OrDefault(std::string(Trim(value)), "L");
+    case Form::Case:
+      return OrDefault(std::move(value), "N");
+    case Form::ValueType:
+      return OrDefault(std::move(value), "General");
+    case Form::AtLeastOne:
+      return value == "0" ? "1" : value;
+    case Form::Size:
+      return IsMeasured(record, field.row->name) ? std::string() : value;
+  }
   return value;
 }
 
@@ -181,28 +260,51 @@ std::string ComparableChartValue(std::string_view key, const std::string& value)
   return "N";
 }
 
-const FieldRow& FieldNamed(std::string_view name) {
-  return *std::find_if(kObjectFields.begin(), kObjectFields.end(),
-                       [&](const FieldRow& row) { return row.name == name; });
+std::string ChartValueAt(const ObjectRecord& record, std::size_t slot) {
+  static const std::string none;
+  return ComparableChartValue(ChartKeys()[slot].key,
+                              slot < record.ChartValues.size() ? record.ChartValues[slot] : none);
+}
+
+bool SameField(const ObjectRecord& a, const ObjectRecord& b, const ComparedField& field,
+               const CodePage& page) {
+  if (std::visit([&](auto member) { return a.*member == b.*member; }, field.row->member)) return true;
+  return field.form != Form::Plain && Comparable(a, field, page) == Comparable(b, field, page);
+}
+
+bool SameCharts(const ObjectRecord& a, const ObjectRecord& b) {
+  if (a.ChartValues == b.ChartValues) return true;
+  const std::size_t slots = std::min(std::max(a.ChartValues.size(), b.ChartValues.size()), kChartKeyCount);
+  for (std::size_t slot = 0; slot < slots; ++slot)
+    if (ChartValueAt(a, slot) != ChartValueAt(b, slot)) return false;
+  return true;
+}
+
+}  // namespace
+
+// The preamble's own bar has no line of its own in a file.
+bool IsCompared(const ObjectRecord& record, const CodePage& page) {
+  return !ComparedFields(record.Kind).empty() &&
+         !page.EqualsIgnoringCase(record.SectionOwner, kConfigurationSection);
+}
+
+bool SameObjects(const ObjectRecord& a, const ObjectRecord& b, const CodePage& page) {
+  if (a.Kind != b.Kind || a.OwnerName != b.OwnerName) return false;
+  const std::vector<ComparedField>& fields = ComparedFields(a.Kind);
+  return std::all_of(fields.begin(), fields.end(),
+                     [&](const ComparedField& field) { return SameField(a, b, field, page); }) &&
+         SameCharts(a, b);
 }
 
 ComparedObject ObjectOf(const ObjectRecord& record, int row, const CodePage& page) {
   ComparedObject object{row, record.Kind, record.OwnerName, {}};
-  for (const std::string_view field : FieldsOf(record.Kind))
-    object.Values.push_back({field, Comparable(record, FieldNamed(field), page)});
-  const auto keys = ChartKeys();
-  for (std::size_t slot = 0; slot < std::min(record.ChartValues.size(), kChartKeyCount); ++slot)
-    object.Values.push_back({keys[slot].key, ComparableChartValue(keys[slot].key, record.ChartValues[slot])});
+  for (const ComparedField& field : ComparedFields(record.Kind))
+    object.Values.push_back({field.row->name, Comparable(record, field, page)});
+  if (record.Kind != ObjectKind::Chart) return object;
+  for (std::size_t slot = 0; slot < kChartKeyCount; ++slot)
+    object.Values.push_back({ChartKeys()[slot].key, ChartValueAt(record, slot)});
   return object;
 }
-
-// The preamble's own bar has no line of its own in a file.
-bool IsCompared(const ObjectRecord& record, const CodePage& page) {
-  return !FieldsOf(record.Kind).empty() &&
-         !page.EqualsIgnoringCase(record.SectionOwner, kConfigurationSection);
-}
-
-}  // namespace
 
 std::string_view ComparedObject::operator[](std::string_view field) const {
   const auto found = std::find_if(Values.begin(), Values.end(),
@@ -214,15 +316,6 @@ std::string_view ComparedObject::Words() const {
   for (const std::string_view field : {"SectionTitle", "Content", "PicturePath"})
     if (const std::string_view words = (*this)[field]; !words.empty()) return words;
   return {};
-}
-
-std::vector<ComparedObject> ComparedObjects(const Document& document) {
-  std::vector<ComparedObject> objects;
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    const ObjectRecord& record = document.Objects[row];
-    if (IsCompared(record, *document.Page)) objects.push_back(ObjectOf(record, row, *document.Page));
-  }
-  return objects;
 }
 
 }  // namespace kev

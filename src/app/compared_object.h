@@ -28,7 +28,13 @@ struct ComparedObject {
   std::string_view Words() const;
 };
 
-// In the order of the rows. The bar above the header and end bars are left out: no line of a file makes them.
-std::vector<ComparedObject> ComparedObjects(const Document& document);
+// The bar above the header and end bars are not compared: no line of a file makes them.
+bool IsCompared(const ObjectRecord& record, const CodePage& page);
+
+// Whether they have the same owner and the same values. Makes no texts where records are equal anyway, as
+// most of a saved document are.
+bool SameObjects(const ObjectRecord& a, const ObjectRecord& b, const CodePage& page);
+
+ComparedObject ObjectOf(const ObjectRecord& record, int row, const CodePage& page);
 
 }  // namespace kev
