@@ -2,7 +2,9 @@
 #include "app/read_back.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <map>
 #include <span>
 #include <unordered_map>
 
@@ -126,6 +128,11 @@ std::span<const std::string_view> FieldsOf(ObjectKind kind) {
   return {};
 }
 
+constexpr auto kComparedKinds = std::to_array<ObjectKind>(
+    {ObjectKind::Subsection, ObjectKind::Command, ObjectKind::Box, ObjectKind::Chart, ObjectKind::Line,
+     ObjectKind::Circle, ObjectKind::AnyLine, ObjectKind::Picture, ObjectKind::Barcode, ObjectKind::Qr,
+     ObjectKind::Label, ObjectKind::TextBox});
+
 struct Printer {
   std::string operator()(const std::string& value) const { return value; }
   std::string operator()(ObjectKind value) const { return std::string(KindText(value)); }
@@ -142,7 +149,8 @@ std::string ComparablePosition(const std::string& text) {
   const std::string_view trimmed = Trim(text);
   if (trimmed.find('$') != std::string_view::npos) return std::string(trimmed);
   // Where it lies, not what it begins with: a label keeps only the number at the start of "100 + 50".
-  const double number = PositionOrZero(trimmed, ColumnTable());
+  static const ColumnTable none;
+  const double number = PositionOrZero(trimmed, none);
   return std::abs(number) < 0.01 ? "0" : FormatNumber(number);
 }
 
@@ -157,24 +165,95 @@ std::string ComparableStart(const std::string& text, const CodePage& page) {
   return FormatNumber(number == 0 ? 1 : number);
 }
 
+// How a field is brought into one form where several mean the same.
+enum class Form : std::uint8_t {
+  Plain,
+  Position,
+  Start,
+  Trimmed,
+  Number,
+  Align,
+  Case,
+  ValueType,
+  AtLeastOne,
+  Size
+};
+
+Form FormOf(ObjectKind kind, std::string_view field) {
+  constexpr auto kForms = std::to_array<std::pair<std::string_view, Form>>({
+      {"XValue", Form::Position},
+      {"X2Value", Form::Position},
+      {"StartY", Form::Start},
+      {"SectionTitle", Form::Trimmed},
+      {"Stretch", Form::Trimmed},
+      {"CharSet", Form::Number},
+      {"Align", Form::Align},
+      {"CaseMode", Form::Case},
+      {"ValueType", Form::ValueType},
+      {"LineWidth", Form::AtLeastOne},
+      {"BarWidth", Form::AtLeastOne},
+  });
+  if (kind == ObjectKind::Picture && (field == "Width" || field == "Height")) return Form::Size;
+  const auto* found =
+      std::find_if(kForms.begin(), kForms.end(), [&](const auto& row) { return row.first == field; });
+  return found == kForms.end() ? Form::Plain : found->second;
+}
+
+// A size that follows the picture is none of the template's.
 bool IsMeasured(const ObjectRecord& record, std::string_view field) {
-  if (record.Kind != ObjectKind::Picture) return false;
-  return (field == "Width" && record.PictureFixedWidth == kFalse) ||
-         (field == "Height" && record.PictureFixedHeight == kFalse);
+  return field == "Width" ? record.PictureFixedWidth == kFalse : record.PictureFixedHeight == kFalse;
+}
+
+struct ComparedField {
+  const FieldRow* row;
+  Form form;
+};
+
+const FieldRow& FieldNamed(std::string_view name) {
+  return *std::find_if(kObjectFields.begin(), kObjectFields.end(),
+                       [&](const FieldRow& row) { return row.name == name; });
+}
+
+// Looked up once for each kind: a document has thousands of rows with dozens of fields.
+const std::vector<ComparedField>& ComparedFields(ObjectKind kind) {
+  static const auto table = [] {
+    std::map<ObjectKind, std::vector<ComparedField>> all;
+    for (const ObjectKind each : kComparedKinds) {
+      for (const std::string_view name : FieldsOf(each))
+        all[each].push_back({&FieldNamed(name), FormOf(each, name)});
+    }
+    return all;
+  }();
+  static const std::vector<ComparedField> none;
+  const auto found = table.find(kind);
+  return found == table.end() ? none : found->second;
 }
 
 // Forms that mean the same are one text.
-std::string Comparable(const ObjectRecord& record, const FieldRow& row, const CodePage& page) {
-  if (IsMeasured(record, row.name)) return {};
-  std::string value = std::visit([&](auto member) { return Printer{}(record.*member); }, row.member);
-  if (row.name == "XValue" || row.name == "X2Value") return ComparablePosition(value);
-  if (row.name == "StartY") return ComparableStart(value, page);
-  if (row.name == "SectionTitle" || row.name == "Stretch") return std::string(Trim(value));
-  if (row.name == "CharSet") return FormatNumber(NumericPrefix(value));
-  if (row.name == "Align") return OrDefault(std::string(Trim(value)), "L");
-  if (row.name == "CaseMode") return OrDefault(std::move(value), "N");
-  if (row.name == "ValueType") return OrDefault(std::move(value), "General");
-  if ((row.name == "LineWidth" || row.name == "BarWidth") && value == "0") return "1";
+std::string Comparable(const ObjectRecord& record, const ComparedField& field, const CodePage& page) {
+  std::string value = std::visit([&](auto member) { return Printer{}(record.*member); }, field.row->member);
+  switch (field.form) {
+    case Form::Plain:
+      break;
+    case Form::Position:
+      return ComparablePosition(value);
+    case Form::Start:
+      return ComparableStart(value, page);
+    case Form::Trimmed:
+      return std::string(Trim(value));
+    case Form::Number:
+      return FormatNumber(NumericPrefix(value));
+    case Form::Align:
+      return OrDefault(std::string(Trim(value)), "L");
+    case Form::Case:
+      return OrDefault(std::move(value), "N");
+    case Form::ValueType:
+      return OrDefault(std::move(value), "General");
+    case Form::AtLeastOne:
+      return value == "0" ? "1" : value;
+    case Form::Size:
+      return IsMeasured(record, field.row->name) ? std::string() : value;
+  }
   return value;
 }
 
@@ -184,47 +263,15 @@ std::string ComparableChartValue(std::string_view key, const std::string& value)
   return "N";
 }
 
-struct Value {
-  std::string_view field;
-  std::string text;
-};
-
 struct Item {
   int row = 0;
-  ObjectKind kind = ObjectKind::None;
-  std::string owner;
-  std::vector<Value> values;
-  std::string all;  // everything above as one text
+  const ObjectRecord* record = nullptr;
   bool matched = false;
-
-  std::string_view operator[](std::string_view field) const {
-    const auto found =
-        std::find_if(values.begin(), values.end(), [&](const Value& value) { return value.field == field; });
-    return found == values.end() ? std::string_view{} : std::string_view(found->text);
-  }
 };
-
-const FieldRow& FieldNamed(std::string_view name) {
-  return *std::find_if(kObjectFields.begin(), kObjectFields.end(),
-                       [&](const FieldRow& row) { return row.name == name; });
-}
-
-Item ItemOf(const ObjectRecord& record, int row, const CodePage& page) {
-  Item item{row, record.Kind, record.OwnerName, {}, {}, false};
-  for (const std::string_view field : FieldsOf(record.Kind))
-    item.values.push_back({field, Comparable(record, FieldNamed(field), page)});
-  for (std::size_t slot = 0; slot < std::min(record.ChartValues.size(), kChartKeyCount); ++slot)
-    item.values.push_back(
-        {ChartKeys()[slot].key, ComparableChartValue(ChartKeys()[slot].key, record.ChartValues[slot])});
-  item.all = std::string(KindText(record.Kind)) + '\0' + item.owner;
-  for (const Value& value : item.values)
-    item.all.append(1, '\0').append(value.text);
-  return item;
-}
 
 // The preamble's own bar has no line of its own in a file.
 bool IsCompared(const ObjectRecord& record, const CodePage& page) {
-  return !FieldsOf(record.Kind).empty() &&
+  return !ComparedFields(record.Kind).empty() &&
          !page.EqualsIgnoringCase(record.SectionOwner, kConfigurationSection);
 }
 
@@ -232,9 +279,48 @@ std::vector<Item> ItemsOf(const Document& document) {
   std::vector<Item> items;
   for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
     const ObjectRecord& record = document.Objects[row];
-    if (IsCompared(record, *document.Page)) items.push_back(ItemOf(record, row, *document.Page));
+    if (IsCompared(record, *document.Page)) items.push_back({row, &record});
   }
   return items;
+}
+
+bool SameField(const ObjectRecord& a, const ObjectRecord& b, const ComparedField& field,
+               const CodePage& page) {
+  if (std::visit([&](auto member) { return a.*member == b.*member; }, field.row->member)) return true;
+  return field.form != Form::Plain && Comparable(a, field, page) == Comparable(b, field, page);
+}
+
+std::string ChartValueAt(const ObjectRecord& record, std::size_t slot) {
+  static const std::string none;
+  return ComparableChartValue(ChartKeys()[slot].key,
+                              slot < record.ChartValues.size() ? record.ChartValues[slot] : none);
+}
+
+std::size_t ChartSlots(const ObjectRecord& a, const ObjectRecord& b) {
+  return std::min(std::max(a.ChartValues.size(), b.ChartValues.size()), kChartKeyCount);
+}
+
+bool SameCharts(const ObjectRecord& a, const ObjectRecord& b) {
+  if (a.ChartValues == b.ChartValues) return true;
+  for (std::size_t slot = 0; slot < ChartSlots(a, b); ++slot) {
+    if (ChartValueAt(a, slot) != ChartValueAt(b, slot)) return false;
+  }
+  return true;
+}
+
+bool SameRecords(const ObjectRecord& a, const ObjectRecord& b, const CodePage& page) {
+  if (a.Kind != b.Kind || a.OwnerName != b.OwnerName) return false;
+  const std::vector<ComparedField>& fields = ComparedFields(a.Kind);
+  return std::all_of(fields.begin(), fields.end(),
+                     [&](const ComparedField& field) { return SameField(a, b, field, page); }) &&
+         SameCharts(a, b);
+}
+
+// Rows that are the same have the same key; a subsection is compared wherever it lies.
+std::size_t KeyOf(const ObjectRecord& record) {
+  const auto y = record.Kind == ObjectKind::Subsection ? 0U : static_cast<std::uint32_t>(record.Y);
+  return std::hash<std::string_view>()(record.OwnerName) ^ (std::size_t{y} << 8) ^
+         static_cast<std::size_t>(record.Kind);
 }
 
 class Comparison {
@@ -277,25 +363,33 @@ class Comparison {
   }
 
   void MatchEqual(std::vector<Item>& shown, std::vector<Item>& read) {
-    std::unordered_multimap<std::string_view, Item*> byValue;
+    std::unordered_multimap<std::size_t, Item*> byKey;
+    byKey.reserve(read.size());
     for (Item& item : read)
-      byValue.emplace(item.all, &item);
+      byKey.emplace(KeyOf(*item.record), &item);
     for (Item& item : shown) {
-      const auto found = byValue.find(item.all);
-      if (found == byValue.end()) continue;
+      const auto [begin, end] = byKey.equal_range(KeyOf(*item.record));
+      const auto found = std::find_if(begin, end, [&](const auto& entry) {
+        return SameRecords(*item.record, *entry.second->record, *page_.Page);
+      });
+      if (found == end) continue;
       Match(item, *found->second);
-      byValue.erase(found);
+      byKey.erase(found);
     }
   }
 
   // The partner is the one at the same place, else the first of its kind in the same subsection.
   void MatchDifferent(Item& item, std::vector<Item>& read) {
+    const ObjectRecord& mine = *item.record;
+    const std::string x = ComparablePosition(mine.XValue);
     const auto atSamePlace = [&](const Item& other) {
-      return !other.matched && other.kind != ObjectKind::Subsection && item.kind != ObjectKind::Subsection &&
-             other.owner == item.owner && other["Y"] == item["Y"] && other["XValue"] == item["XValue"];
+      const ObjectRecord& theirs = *other.record;
+      return !other.matched && theirs.Kind != ObjectKind::Subsection && mine.Kind != ObjectKind::Subsection &&
+             theirs.OwnerName == mine.OwnerName && theirs.Y == mine.Y &&
+             ComparablePosition(theirs.XValue) == x;
     };
     const auto ofSameKind = [&](const Item& other) {
-      return !other.matched && other.kind == item.kind && other.owner == item.owner;
+      return !other.matched && other.record->Kind == mine.Kind && other.record->OwnerName == mine.OwnerName;
     };
     auto partner = std::find_if(read.begin(), read.end(), atSamePlace);
     if (partner == read.end()) partner = std::find_if(read.begin(), read.end(), ofSameKind);
@@ -305,23 +399,36 @@ class Comparison {
   }
 
   void NoteDifferences(const Item& item, const Item& other) {
-    const std::string kind(KindText(item.kind));
-    if (item.kind != other.kind)
+    const ObjectRecord& mine = *item.record;
+    const ObjectRecord& theirs = *other.record;
+    if (mine.Kind != theirs.Kind)
       return NoteStructure(item.row, FindingKind::KindChanges,
-                           kind + " -> " + std::string(KindText(other.kind)), other.row);
-    for (std::size_t at = 0; at < item.values.size() && at < other.values.size(); ++at) {
-      const Value& mine = item.values[at];
-      const Value& theirs = other.values[at];
-      if (mine.text == theirs.text) continue;
-      Note(item.row, FindingKind::ValueChanges,
-           kind + " " + std::string(mine.field) + ": " + mine.text + " -> " + theirs.text, other.row);
+                           std::string(KindText(mine.Kind)) + " -> " + std::string(KindText(theirs.Kind)),
+                           other.row);
+    for (const ComparedField& field : ComparedFields(mine.Kind)) {
+      if (!SameField(mine, theirs, field, *page_.Page))
+        NoteValue(item, other, field.row->name, Comparable(mine, field, *page_.Page),
+                  Comparable(theirs, field, *page_.Page));
+    }
+    for (std::size_t slot = 0; slot < ChartSlots(mine, theirs); ++slot) {
+      const std::string before = ChartValueAt(mine, slot);
+      const std::string after = ChartValueAt(theirs, slot);
+      if (before != after) NoteValue(item, other, ChartKeys()[slot].key, before, after);
     }
   }
 
+  void NoteValue(const Item& item, const Item& other, std::string_view field, const std::string& before,
+                 const std::string& after) {
+    Note(item.row, FindingKind::ValueChanges,
+         std::string(KindText(item.record->Kind)).append(" ").append(field) + ": " + before + " -> " + after,
+         other.row);
+  }
+
   static std::string Shown(const Item& item) {
-    const std::string_view title = item["SectionTitle"];
-    const std::string_view text = title.empty() ? item["Content"] : title;
-    return std::string(KindText(item.kind)) + (text.empty() ? "" : ": ") + std::string(text);
+    const ObjectRecord& record = *item.record;
+    const std::string_view title = Trim(record.SectionTitle);
+    const std::string_view text = title.empty() ? std::string_view(record.Content) : title;
+    return std::string(KindText(record.Kind)) + (text.empty() ? "" : ": ") + std::string(text);
   }
 
   void Settings() {
