@@ -11,6 +11,7 @@
 #include "base/reasons.h"
 #include "base/text.h"
 #include "template/scanner.h"
+#include "template/skeleton.h"
 
 namespace kev {
 
@@ -221,7 +222,7 @@ void TemplateReader::CheckHeadLine(std::string_view line, const KeyFile& keys, b
   if (visible.empty() || visible.starts_with('[') || (inHead && visible.starts_with('$'))) return;
   const std::size_t equals = line.starts_with('#') ? std::string_view::npos : line.find('=');
   if (equals == std::string_view::npos) {
-    if (inHead) state_.Note(FindingKind::LostText, visible);
+    if (inHead && visible != kGeneratedLine) state_.Note(FindingKind::LostText, visible);
     return;
   }
   const std::string key = page_.Upper(line.substr(0, equals));

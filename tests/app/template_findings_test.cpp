@@ -183,7 +183,8 @@ TEST_F(FindingBehindASave, NamesTheObjectAndItsPlaceInTheSavedFile) {
 }
 
 TEST_F(FindingBehindASave, TellsWhatTheFileItselfHoldsToo) {
-  const auto designer = Start({Made("a.kev", Layout("{\\n}\r\n{20000;}Total{\\n}\r\n{$Gone;}B{\\n}\r\n"))});
+  const auto designer = Start(
+      {Made("a.kev", Layout("{\\n}\r\n{20000;}Total{\\n}\r\n{$Gone;}B{\\n}\r\n[FOOTER]\r\n[DATA]\r\n"))});
   EXPECT_TRUE(designer->Save());
   std::set<std::string> texts;
   for (const Finding& finding : designer->Findings()) {
