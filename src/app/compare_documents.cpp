@@ -279,29 +279,34 @@ class Comparison {
     return std::string(Trim(PrintedValue(document.Settings, id)));
   }
 
-  static std::vector<Column> UsedColumns(const Document& document) {
-    std::vector<Column> columns;
+  static bool Holds(const ColumnTable& columns, const Column& wanted) {
     for (int slot = 1; slot <= ColumnTable::kLastSlot; ++slot)
-      if (!document.Columns[slot].Name.empty()) columns.push_back(document.Columns[slot]);
-    return columns;
+      if (columns[slot].Name == wanted.Name && columns[slot].Position == wanted.Position) return true;
+    return false;
   }
 
-  static std::optional<double> PositionIn(const std::vector<Column>& columns, const std::string& name) {
-    const auto found = std::find_if(columns.begin(), columns.end(),
-                                    [&](const Column& column) { return column.Name == name; });
-    return found == columns.end() ? std::nullopt : std::optional(found->Position);
+  static std::vector<Column> ColumnsWithout(const ColumnTable& columns, const ColumnTable& others) {
+    std::vector<Column> left;
+    for (int slot = 1; slot <= ColumnTable::kLastSlot; ++slot)
+      if (!columns[slot].Name.empty() && !Holds(others, columns[slot])) left.push_back(columns[slot]);
+    return left;
   }
 
+  // A table may hold a name more than once.
   void NoteColumns() {
-    const std::vector<Column> mine = UsedColumns(first_);
-    const std::vector<Column> theirs = UsedColumns(second_);
-    for (const Column& column : mine) {
-      const std::optional<double> other = PositionIn(theirs, column.Name);
-      if (other != column.Position) changes_.Columns.push_back({column.Name, column.Position, other});
+    std::vector<Column> added = ColumnsWithout(second_.Columns, first_.Columns);
+    for (const Column& column : ColumnsWithout(first_.Columns, second_.Columns)) {
+      const auto moved = std::find_if(added.begin(), added.end(),
+                                      [&](const Column& other) { return other.Name == column.Name; });
+      ColumnChange change{column.Name, column.Position, std::nullopt};
+      if (moved != added.end()) {
+        change.After = moved->Position;
+        added.erase(moved);
+      }
+      changes_.Columns.push_back(std::move(change));
     }
-    for (const Column& column : theirs)
-      if (!PositionIn(mine, column.Name))
-        changes_.Columns.push_back({column.Name, std::nullopt, column.Position});
+    for (const Column& column : added)
+      changes_.Columns.push_back({column.Name, std::nullopt, column.Position});
   }
 
   const Document& first_;

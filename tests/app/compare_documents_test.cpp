@@ -140,5 +140,18 @@ TEST_F(ComparingDocuments, SettingsAndColumnsNameBothValues) {
   EXPECT_FALSE(changes.Columns[1].Before);
 }
 
+TEST_F(ComparingDocuments, AColumnThatStandsTwiceIsComparedWithEither) {
+  for (Document* document : {&first_, &second_}) {
+    document->Columns[1] = {"$A", 100, ""};
+    document->Columns[2] = {"$A", 200, ""};
+  }
+  EXPECT_TRUE(Compare().None());
+  second_.Columns[3] = {"$A", 300, ""};
+  const DocumentChanges changes = Compare();
+  ASSERT_EQ(changes.Columns.size(), 1U);
+  EXPECT_FALSE(changes.Columns[0].Before);
+  EXPECT_EQ(changes.Columns[0].After, 300);
+}
+
 }  // namespace
 }  // namespace kev
