@@ -239,9 +239,10 @@ TEST_F(KevtoolUsage, AKindOfBarCodeThatIsNoneIsNamed) {
 TEST_F(KevtoolUsage, PicturesNameWhatIsWrong) {
   ExpectWrong(
       {{{"render"}, "FILE is required"},
-       {{"render", "good.kev"}, "OUT is required"},
+       {{"render", "good.kev"}, "FILE: needs a template and its picture, or templates with --out-dir"},
        {{"render", "good.kev", "a.png", "--nothing"}, "The following argument was not expected: --nothing"},
-       {{"render", "good.kev", "a.png", "more"}, "The following argument was not expected: more"},
+       {{"render", "good.kev", "a.png", "more"},
+        "FILE: needs a template and its picture, or templates with --out-dir"},
        {{"render", "good.kev", "a.png", "--zoom", "5"},
         "--zoom: Value 5 not in range 10.000000 to 800.000000"},
        {{"render", "good.kev", "a.png", "--scale", "x"},
