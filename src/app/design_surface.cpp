@@ -151,6 +151,8 @@ void DesignSurface::FilterChanged() {
 void DesignSurface::GoToObject(int row) {
   CommitOpenEdits();
   PageWork work = Work();
+  // The object may be gone since it was listed.
+  if (std::as_const(work.document).Objects[row].Kind == ObjectKind::None) return;
   SelectObject(work, row);
   Redraw();
   designer_.ShowArea(AreaOf(work.document.Objects[row], work.document, work.ZoomFactor));

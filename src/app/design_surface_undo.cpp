@@ -30,9 +30,9 @@ void DesignSurface::Protect() {
 
 // Work goes on without a recovery file; a message at each change would only be in its way.
 void DesignSurface::WriteRecovery() {
-  const std::optional<FileFailure> failure =
-      recovery_.Write(InTempFolder(designer_.Folders(), kRecoveryFolder), designer_.Now(),
-                      designer_.DocumentTitle(), designer_.OpenDocument());
+  const std::optional<FileFailure> failure = recovery_.Write(
+      InTempFolder(designer_.Folders(), kRecoveryFolder), designer_.Now(), designer_.DocumentTitle(),
+      designer_.OpenDocument(), WriteOptions{designer_.Command().WriterComments()});
   const bool isTold = std::exchange(recoveryFailed_, failure.has_value());
   if (failure && !isTold)
     designer_.ShowText(kTextWriteFailed, BoxIcon::Critical,

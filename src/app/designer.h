@@ -22,7 +22,6 @@
 #include "app/property_sheets.h"
 #include "app/qr_images.h"
 #include "app/quick_properties.h"
-#include "app/read_back.h"
 #include "app/theme.h"
 #include "base/finding.h"
 #include "base/host.h"
@@ -40,6 +39,8 @@ namespace kev {
 
 struct SubsectionDialog;
 struct RecoverDialog;
+struct FoundInFile;
+struct SavedCheck;
 
 // In the order of the list. Any other number may be typed.
 inline constexpr auto kZoomList =
@@ -283,9 +284,7 @@ class Designer {
   // A surface that shows nothing while there is no window.
   SurfaceOps& Canvas() { return view_ != nullptr ? view_->Canvas() : nowhere_; }
   WorkImages Images() const { return {folders_.TempFolder, session_}; }
-  MadePictures Made() {
-    return {.Qr = &qrImages_, .Charts = charts_.HasPainter() ? &charts_ : nullptr};
-  }
+  MadePictures Made() { return {.Qr = &qrImages_, .Charts = charts_.HasPainter() ? &charts_ : nullptr}; }
   ChartImages& Charts() { return charts_; }
   void PageShown();
   // Other objects than before cannot be painted as they should.
@@ -335,7 +334,7 @@ class Designer {
   // Reads and adopts; an empty path makes a document without a file, under this title.
   bool ReadAndAdopt(const std::string& path, std::string_view bytes, std::string_view title = kFreshTitle);
   void Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept;
-  void ShowAdopted(std::vector<Finding> findings);
+  void ShowAdopted(FoundInFile found);
   bool SaveTo(const std::string& path);
   // Whether FILEFORMAT asks for the packed form.
   bool IsEncoded() const;
@@ -346,12 +345,13 @@ class Designer {
   std::optional<FileFailure> StoreThumbnail();
   void TellWriteFailure(const FileFailure& failure);
   void TellUnnamedSymbologies(const WriteReport& report);
+  void TellSampleFailure(const WriteReport& report);
   std::string WriteForTest(const std::string& path);
   TestRunWork TestWork();
   std::optional<std::string> ChooseTarget();
   std::optional<std::string> ChooseTarget(FileChoice choice);
   void CheckSaved(const std::string& path, const std::string& oldFolder);
-  ReadBack ReadBackFrom(const std::string& path);
+  SavedCheck CheckSavedFile(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);
   void ShowMadePictures();
   void TakeArrivals() noexcept;

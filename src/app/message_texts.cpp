@@ -18,7 +18,8 @@ constexpr std::array<int, kFindingKinds> kFindingNumbers = {
     kTextFindingValueOutOfRange, kTextFindingWillNotComeBack, kTextFindingMissingFile,
     kTextFindingValueChanges,    kTextFindingObjectLost,      kTextFindingObjectAppears,
     kTextFindingKindChanges,     kTextFindingColumnLost,      kTextFindingColumnAppears,
-    kTextFindingPaintingStops,   kTextFindingNameWithColon};
+    kTextFindingPaintingStops,   kTextFindingNameWithColon,   kTextFindingPastPage,
+    kTextFindingOutsideBodies,   kTextFindingMovesSubsection, kTextFindingRewriteDiffers};
 
 constexpr auto kReasonNumbers = std::to_array<std::pair<std::string_view, int>>({
     {kReasonOutOfMemory, kTextReasonOutOfMemory},

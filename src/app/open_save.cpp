@@ -7,7 +7,7 @@
 #include "app/host_progress.h"
 #include "app/message_texts.h"
 #include "app/new_template_run.h"
-#include "app/read_back.h"
+#include "app/template_findings.h"
 #include "base/files.h"
 #include "base/reasons.h"
 #include "base/text.h"
@@ -124,7 +124,7 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std
   const HeldArrivals held(*this);
   pictures_.SetTemplateFolder(path.empty() ? folders_.TempFolder : FolderOf(path));
   bool adopted = false;
-  std::vector<Finding> findings;
+  FoundInFile found;
   // The open document is not touched until the new one is there as a whole, so that nothing is to be kept.
   const auto read = [&] {
     HostProgress progress(host_, texts_);
@@ -132,7 +132,7 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std
     Result<ReadOutcome> outcome = ReadTemplateBytes(bytes, Services(path.empty() ? nullptr : &progress));
     progress.End();
     if (!outcome) return TellReadFailure(path, outcome.Error().reason);
-    findings.swap(outcome->Findings);
+    found = {std::move(outcome->Findings), std::move(outcome->Places), bytes};
     Adopt(std::move(*outcome), path, path.empty() ? std::string(title) : FileNameOf(path));
     adopted = true;
   };
@@ -140,7 +140,7 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std
   if (adopted) {
     surface_.TheRecovery().Delete();
     opened_.LeaveBehind();
-    GuardedView([&] { ShowAdopted(std::move(findings)); });
+    GuardedView([&] { ShowAdopted(std::move(found)); });
     AddRecentFile();
   } else {
     pictures_.SetTemplateFolder(TemplateFolder());
@@ -158,12 +158,14 @@ void Designer::Adopt(ReadOutcome outcome, std::string path, std::string title) n
   documentShown_ = true;
 }
 
-void Designer::ShowAdopted(std::vector<Finding> findings) {
+void Designer::ShowAdopted(FoundInFile found) {
   ShowCaption();
   surface_.DocumentReplaced();
   if (view_ != nullptr) view_->DocumentReplaced();
-  SetFindings(std::move(findings));
+  // The list of the document before must not stay, whatever painting does.
+  SetFindings({});
   DeriveGeometryAndRedraw();
+  SetFindings(OpenedFindings(document_, std::move(found), measurer_));
   surface_.BuildRulers();
 }
 
@@ -295,6 +297,13 @@ void Designer::TellUnnamedSymbologies(const WriteReport& report) {
     host_.ShowMessage({Text(kTextProgramTitle), symbology, {}, BoxIcon::Warning});
 }
 
+// Data that is not there needs no copy; what is there and can't be copied leaves the viewer without.
+void Designer::TellSampleFailure(const WriteReport& report) {
+  if (!report.SampleFailure || !FileExists(SampleDataPath())) return;
+  ShowText(kTextSampleNotCopied, BoxIcon::Warning,
+           report.SampleFailure->path + "\r\n" + ReasonInLanguage(texts_, report.SampleFailure->reason));
+}
+
 bool Designer::SaveTo(const std::string& path) {
   host_.ShowStatus(Text(kTextStatusSaving));
   WriteReport report;
@@ -315,6 +324,7 @@ bool Designer::SaveTo(const std::string& path) {
   ShowCaption();
   host_.ShowStatus("");
   TellUnnamedSymbologies(report);
+  TellSampleFailure(report);
   AddRecentFile();
   CheckSaved(path, oldFolder);
   return true;
@@ -323,13 +333,12 @@ bool Designer::SaveTo(const std::string& path) {
 // The file is there; whatever is found now only tells about it.
 void Designer::CheckSaved(const std::string& path, const std::string& oldFolder) {
   GuardedView([&] {
-    ReadBack back = ReadBackFrom(path);
-    const bool same = back.Same();
+    SavedCheck back = CheckSavedFile(path);
     const std::vector<Finding> missing = LostFiles(document_, oldFolder, FolderOf(path));
     back.Findings.insert(back.Findings.end(), missing.begin(), missing.end());
     if (back.Structure) {
       host_.ShowStatus(Text(kTextReadBackDiffers));
-    } else if (!same) {
+    } else if (!back.Same) {
       host_.ShowStatus(Text(kTextSavedWithFindings));
     } else if (!missing.empty()) {
       host_.ShowStatus(Text(kTextRelativeFilesMissing));
@@ -338,7 +347,7 @@ void Designer::CheckSaved(const std::string& path, const std::string& oldFolder)
   });
 }
 
-ReadBack Designer::ReadBackFrom(const std::string& path) {
+SavedCheck Designer::CheckSavedFile(const std::string& path) {
   // Sizes of pictures are not compared unless the template gives them, so that none is looked at or fetched.
   NoPictures pictures;
   ReadServices services{measurer_, pictures, settings_.DefaultPaperSize, document_.Page, nullptr};
@@ -348,10 +357,10 @@ ReadBack Designer::ReadBackFrom(const std::string& path) {
   if (!outcome) {
     const std::string reason = ReasonInLanguage(texts_, outcome.Error().reason);
     return {{{0, 0, FindingKind::WillNotComeBack, document_.Page->FromUtf8(reason).value_or(reason), 0}},
+            false,
             true};
   }
-  DeriveGeometry(outcome->Read);
-  return CompareReadBack(document_, outcome->Read);
+  return SavedFindings(document_, *outcome, *bytes);
 }
 
 }  // namespace kev

@@ -13,6 +13,10 @@ struct ReadBack {
   // One for each value, object, setting or column that does not come back; each names the row on the page.
   // What happened is in its kind: its text holds names and values alone, "LABEL Bold: -1 -> 0".
   std::vector<Finding> Findings;
+  // For each finding the row of the object in the file; 0 where there is none.
+  std::vector<int> FileRows;
+  // For each row of the file the one on the page that it stands for; 0 where there is none.
+  std::vector<int> PageRows;
   // Whether objects, settings or columns are gone or have appeared, and not only values of them.
   bool Structure = false;
 

@@ -49,11 +49,11 @@ std::string Shortened(std::string name, std::size_t most) {
 }
 
 // Writing lays a document out; the open one must not see that.
-Result<std::string> TextFor(const Document& document) {
+Result<std::string> TextFor(const Document& document, const WriteOptions& options) {
   try {
     Document copy = document;
     WriteReport report;
-    return TemplateText(copy, {}, report);
+    return TemplateText(copy, options, report);
   } catch (const std::bad_alloc&) {
     return FileFailure{{}, kReasonOutOfMemory};
   } catch (const std::exception& failure) {
@@ -80,9 +80,10 @@ std::string RecoveredTitle(std::string_view fileName) {
 }
 
 std::optional<FileFailure> Recovery::Write(const std::string& folder, const ClockTime& time,
-                                           const std::string& documentTitle, const Document& document) {
+                                           const std::string& documentTitle, const Document& document,
+                                           const WriteOptions& options) {
   const std::string wanted = PathIn(folder, RecoveryName(time, documentTitle));
-  const Result<std::string> text = TextFor(document);
+  const Result<std::string> text = TextFor(document, options);
   if (!text) return FileFailure{wanted, text.Error().reason};
   Result<NewHeldFile> written = NewHeldFile::Write(folder, *text);
   if (!written) return FileFailure{wanted, written.Error().reason};

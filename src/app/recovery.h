@@ -12,6 +12,7 @@
 #include "base/result.h"
 #include "document/document.h"
 #include "template/sample_copy.h"
+#include "template/writer.h"
 
 namespace kev {
 
@@ -34,7 +35,8 @@ class Recovery {
   // Writes the document to a new file in the folder and then deletes the one before. On failure the old one
   // stays. The document's rows stay as they are. A name in use that is not ours gives the next second.
   std::optional<FileFailure> Write(const std::string& folder, const ClockTime& time,
-                                   const std::string& documentTitle, const Document& document);
+                                   const std::string& documentTitle, const Document& document,
+                                   const WriteOptions& options = {});
   // Takes over what an earlier run left; false where another run holds it or it is gone.
   bool TakeOver(const std::string& file);
   // The file goes; there is none any more.

@@ -27,20 +27,27 @@ enum class FindingKind : std::uint8_t {
   ColumnLost,     // a column
   ColumnAppears,  // a column that the page does not hold
   PaintingStops,  // a bar code that reaches farther than it can be painted
-  NameWithColon   // a subsection made for records whose name it cannot hold
+  NameWithColon,  // a subsection made for records whose name it cannot hold
+  // What stands where nothing of it will be seen.
+  PastPage,         // a position past the edge of the page
+  OutsideBodies,    // an object that lies in no subsection
+  MovesSubsection,  // an object that lies in another subsection than the one it is written in
+  RewriteDiffers    // a line that a save would write otherwise
 };
-inline constexpr std::size_t kFindingKinds = 17;
+inline constexpr std::size_t kFindingKinds = 21;
 
 // "unknown key", "text is lost" and so on, for the command line; a list in the window takes its words from
 // the language file.
 std::string_view FindingText(FindingKind kind);
+// "unknown-key", "text-lost" and so on, for programs that read what a check found. These names never change.
+std::string_view FindingName(FindingKind kind);
 
 struct Finding {
   std::size_t Line = 0;    // of the file, counted from 1; 0 where it belongs to no line
   std::size_t Column = 0;  // counted from 1; 0 where it belongs to the whole line
   FindingKind Kind = FindingKind::UnknownKey;
   std::string Text;  // the text concerned, in the code page of the file
-  int Row = 0;       // the object concerned; 0 where there is none
+  int Row = 0;       // the object concerned, else the bar of its subsection; 0 where there is none
 };
 
 }  // namespace kev

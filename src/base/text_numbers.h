@@ -460,6 +460,7 @@ inline constexpr int kTextFolderMissing = 1222;
 inline constexpr int kTextOperationFailed = 1223;
 inline constexpr int kTextWriteFailed = 1224;
 inline constexpr int kTextSavedWithFindings = 1225;
+inline constexpr int kTextSampleNotCopied = 328;
 inline constexpr int kTextProgramNotStarted = 1226;
 inline constexpr int kTextSubsectionNameRefused = 1227;
 inline constexpr int kTextTestDataKindUnknown = 1228;
@@ -491,6 +492,10 @@ inline constexpr int kTextFindingColumnLost = 1248;
 inline constexpr int kTextFindingColumnAppears = 1249;
 inline constexpr int kTextFindingPaintingStops = 300;
 inline constexpr int kTextFindingNameWithColon = 334;
+inline constexpr int kTextFindingPastPage = 324;
+inline constexpr int kTextFindingOutsideBodies = 325;
+inline constexpr int kTextFindingMovesSubsection = 326;
+inline constexpr int kTextFindingRewriteDiffers = 327;
 
 // Reasons, behind 762, 1223 and 1224
 inline constexpr int kTextReasonOutOfMemory = 1250;

@@ -88,6 +88,7 @@ class Item {
   void SetColour();
   void SetAlign();
   void SetQr();
+  void NoteNumbers(const NewObject& object);
   void Create(NewObject object);
   NewObject Shape(ObjectKind kind);
 
@@ -203,6 +204,7 @@ void Item::SetSymbology(int symbology) {
 }
 
 void Item::NoteIfAbove(double largest, std::string_view number) {
+  if (number.empty()) return;
   if (std::abs(NumericPrefix(number)) > largest) state_.Note(FindingKind::ValueOutOfRange, number);
 }
 
@@ -292,7 +294,14 @@ NewObject Item::Shape(ObjectKind kind) {
   return object;
 }
 
+void Item::NoteNumbers(const NewObject& object) {
+  NoteIfAbove(kLargest32, object.y);
+  NoteIfAbove(kLargest32, object.height);
+  if (object.kind != ObjectKind::Line) NoteIfAbove(kLargest32, object.widthOrEndX);
+}
+
 void Item::Create(NewObject object) {
+  NoteNumbers(object);
   const ObjectKind kind = object.kind;
   const bool isPageBreak = kind == ObjectKind::Command;
   state_.Add(object);
@@ -357,9 +366,28 @@ void Item::SetQr() {
   attributes().AttrQrX = Part(1);
   attributes().AttrQrSecond = Part(2);
   attributes().AttrQrSize = Part(3);
+  NoteIfAbove(kLargest32, Part(3));
+}
+
+// A word alone may be meant as a word, also where it is one of the keys.
+bool IsCommandBeyondDoubt(std::string_view item, std::string_view key) {
+  return item.find('=') != std::string_view::npos || key.starts_with('\\') || key.starts_with("@@") ||
+         key == "DEF";
 }
 
 }  // namespace
+
+bool LooksLikeCommands(std::string_view block, const CodePage& page) {
+  bool beyondDoubt = false;
+  const Tokens items = SplitTokens(block, ';');
+  for (std::size_t n = 1; n <= items.Count(); ++n) {
+    const std::string key = page.Upper(Trim(NthToken(items[n], 1, '=')));
+    if (key.empty()) continue;
+    if (FindDirective(key) == nullptr && !ChartKeyIndex(key)) return false;
+    beyondDoubt = beyondDoubt || IsCommandBeyondDoubt(items[n], key);
+  }
+  return beyondDoubt;
+}
 
 void ApplyCommands(ReaderState& state, std::string_view block) {
   const Tokens items = SplitTokens(block, ';');

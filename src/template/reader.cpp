@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <unordered_set>
 #include <utility>
 
 #include "base/files.h"
@@ -10,6 +11,7 @@
 #include "base/reasons.h"
 #include "base/text.h"
 #include "template/scanner.h"
+#include "template/skeleton.h"
 
 namespace kev {
 
@@ -36,7 +38,7 @@ static std::size_t TextBytes(const ObjectRecord& record) {
 
 void ReaderState::Note(FindingKind kind, std::string_view text) {
   if (findings.size() < kMostFindings)
-    findings.push_back({line, column, kind, std::string(text.substr(0, 200))});
+    findings.push_back({line, column, kind, std::string(text.substr(0, 200)), cursor.OpenSubsection});
 }
 
 int ReaderState::Add(const NewObject& object) {
@@ -47,18 +49,49 @@ int ReaderState::Add(const NewObject& object) {
   // The end of a subsection asks whether a page break stands directly before it, and forgets it by itself.
   if (!IsBand(object.kind)) cursor.LastCommand.clear();
   const int row = AddObject(context, object);
-  NoteDanglingColumns(document.Objects[row]);
+  if (places.size() <= static_cast<std::size_t>(row)) places.resize(static_cast<std::size_t>(row) + 1);
+  places[static_cast<std::size_t>(row)] = {static_cast<std::uint32_t>(line),
+                                           static_cast<std::uint32_t>(column), cursor.OpenSubsection};
+  NoteDanglingColumns(std::as_const(document).Objects[row], row);
   textBytes += TextBytes(document.Objects[row]);
   if (textBytes > kMostTextBytes) throw std::out_of_range(kReasonTextsTooLarge);
   return row;
 }
 
-void ReaderState::NoteDanglingColumns(const ObjectRecord& record) {
+void ReaderState::NoteDanglingColumns(const ObjectRecord& record, int row) {
   for (const std::string_view position :
        {std::string_view(record.XValue), std::string_view(record.X2Value)}) {
     const std::string_view name = NthToken(position, 1, kBlank);
-    if (name.starts_with('$') && document.Columns.Find(name, *document.Page) == 0)
-      Note(FindingKind::DanglingColumn, name);
+    if (!name.starts_with('$') || document.Columns.Find(name, *document.Page) != 0) continue;
+    const std::size_t before = findings.size();
+    Note(FindingKind::DanglingColumn, name);
+    if (findings.size() > before) findings.back().Row = row;
+  }
+}
+
+static bool IsBefore(const SourcePlace& place, const Finding& finding) {
+  return place.Line != finding.Line ? place.Line < finding.Line : place.Column < finding.Column;
+}
+
+static int RowOfFinding(const Finding& finding, const std::vector<SourcePlace>& places) {
+  const int bar = finding.Row;
+  int row = bar;
+  const auto placeOf = [&](int at) { return places[static_cast<std::size_t>(at)]; };
+  const auto isObject = [&](int at) {
+    return at < static_cast<int>(places.size()) && placeOf(at).Bar == bar;
+  };
+  while (isObject(row + 1) && IsBefore(placeOf(row + 1), finding))
+    ++row;
+  const bool atNext =
+      isObject(row + 1) && placeOf(row + 1).Line == finding.Line && placeOf(row + 1).Column == finding.Column;
+  if (finding.Kind == FindingKind::DisarmedBlock && !atNext) return row;
+  return isObject(row + 1) ? row + 1 : bar;
+}
+
+void AttachRows(std::vector<Finding>& findings, const std::vector<SourcePlace>& places) {
+  for (Finding& finding : findings) {
+    const bool atBar = finding.Row > 0 && places[static_cast<std::size_t>(finding.Row)].Bar == finding.Row;
+    if (atBar && finding.Kind != FindingKind::LostText) finding.Row = RowOfFinding(finding, places);
   }
 }
 
@@ -70,6 +103,16 @@ std::string_view WithoutLeadingTabs(std::string_view line) {
   while (line.starts_with('\t'))
     line.remove_prefix(1);
   return line;
+}
+
+bool IsHeadKey(std::string_view capitals) {
+  static const auto keys = [] {
+    std::unordered_set<std::string> all;
+    for (const SettingRow& row : SettingRows())
+      all.insert(CodePage::Default().Upper(row.key));
+    return all;
+  }();
+  return keys.contains(std::string(capitals));
 }
 
 class TemplateReader {
@@ -84,6 +127,7 @@ class TemplateReader {
  private:
   void ReadHead();
   void CheckHead(const KeyFile& keys);
+  void CheckHeadLine(std::string_view line, const KeyFile& keys, bool inHead);
   void CheckDelimiters(const KeyFile& keys);
   bool ReadPreamble();
   void AddColumn(std::string_view line);
@@ -96,6 +140,8 @@ class TemplateReader {
   void ApplyBlock();
   void Flush();
   void KeepText(char c, std::size_t column);
+  template <typename Work>
+  void AtText(const Work& work);
   void NoteLostText();
   void NoteDisarmedBlocks(std::string_view line, std::string_view prepared);
   std::string_view NextLine();
@@ -129,7 +175,9 @@ ReadOutcome TemplateReader::Read() {
   NoteLostText();
   CloseSubsection();
   if (services_.Progress != nullptr) services_.Progress->End();
-  return {std::move(document_), std::move(state_.attributes), std::move(state_.findings)};
+  AttachRows(state_.findings, state_.places);
+  return {std::move(document_), std::move(state_.attributes), std::move(state_.findings),
+          std::move(state_.places)};
 }
 
 void TemplateReader::ReadHead() {
@@ -154,23 +202,36 @@ void TemplateReader::CheckDelimiters(const KeyFile& keys) {
   }
 }
 
-// Repeated keys, and keys that stand too far down to be seen.
+// What of the head is not seen: keys that stand a second time or too far down, and lines that are neither a
+// key nor a column. Keys are looked for in the first lines of the file, wherever the head ends.
 void TemplateReader::CheckHead(const KeyFile& keys) {
-  const auto isHeadKey = [&](std::string_view key) {
-    return std::any_of(SettingRows().begin(), SettingRows().end(),
-                       [&](const SettingRow& row) { return page_.EqualsIgnoringCase(row.key, key); });
-  };
-  for (const KeyFile::Entry& entry : keys.Entries()) {
-    state_.line = entry.line;
-    if (isHeadKey(entry.key) && keys.Line(entry.key) != entry.line)
-      state_.Note(FindingKind::RepeatedKey, entry.key);
-  }
+  bool inHead = true;
   std::string_view rest = bytes_;
   for (state_.line = 1; !rest.empty(); ++state_.line) {
-    const std::string_view line = Trim(TakeLine(rest));
-    if (page_.EqualsIgnoringCase(line, kHeader)) break;
-    if (state_.line <= KeyFile::kLinesLookedAt || line.find('=') == std::string_view::npos) continue;
-    if (isHeadKey(NthToken(line, 1, '='))) state_.Note(FindingKind::LateKey, line);
+    const std::string_view whole = TakeLine(rest);
+    const std::string_view line = Trim(whole);
+    state_.column = static_cast<std::size_t>(line.data() - whole.data()) + 1;
+    if (page_.EqualsIgnoringCase(Trim(WithoutLeadingTabs(line)), kHeader)) inHead = false;
+    if (!inHead && state_.line > KeyFile::kLinesLookedAt) break;
+    CheckHeadLine(line, keys, inHead);
+  }
+}
+
+void TemplateReader::CheckHeadLine(std::string_view line, const KeyFile& keys, bool inHead) {
+  const std::string_view visible = Trim(WithoutLeadingTabs(line));
+  if (visible.empty() || visible.starts_with('[') || (inHead && visible.starts_with('$'))) return;
+  const std::size_t equals = line.starts_with('#') ? std::string_view::npos : line.find('=');
+  if (equals == std::string_view::npos) {
+    if (inHead && visible != kGeneratedLine) state_.Note(FindingKind::LostText, visible);
+    return;
+  }
+  const std::string key = page_.Upper(line.substr(0, equals));
+  if (!IsHeadKey(key)) {
+    if (inHead) state_.Note(FindingKind::UnknownKey, Trim(line.substr(0, equals)));
+  } else if (state_.line > KeyFile::kLinesLookedAt) {
+    state_.Note(FindingKind::LateKey, line);
+  } else if (keys.Line(key) != state_.line) {
+    state_.Note(FindingKind::RepeatedKey, key);
   }
 }
 
@@ -239,7 +300,7 @@ void TemplateReader::ReadLayoutLine(std::string_view line) {
   const DocumentSettings& settings = document_.Settings;
   const std::string prepared =
       PreprocessLine(line, settings.OpenCharacter(), settings.CloseCharacter(), page_);
-  if (settings.HasOwnDelimiters()) NoteDisarmedBlocks(line, prepared);
+  if (prepared != line) NoteDisarmedBlocks(line, prepared);
   const std::string_view content = WithoutLeadingTabs(prepared);
   const std::string_view trimmed = Trim(content);
   if (!trimmed.starts_with('['))
@@ -297,25 +358,34 @@ void TemplateReader::KeepText(char c, std::size_t column) {
   textColumn_ = column;
 }
 
-// Told where the text began, which may be lines above the place at which it is given up.
-void TemplateReader::NoteLostText() {
-  if (!hasText_ || textIsFlushed_) return;
+// Texts are told where they began, which may be lines above the place at which they end.
+template <typename Work>
+void TemplateReader::AtText(const Work& work) {
   const auto line = std::exchange(state_.line, textLine_);
   const auto column = std::exchange(state_.column, textColumn_);
-  state_.Note(FindingKind::LostText, Trim(textBuffer_));
+  work();
   state_.line = line;
   state_.column = column;
 }
 
+void TemplateReader::NoteLostText() {
+  if (!hasText_ || textIsFlushed_) return;
+  AtText([this] { state_.Note(FindingKind::LostText, Trim(textBuffer_)); });
+}
+
 // Preparing a line puts braces around a block without a position; where the document has its own delimiters,
-// those are no delimiters.
+// those are no delimiters. And it turns a block with text behind it into text, which is meant for braces that
+// are words of a label, and not for commands.
 void TemplateReader::NoteDisarmedBlocks(std::string_view line, std::string_view prepared) {
+  const bool own = document_.Settings.HasOwnDelimiters();
   std::size_t begin = line.size();
   for (std::size_t at = 0; at < line.size(); ++at) {
     if (line[at] == document_.Settings.CloseCharacter() && begin < at) {
-      if (prepared[begin] == '{' && prepared[at] == '}') {
+      const std::string_view block = line.substr(begin + 1, at - begin - 1);
+      const bool rearmed = own && prepared[begin] == '{' && prepared[at] == '}';
+      if (rearmed || (prepared[begin] == '\1' && LooksLikeCommands(block, page_))) {
         state_.column = begin + 1;
-        state_.Note(FindingKind::DisarmedBlock, line.substr(begin + 1, at - begin - 1));
+        state_.Note(FindingKind::DisarmedBlock, block);
       }
       begin = line.size();
     } else if (line[at] == document_.Settings.OpenCharacter()) {
@@ -341,7 +411,7 @@ void TemplateReader::Flush() {
   object.xValue = attributes.AttrX;
   object.link = attributes.AttrLink;
   object.format = attributes.AttrFormat;
-  state_.Add(object);
+  AtText([&] { state_.Add(object); });
   attributes.AttrValueType = "General";
   attributes.AttrLink.clear();
   state_.cursor.SubsectionStarted = true;

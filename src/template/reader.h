@@ -4,6 +4,7 @@
 // creates objects.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,11 +34,19 @@ struct ReadServices {
   ReadProgress* Progress = nullptr;
 };
 
+// Where in its file a row comes from. A band stands in itself.
+struct SourcePlace {
+  std::uint32_t Line = 0;    // counted from 1; 0 for a row that no read has made
+  std::uint32_t Column = 0;  // counted from 1: the block, or where a text begins
+  int Bar = 0;               // the row of the subsection in which it is written; 0 in front of all of them
+};
+
 struct ReadOutcome {
   Document Read;
   // What the insertion tools go on with.
   AttributeState Attributes;
   std::vector<Finding> Findings;
+  std::vector<SourcePlace> Places;  // by row
 };
 
 // The document as it stands after the read alone, without the geometry chain. A read never shows anything

@@ -22,12 +22,21 @@ struct ReaderState {
   std::size_t line = 0;       // of the file, counted from 1
   std::size_t column = 0;     // of the block that is being applied, counted from 1
   std::size_t textBytes = 0;  // in all rows so far
+  std::vector<SourcePlace> places{};
 
+  // Findings name the bar of the subsection; `AttachRows` gives them their object.
   void Note(FindingKind kind, std::string_view text);
   // Creates a row; a row of any kind but a page break ends the memory of one.
   int Add(const NewObject& object);
-  void NoteDanglingColumns(const ObjectRecord& record);
+  void NoteDanglingColumns(const ObjectRecord& record, int row);
 };
+
+// Where a finding belongs to an object: the first that stands at its place or behind it in the same
+// subsection. A block that has become text belongs to the text it stands in.
+void AttachRows(std::vector<Finding>& findings, const std::vector<SourcePlace>& places);
+
+// Whether the text of a block is made of commands and of nothing else.
+bool LooksLikeCommands(std::string_view block, const CodePage& page);
 
 // Applies the text of one command block.
 void ApplyCommands(ReaderState& state, std::string_view block);

@@ -16,8 +16,12 @@ class BarcodeFindingsTest : public test::DesignerTest {
       if (objects[row].Kind == ObjectKind::Barcode) return row;
     return 0;
   }
+  // A page that is wide enough for all of them.
+  static std::string Wide(const std::string& data) {
+    return "PAGEWIDTH=40000\r\nPAGELENGHT=20000\r\nPAPERSIZE=(custom)\r\n" + TemplateWith(data);
+  }
   std::string FarTemplate() const {
-    return Made("far.kev", TemplateWith("{32000;B128B;BarHeight=400}@code{NoBar}\r\n{Spacing=400;\\n}\r\n"));
+    return Made("far.kev", Wide("{32000;B128B;BarHeight=400}@code{NoBar}\r\n{Spacing=400;\\n}\r\n"));
   }
 };
 
@@ -49,8 +53,8 @@ TEST_F(BarcodeFindingsTest, StayBehindASaveAndGoWithTheirCause) {
 }
 
 TEST_F(BarcodeFindingsTest, ComeAndGoWithTheZoom) {
-  const auto designer = Start(
-      {Made("zoom.kev", TemplateWith("{25000;B128B;BarHeight=400}@code{NoBar}\r\n{Spacing=400;\\n}\r\n"))});
+  const auto designer =
+      Start({Made("zoom.kev", Wide("{25000;B128B;BarHeight=400}@code{NoBar}\r\n{Spacing=400;\\n}\r\n"))});
   EXPECT_TRUE(designer->Findings().empty());
   ASSERT_TRUE(designer->SetZoom("800%"));
   EXPECT_EQ(designer->Findings().size(), 1U);

@@ -372,6 +372,23 @@ TEST_F(Saving, TheReportTellsWhyThereIsNoCopyOfTheData) {
   EXPECT_FALSE(designer->WriteDocument(Temp("testreport.kev")).SampleFailure);
 }
 
+TEST_F(Saving, DataThatCantBeCopiedIsTold) {
+  const std::string file = Made("a.kev", "Sample_Kex_file=data.ked\r\n" + TemplateWith(Labels(1)));
+  Made("data.ked", "@a=1\r\n");
+  const auto designer = Start({file});
+  // Where the copy should lie stands a folder.
+  std::filesystem::create_directories(Temp("Sampledata9530.ked/full"));
+  EXPECT_TRUE(designer->Save());
+  ASSERT_EQ(host_.Messages.size(), 1U);
+  EXPECT_EQ(host_.Messages[0].Icon, BoxIcon::Warning);
+  EXPECT_TRUE(host_.Messages[0].Detail.starts_with(Temp("Sampledata9530.ked"))) << host_.Messages[0].Detail;
+  ExpectMessage(*designer, kTextSampleNotCopied);
+  EXPECT_FALSE(designer->Modified());
+  std::filesystem::remove_all(Temp("Sampledata9530.ked"));
+  EXPECT_TRUE(designer->Save());
+  EXPECT_TRUE(host_.Messages.empty());
+}
+
 // The size limit of the process stands for a disk that is full.
 TEST_F(Saving, AFullDiskLeavesTheOldFile) {
   const std::string old = TemplateWith(Labels(2));

@@ -60,6 +60,16 @@ TEST_F(UndoCommands, APushMarksTheDocumentAndWritesTheTableAsItStood) {
   EXPECT_FALSE(CanRedo());
 }
 
+TEST_F(UndoCommands, TheRecoveryFileCarriesTheCommentsThatTheOptionsAskFor) {
+  Edit("A1");
+  EXPECT_EQ(InCache().find("{rem=modulo"), std::string::npos);
+  designer_ = Start({Work("a.kev"), "/!!#/"});
+  Edit("A1");
+  // The first file is still held while the second designer starts.
+  const std::string file = *ReadWholeFile(Temp("Cache/Recovered_090531_a.kev"));
+  EXPECT_NE(file.find("{rem=modulo"), std::string::npos) << file;
+}
+
 TEST_F(UndoCommands, AFreshDocumentIsProtectedUnderItsName) {
   designer_->NewTemplate();
   Surface().PushUndo();

@@ -654,6 +654,56 @@ TEST_F(KavEdit01Test, FindingsAreListedWithTheirLines) {
   EXPECT_FALSE(Find<QAction>("viewfindings").isChecked());
 }
 
+// A page that is longer than the window, with something wrong at its top, at its end and in its head.
+constexpr const char* kOddTemplate =
+    "Nonsense=1\r\n[HEADER]\r\n{Other=1;}First{\\n}\r\n[DATA]\r\n{Spacing=12000;\\n}\r\n"
+    "{$Gone;}Last{\\n}\r\n[FOOTER]\r\n";
+
+TEST_F(KavEdit01Test, AFindingLeadsToItsObject) {
+  const std::string path = home.Path("work/odd.kev");
+  std::ofstream(path) << kOddTemplate;
+  Start({path});
+  Find<QToolButton>("findingsbutton").click();
+  auto& list = Find<QTreeWidget>("findingslist");
+  ASSERT_EQ(list.topLevelItemCount(), 3);
+  EXPECT_TRUE(list.topLevelItem(0)->text(0).endsWith(QStringLiteral(" 1:1")));
+  EXPECT_TRUE(list.topLevelItem(2)->text(0).endsWith(QStringLiteral(" 6:8")));
+  const ObjectTable& objects = designer->OpenDocument().Objects;
+  const auto click = [&](int n) {
+    const QRect item = list.visualItemRect(list.topLevelItem(n));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, item.center());
+  };
+  auto& scroll = Find<QScrollBar>("vscrollbar");
+  EXPECT_EQ(scroll.value(), 0);
+  click(2);
+  EXPECT_EQ(objects[objects.CurrentObject].Content, "Last");
+  const int below = scroll.value();
+  EXPECT_GT(below, 0);
+  // What belongs to no object leaves the selection as it is.
+  click(0);
+  EXPECT_EQ(objects[objects.CurrentObject].Content, "Last");
+  list.setFocus();
+  QTest::keyClick(&list, Qt::Key_Down);
+  QTest::keyClick(&list, Qt::Key_Return);
+  EXPECT_EQ(objects[objects.CurrentObject].Content, "First");
+  EXPECT_LT(scroll.value(), below);
+}
+
+TEST_F(KavEdit01Test, TheListOfFindingsFollowsTheDocument) {
+  const std::string path = home.Path("work/odd.kev");
+  std::ofstream(path) << kOddTemplate;
+  Start({path});
+  auto& list = Find<QTreeWidget>("findingslist");
+  EXPECT_EQ(list.topLevelItemCount(), 3);
+  EXPECT_TRUE(designer->Save());
+  // The file has lost its unknown keys; the column is still unknown.
+  ASSERT_EQ(list.topLevelItemCount(), 1);
+  EXPECT_EQ(list.topLevelItem(0)->text(2), QStringLiteral("$Gone"));
+  designer->NewTemplate();
+  EXPECT_EQ(list.topLevelItemCount(), 0);
+  EXPECT_FALSE(Find<QToolButton>("findingsbutton").isVisible());
+}
+
 TEST_F(KavEdit01Test, AFileThatIsNoTemplateIsRefusedAndTheOpenOneStays) {
   Start({home.CopyOf("letter.kev")});
   const std::string path = home.Path("work/no.kev");

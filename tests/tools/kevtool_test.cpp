@@ -89,7 +89,10 @@ TEST_F(Kevtool, ExplainsEachCommand) {
          "\n"
          "Positionals:\n"
          "  FILE TEXT ... REQUIRED      Templates\n" +
-             help + "\n",
+             help +
+             "  --json                      A JSON object on a line of its own for each template\n"
+             "  --strict                    Fail too where a rewrite would change a byte\n"
+             "\n",
          "");
   Expect({"dump", "--help"}, 0,
          "Print a template as JSON\n"
@@ -134,9 +137,9 @@ TEST_F(Kevtool, NamesWhatIsWrongWithLineAndColumn) {
              "KEXVER=4\r\nkexver=3\r\n[HEADER]\r\n  {DEF} {Nonsense=1;5}A\xE9{}\r\n{$Gone}B{}\r\n{5}lost");
   Expect({"check", "bad.kev"}, 1,
          "bad.kev: 10013\n"
-         "bad.kev:2:0: key is repeated: KEXVER\n"
+         "bad.kev:2:1: key is repeated: KEXVER\n"
          "bad.kev:4:9: unknown key: Nonsense\n"
-         "bad.kev:5:9: unknown column: $Gone\n"
+         "bad.kev:5:8: unknown column: $Gone\n"
          "bad.kev:6:4: text is lost: lost\n",
          "");
 }

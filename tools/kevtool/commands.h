@@ -16,7 +16,12 @@ inline constexpr int kGood = 0;
 inline constexpr int kRefused = 1;
 inline constexpr int kWrongUsage = 2;
 
-int Check(const std::vector<std::string>& files);
+struct CheckChoice {
+  std::vector<std::string> files;
+  bool json = false;    // an object on a line for each file
+  bool strict = false;  // a rewrite that would change a byte is a finding
+};
+int Check(const CheckChoice& choice);
 int Dump(const std::string& file, bool geometry);
 int Rewrite(const std::string& in, const std::string& out, bool comments);
 int Eval(const std::string& file, const std::string& expression);
@@ -36,8 +41,9 @@ struct BarcodeChoice {
 int Barcode(const BarcodeChoice& choice);
 
 struct RenderChoice {
-  std::string in;
-  std::string out;
+  std::vector<std::string> files;  // a template and its picture; templates alone where there is a folder
+  std::string outFolder;           // for `format` of each template under its own name; empty for none
+  std::string format = "png";
   double zoom = 100;  // percent
   double scale = 1;   // device ratio
   std::string filter = "all";
@@ -45,9 +51,20 @@ struct RenderChoice {
 };
 int Render(const RenderChoice& choice);
 
+struct DiffChoice {
+  std::string first;
+  std::string second;
+  bool json = false;
+  std::string image;  // empty for none
+};
+// kRefused where the templates differ too.
+int Diff(const DiffChoice& choice);
+
 struct Opened {
   std::string Check;                   // the five characters; empty for a file that cannot be read
   std::optional<ReadOutcome> Outcome;  // nothing when the file is refused; the reason is on standard error
+  std::string Refused;                 // the same reason
+  std::string Bytes;                   // of the plain form
 };
 // Reads a template as the designer opens one: what it refuses is refused here too.
 Opened Open(const std::string& file);

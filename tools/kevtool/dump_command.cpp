@@ -90,11 +90,11 @@ Json Objects(const Document& document) {
 }  // namespace
 
 int Dump(const std::string& file, bool geometry) {
-  auto [check, outcome] = Open(file);
-  if (!outcome) return kRefused;
-  Document& document = outcome->Read;
+  Opened opened = Open(file);
+  if (!opened.Outcome) return kRefused;
+  Document& document = opened.Outcome->Read;
   if (geometry) DeriveGeometry(document);
-  const Json dump = {{"check", check},
+  const Json dump = {{"check", opened.Check},
                      {"settings", Settings(document)},
                      {"columns", Columns(document)},
                      {"objects", Objects(document)}};

@@ -19,9 +19,11 @@ struct Invocation {
 
 void AddCheck(CLI::App& app, Invocation& invocation) {
   auto* command = app.add_subcommand("check", "Check templates: structure, and what a save would lose");
-  auto files = std::make_shared<std::vector<std::string>>();
-  command->add_option("FILE", *files, "Templates")->required();
-  command->callback([&invocation, files] { invocation.run = [files] { return Check(*files); }; });
+  auto choice = std::make_shared<CheckChoice>();
+  command->add_option("FILE", choice->files, "Templates")->required();
+  command->add_flag("--json", choice->json, "A JSON object on a line of its own for each template");
+  command->add_flag("--strict", choice->strict, "Fail too where a rewrite would change a byte");
+  command->callback([&invocation, choice] { invocation.run = [choice] { return Check(*choice); }; });
 }
 
 void AddDump(CLI::App& app, Invocation& invocation) {
@@ -109,18 +111,46 @@ void AddBarcode(CLI::App& app, Invocation& invocation) {
 }
 
 #ifdef KEV_WITH_QT
+// The ending tells the form of a picture, here as in render.
+std::string PngName(const std::string& name) {
+  return name.size() > 4 && name.ends_with(".png") ? std::string() : "the name must end in .png";
+}
+#endif
+
+void AddDiff(CLI::App& app, Invocation& invocation) {
+  auto* command = app.add_subcommand("diff", "Compare two templates: objects, settings and columns");
+  auto choice = std::make_shared<DiffChoice>();
+  command->add_option("FIRST", choice->first, "Template")->required();
+  command->add_option("SECOND", choice->second, "Template to compare it with")->required();
+  command->add_flag("--json", choice->json, "As JSON");
+#ifdef KEV_WITH_QT
+  command
+      ->add_option("--image", choice->image, "Paint both pages with the differences framed, to a .png file")
+      ->check(PngName);
+#endif
+  command->callback([&invocation, choice] { invocation.run = [choice] { return Diff(*choice); }; });
+}
+
+#ifdef KEV_WITH_QT
 void AddRender(CLI::App& app, Invocation& invocation) {
   auto* command = app.add_subcommand("render", "Paint the page as the designer does, to PNG, PDF or SVG");
   auto choice = std::make_shared<RenderChoice>();
-  command->add_option("FILE", choice->in, "Template")->required();
-  command->add_option("OUT", choice->out, "Picture: .png, .pdf or .svg")->required();
+  command->add_option("FILE", choice->files, "Template and its picture (.png, .pdf or .svg), or templates")
+      ->required();
+  command->add_option("--out-dir", choice->outFolder, "Folder for a picture of each template");
+  command->add_option("--format", choice->format, "Pictures in that folder")
+      ->check(CLI::IsMember({"png", "pdf", "svg"}));
   command->add_option("--zoom", choice->zoom, "Zoom in percent")->check(CLI::Range(10.0, 800.0));
   command->add_option("--scale", choice->scale, "Device pixels for each logical pixel")
       ->check(CLI::Range(0.1, 16.0));
   command->add_option("--filter", choice->filter, "Which objects")
       ->check(CLI::IsMember({"all", "ebeu", "print"}));
   command->add_flag("--grid", choice->grid, "Draw the grid");
-  command->callback([&invocation, choice] { invocation.run = [choice] { return Render(*choice); }; });
+  command->callback([&invocation, choice] {
+    if (choice->outFolder.empty() && choice->files.size() != 2)
+      throw CLI::ValidationError("FILE", "needs a template and its picture, or templates with --out-dir");
+    invocation.run = [choice] { return Render(*choice); };
+  });
 }
 #endif
 
@@ -142,6 +172,7 @@ int main(int argc, char** argv) {
   AddSample(app, invocation);
   AddNew(app, invocation);
   AddBarcode(app, invocation);
+  AddDiff(app, invocation);
 #ifdef KEV_WITH_QT
   AddRender(app, invocation);
 #endif

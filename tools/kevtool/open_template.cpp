@@ -27,20 +27,25 @@ std::string_view RefusalReason(Refusal refusal) {
 }  // namespace
 
 Opened Open(const std::string& file) {
-  const auto refuse = [&file](std::string_view reason) { std::cerr << file << ": " << reason << '\n'; };
-  const Result<std::string> bytes = ReadPlainTemplate(file);
+  Opened opened;
+  const auto refuse = [&](std::string_view reason) {
+    std::cerr << file << ": " << reason << '\n';
+    opened.Refused = reason;
+  };
+  Result<std::string> bytes = ReadPlainTemplate(file);
   if (!bytes) {
     refuse(bytes.Error().reason);
-    return {};
+    return opened;
   }
-  Opened opened{CheckTemplateBytes(*bytes), std::nullopt};
+  opened.Bytes = std::move(*bytes);
+  opened.Check = CheckTemplateBytes(opened.Bytes);
   if (const Refusal refusal = RefusalOf(opened.Check); refusal != Refusal::None) {
     refuse(RefusalReason(refusal));
     return opened;
   }
   const BuiltInMeasurer measurer;
   LocalPictures pictures(FolderOf(AbsolutePath(file)));
-  Result<ReadOutcome> outcome = ReadTemplateBytes(*bytes, {measurer, pictures});
+  Result<ReadOutcome> outcome = ReadTemplateBytes(opened.Bytes, {measurer, pictures});
   if (outcome) {
     opened.Outcome = std::move(*outcome);
   } else {

@@ -22,24 +22,6 @@ WriteReport WritePacked(const std::string& path, Document& document, const Write
 
 }  // namespace
 
-int Check(const std::vector<std::string>& files) {
-  int status = kGood;
-  for (const std::string& file : files) {
-    const auto [check, outcome] = Open(file);
-    if (!check.empty()) std::cout << file << ": " << check << '\n';
-    if (!outcome) {
-      status = kRefused;
-      continue;
-    }
-    for (const Finding& finding : outcome->Findings) {
-      std::cout << file << ':' << finding.Line << ':' << finding.Column << ": " << FindingText(finding.Kind)
-                << ": " << outcome->Read.Page->ToUtf8(finding.Text) << '\n';
-      status = kRefused;
-    }
-  }
-  return status;
-}
-
 int Rewrite(const std::string& in, const std::string& out, bool comments) {
   std::optional<ReadOutcome> outcome = Open(in).Outcome;
   if (!outcome) return kRefused;

@@ -18,7 +18,9 @@ enum FindingColumn { kPlace, kKind, kText, kColumns };
 
 QString PlaceOf(const Finding& finding, const QString& lineWord) {
   if (finding.Line == 0) return QString();
-  return lineWord + QLatin1Char(' ') + QString::number(finding.Line);
+  QString place = lineWord + QLatin1Char(' ') + QString::number(finding.Line);
+  if (finding.Column != 0) place += QLatin1Char(':') + QString::number(finding.Column);
+  return place;
 }
 
 // Control characters of a quoted text would break the line of the list.
