@@ -29,6 +29,9 @@ struct ReaderState {
   void NoteDanglingColumns(const ObjectRecord& record);
 };
 
+// Prepares a line into a text that is used again for each.
+void PreprocessLine(std::string& result, std::string_view line, char open, char close, const CodePage& page);
+
 // Applies the text of one command block.
 void ApplyCommands(ReaderState& state, std::string_view block);
 
