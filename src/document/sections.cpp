@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <iterator>
 #include <set>
+#include <stdexcept>
 
 #include "base/numbers.h"
+#include "base/reasons.h"
 #include "document/band_layout.h"
 #include "document/kind_defaults.h"
 
@@ -99,13 +101,19 @@ BandLayout PresentLayout(const Document& document) {
   return layout;
 }
 
+// A bar whose end lies outside the table fails like anything else that reaches there.
+std::int32_t& PlaceOfEnd(BandLayout& layout, int row) {
+  if (row < 0 || row > ObjectTable::kLastRow) throw std::out_of_range(kReasonTooManyObjects);
+  return layout.AbsoluteY[At(row)];
+}
+
 void LayOutBars(BandLayout& layout, const Document& document, const SortedRows& sorted) {
   std::int64_t running = 0;
   for (const int row : sorted.Rows) {
     const ObjectRecord& bar = document.Objects[row];
     if (bar.Kind != ObjectKind::Section && bar.Kind != ObjectKind::Subsection) continue;
     layout.AbsoluteY[At(row)] = Fit32(running);
-    if (bar.EndRow != 0) layout.AbsoluteY.at(At(bar.EndRow)) = Fit32(running + kBarHeight + bar.EndsAt);
+    if (bar.EndRow != 0) PlaceOfEnd(layout, bar.EndRow) = Fit32(running + kBarHeight + bar.EndsAt);
     running += std::int64_t{kBarHeight} + bar.EndsAt + kBandGap;
   }
 }
