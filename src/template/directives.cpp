@@ -66,7 +66,8 @@ class Item {
     name_ = Trim(text.substr(0, equals));
     key_ = state.document.Page->Upper(name_);
     if (equals != std::string_view::npos) value_ = text.substr(equals + 1);
-    if (value_.find_first_of("\1\2") != std::string_view::npos) RestoreDelimiters();
+    if (value_.find('\1') != std::string_view::npos || value_.find('\2') != std::string_view::npos)
+      RestoreDelimiters();
   }
   // The value may lie in the item itself.
   Item(const Item&) = delete;

@@ -59,6 +59,7 @@ void PreprocessLine(std::string& result, std::string_view line, char open, char 
   constexpr std::size_t kNone = std::string_view::npos;
   std::size_t begin = kNone;
   for (std::size_t at = 0; at < line.size(); ++at) {
+    if (line[at] != open && line[at] != close) continue;
     if (line[at] == close && begin != kNone) {
       if (before) Disarm(result, line, *before, begin);
       before = {begin, at, HasPosition(line.substr(begin + 1, at - begin - 1), page)};
