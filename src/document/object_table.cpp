@@ -58,12 +58,6 @@ void ObjectTable::ClearRow(int row) {
   RowChanged(row);
 }
 
-void ObjectTable::Reset() {
-  for (int row = 1; row <= LastScanned(); ++row)
-    Blank((*this)[row]);
-  firstMaybeFree_ = 1;
-}
-
 void ObjectTable::Restart() {
   std::for_each(rows_.begin(), rows_.end(), Blank);
   ObjectCount = kFirstCount;
