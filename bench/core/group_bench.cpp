@@ -10,21 +10,9 @@
 #include "surface/group_commands.h"
 #include "surface/null_surface.h"
 #include "surface/selection.h"
-#include "surface/undo.h"
 
 namespace kev::bench {
 namespace {
-
-class WithLevels final : public LayoutOnly {
- public:
-  using LayoutOnly::LayoutOnly;
-  void PushUndo() override { levels_.Push(document_); }
-  // The message behind a command.
-  BoxAnswer ShowBox(int, BoxIcon, BoxButtons) override { return BoxAnswer::Ok; }
-
- private:
-  UndoStore levels_;
-};
 
 // A document whose objects are all selected.
 struct GroupedPage {
@@ -45,7 +33,7 @@ struct GroupedPage {
   PointerState pointer;
   NullSurface surface;
   BuiltInMeasurer measurer;
-  WithLevels services{document};
+  LayoutAndLevels services{document};
 };
 
 std::int32_t FirstBodyOf(const Document& document) {

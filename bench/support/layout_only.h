@@ -9,6 +9,7 @@
 
 #include "document/sections.h"
 #include "surface/page_work.h"
+#include "surface/undo.h"
 
 namespace kev::bench {
 
@@ -39,6 +40,20 @@ class LayoutOnly : public PageServices {
 
  private:
   std::string text_;
+};
+
+// Keeps the levels of undo as well.
+class LayoutAndLevels final : public LayoutOnly {
+ public:
+  using LayoutOnly::LayoutOnly;
+  void PushUndo() override { levels_.Push(document_); }
+  // The message behind a command.
+  BoxAnswer ShowBox(int, BoxIcon, BoxButtons) override { return BoxAnswer::Ok; }
+
+  UndoStore& Levels() { return levels_; }
+
+ private:
+  UndoStore levels_;
 };
 
 }  // namespace kev::bench

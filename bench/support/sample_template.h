@@ -12,7 +12,7 @@
 namespace kev::bench {
 
 // The sizes that are measured; the last is a full table.
-inline constexpr int kSizes[] = {100, 500, 2001};
+inline constexpr int kSizes[] = {250, 500, 2001};
 
 // A template that takes exactly `rows` rows of the table, bars and end bars included. The number of
 // subsections grows with the rows. The same rows always give the same bytes.

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/image_size.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 #include <utility>
 
 #include "base/files.h"
@@ -141,7 +144,11 @@ std::optional<TextExtent> ImageSize(std::string_view head) {
 
 std::optional<TextExtent> ImageSizeOfFile(const std::string& path) {
   if (!FileExists(path)) return std::nullopt;
-  std::string head(kHeadLength, '\0');
+  std::error_code failed;
+  const std::uintmax_t size = std::filesystem::file_size(path, failed);
+  if (failed) return std::nullopt;
+  // Most pictures are far smaller, and a page asks for each of its own.
+  std::string head(std::min<std::uintmax_t>(size, kHeadLength), '\0');
   std::ifstream stream(path, std::ios::binary);
   stream.read(head.data(), static_cast<std::streamsize>(head.size()));
   head.resize(static_cast<std::size_t>(stream.gcount()));

@@ -13,7 +13,7 @@
 #include "base/code_page.h"
 #include "base/files.h"
 #include "base/reasons.h"
-#include "template/writer.h"
+#include "template/snapshot_text.h"
 
 namespace kev {
 namespace {
@@ -48,12 +48,10 @@ std::string Shortened(std::string name, std::size_t most) {
   return name.substr(0, length) + ending;
 }
 
-// Writing lays a document out; the open one must not see that.
 Result<std::string> TextFor(const Document& document, const WriteOptions& options) {
   try {
-    Document copy = document;
     WriteReport report;
-    return TemplateText(copy, options, report);
+    return SnapshotText(document, options, report);
   } catch (const std::bad_alloc&) {
     return FileFailure{{}, kReasonOutOfMemory};
   } catch (const std::exception& failure) {

@@ -140,6 +140,7 @@ bool CodePage::EqualsIgnoringCase(std::string_view a, std::string_view b) const 
 }
 
 bool CodePage::ContainsIgnoringCase(std::string_view text, std::string_view part) const {
+  if (part.size() > text.size()) return false;
   return std::search(text.begin(), text.end(), part.begin(), part.end(),
                      [this](char x, char y) { return Upper(x) == Upper(y); }) != text.end() ||
          part.empty();

@@ -4,12 +4,36 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace kev {
 namespace {
 
+// Up to here each whole number is itself as a double, and its digits are its shortest text.
+constexpr double kLargestExact = 1e15;
+
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
+}
+
+// Most numbers of a template are a few digits and no more. They are worth a way of their own: a page holds
+// thousands, and each layout reads them again.
+std::optional<int> PlainWhole(std::string_view text) {
+  constexpr std::size_t kMostDigits = 9;
+  const bool isNegative = text.starts_with('-');
+  const std::string_view digits = text.substr(isNegative ? 1 : 0);
+  if (digits.empty() || digits.size() > kMostDigits) return std::nullopt;
+  int value = 0;
+  for (const char c : digits) {
+    if (!IsDigit(c)) return std::nullopt;
+    value = value * 10 + (c - '0');
+  }
+  return isNegative ? -value : value;
+}
+
+// A position that names its column has no number in front.
+bool BeginsNoNumber(char first) {
+  return !IsDigit(first) && std::string_view("+-. ").find(first) == std::string_view::npos;
 }
 
 // Collects the characters of the number, so that from_chars sees neither blanks nor a leading plus.
@@ -61,6 +85,8 @@ class NumberScanner {
 }  // namespace
 
 double NumericPrefix(std::string_view text) {
+  if (text.empty() || BeginsNoNumber(text.front())) return 0;
+  if (const std::optional<int> whole = PlainWhole(text)) return *whole;
   const std::string number = NumberScanner(text).Scan();
   double value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
@@ -70,6 +96,8 @@ double NumericPrefix(std::string_view text) {
 
 std::string FormatNumber(double value) {
   if (!std::isfinite(value) || value == 0) return "0";
+  if (std::abs(value) < kLargestExact && value == std::trunc(value))
+    return std::to_string(static_cast<std::int64_t>(value));
   char buffer[512];
   const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed);
   return result.ec == std::errc() ? std::string(buffer, result.ptr) : std::string("0");

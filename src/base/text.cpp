@@ -2,9 +2,8 @@
 #include "base/text.h"
 
 #include <algorithm>
-#include <stdexcept>
 
-#include "base/reasons.h"
+#include "base/take_token.h"
 
 namespace kev {
 
@@ -29,9 +28,7 @@ std::string_view NthToken(std::string_view text, std::size_t n, char separator) 
 }
 
 Tokens::Tokens(std::string_view text, char separator) {
-  const auto separators = static_cast<std::size_t>(std::count(text.begin(), text.end(), separator));
-  if (separators >= kMost) throw std::out_of_range(kReasonTooManyParts);
-  parts_.reserve(separators + 1);
+  CheckTokenCount(text, separator);
   for (;;) {
     const std::size_t end = text.find(separator);
     parts_.push_back(text.substr(0, end));

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "chart/definition.h"
 
-#include <algorithm>
+#include <initializer_list>
 #include <unordered_map>
+#include <utility>
 
 #include "base/code_page.h"
 
@@ -94,47 +95,73 @@ std::unordered_map<std::string, std::size_t> MakeIndex() {
   return index;
 }
 
-// The keys that share a line of a template, by their places among the slots.
-class BlockBuilder {
- public:
-  explicit BlockBuilder(const ObjectRecord& record) : record_(record) {}
+// The places of the keys that share a line of a template.
+using Line = std::vector<std::size_t>;
 
-  void Line(std::initializer_list<std::string_view> keys) {
-    std::string block;
-    for (const std::string_view key : keys)
-      Add(block, std::string(key));
-    blocks_.push_back(std::move(block));
-  }
-  void Series(int n) {
-    const std::string stem = "Graph_serie_" + std::to_string(n) + "_";
-    Line({stem + "type", stem + "color"});
-    Line({stem + "name"});
-    Line({stem + "values"});
-    Line({stem + "ShowValues"});
-  }
-  void PieColours(int first) {
-    std::string block;
-    for (int n = first; n < first + 5; ++n)
-      Add(block, "Graph_Pie_Color_" + std::to_string(n));
-    blocks_.push_back(std::move(block));
-  }
-  void Text(std::string block) { blocks_.push_back(std::move(block)); }
+std::size_t PlaceOf(std::string_view key) {
+  return *ChartKeyIndex(CodePage::Default().Upper(key));
+}
 
-  std::string Value(std::string_view key) const {
-    const std::size_t at = *ChartKeyIndex(CodePage::Default().Upper(key));
-    return at < record_.ChartValues.size() ? record_.ChartValues[at] : std::string();
-  }
-  std::vector<std::string> Take() { return std::move(blocks_); }
+Line LineOf(std::initializer_list<std::string_view> keys) {
+  Line line;
+  for (const std::string_view key : keys)
+    line.push_back(PlaceOf(key));
+  return line;
+}
 
- private:
-  void Add(std::string& block, const std::string& key) const {
+void AddSeries(std::vector<Line>& lines, int n) {
+  const std::string stem = "Graph_serie_" + std::to_string(n) + "_";
+  lines.push_back(LineOf({stem + "type", stem + "color"}));
+  for (const char* suffix : {"name", "values", "ShowValues"})
+    lines.push_back(LineOf({stem + suffix}));
+}
+
+void AddPieColours(std::vector<Line>& lines, int first) {
+  Line line;
+  for (int n = first; n < first + 5; ++n)
+    line.push_back(PlaceOf("Graph_Pie_Color_" + std::to_string(n)));
+  lines.push_back(std::move(line));
+}
+
+// All but the size and the titles of the series.
+std::vector<Line> MakeLines() {
+  std::vector<Line> lines = {
+      LineOf({"Graph_Type"}),
+      LineOf({"Graph_Title"}),
+      LineOf({"Graph_Title_Font"}),
+      LineOf({"Graph_Title_FontSize"}),
+      LineOf({"Graph_Title_FontColor"}),
+      LineOf({"Graph_Title_FontBold", "Graph_Title_FontUnderline", "Graph_Title_FontItalic"}),
+      LineOf({"Graph_AxisStyle", "Graph_AxisColor_1", "Graph_AxisColor_2"}),
+      LineOf({"Graph_ShowValuesFont"}),
+      LineOf({"Graph_ShowValuesFontSize"}),
+      LineOf({"Graph_ShowValuesFontColor"}),
+      LineOf({"Graph_series"}),
+      LineOf({"Graph_Layout_Font", "Graph_Layout_FontSize", "Graph_Layout_FontColor"}),
+      LineOf({"Graph_Layout_Values"}),
+      LineOf({"Graph_ShowAxis"}),
+      LineOf({"Graph_ShowAxisBackGround"}),
+      LineOf({"Graph_BackGround"}),
+  };
+  for (int n = 1; n <= kChartSeriesCount; ++n)
+    AddSeries(lines, n);
+  for (int first = 1; first <= kChartPieColourCount; first += 5)
+    AddPieColours(lines, first);
+  return lines;
+}
+
+std::string_view ValueAt(const ObjectRecord& record, std::size_t place) {
+  return place < record.ChartValues.size() ? std::string_view(record.ChartValues[place]) : std::string_view{};
+}
+
+std::string BlockOf(const ObjectRecord& record, const Line& line) {
+  std::string block;
+  for (const std::size_t place : line) {
     if (!block.empty()) block += ';';
-    block += key + "=" + Value(key);
+    block.append(ChartKeys()[place].key).append("=").append(ValueAt(record, place));
   }
-
-  const ObjectRecord& record_;
-  std::vector<std::string> blocks_;
-};
+  return block;
+}
 
 static_assert(kKeysBeforePie.size() == kPieStart);
 static_assert(kPieStart + kPieColours.size() == kSeriesStart);
@@ -180,33 +207,18 @@ bool ChartDefinition::ReadChartKey(std::string_view capitals, std::string_view v
 }
 
 std::vector<std::string> ChartBlocks(const ObjectRecord& record) {
-  BlockBuilder builder(record);
-  builder.Text("Graph_Height=" + std::to_string(record.Height) +
-               ";Graph_Width=" + std::to_string(record.Width));
-  builder.Line({"Graph_Type"});
-  builder.Line({"Graph_Title"});
-  builder.Line({"Graph_Title_Font"});
-  builder.Line({"Graph_Title_FontSize"});
-  builder.Line({"Graph_Title_FontColor"});
-  builder.Line({"Graph_Title_FontBold", "Graph_Title_FontUnderline", "Graph_Title_FontItalic"});
-  builder.Line({"Graph_AxisStyle", "Graph_AxisColor_1", "Graph_AxisColor_2"});
-  builder.Line({"Graph_ShowValuesFont"});
-  builder.Line({"Graph_ShowValuesFontSize"});
-  builder.Line({"Graph_ShowValuesFontColor"});
-  builder.Line({"Graph_series"});
-  builder.Line({"Graph_Layout_Font", "Graph_Layout_FontSize", "Graph_Layout_FontColor"});
-  builder.Line({"Graph_Layout_Values"});
-  builder.Line({"Graph_ShowAxis"});
-  builder.Line({"Graph_ShowAxisBackGround"});
-  builder.Line(
-      {builder.Value("Graph_BackGround_picture").empty() ? "Graph_BackGround" : "Graph_BackGround_picture"});
-  for (int n = 1; n <= kChartSeriesCount; ++n)
-    builder.Series(n);
-  for (int first = 1; first <= kChartPieColourCount; first += 5)
-    builder.PieColours(first);
-  const bool titles = builder.Value("Graph_ShowSeriesTitles") == "Y";
-  builder.Text(titles ? "Graph_ShowSeriesTitles=Y" : "Graph_ShowSeriesTitles=N");
-  return builder.Take();
+  static const std::vector<Line> lines = MakeLines();
+  static const Line gradient = LineOf({"Graph_BackGround"});
+  static const Line picture = LineOf({"Graph_BackGround_picture"});
+  static const std::size_t titles = PlaceOf("Graph_ShowSeriesTitles");
+  std::vector<std::string> blocks = {"Graph_Height=" + std::to_string(record.Height) +
+                                     ";Graph_Width=" + std::to_string(record.Width)};
+  const bool hasPicture = !ValueAt(record, picture.front()).empty();
+  for (const Line& line : lines)
+    blocks.push_back(BlockOf(record, hasPicture && line == gradient ? picture : line));
+  blocks.emplace_back(ValueAt(record, titles) == "Y" ? "Graph_ShowSeriesTitles=Y"
+                                                     : "Graph_ShowSeriesTitles=N");
+  return blocks;
 }
 
 }  // namespace kev

@@ -5,8 +5,12 @@ namespace kev {
 
 int ColumnTable::Find(std::string_view name, const CodePage& page) const {
   if (name.empty()) return 0;
+  // Most names differ in their last digit alone.
+  const char last = page.Upper(name.back());
   for (int slot = 1; slot <= kLastSlot; ++slot) {
-    if (page.EqualsIgnoringCase((*this)[slot].Name, name)) return slot;
+    const std::string& own = (*this)[slot].Name;
+    if (own.size() == name.size() && page.Upper(own.back()) == last && page.EqualsIgnoringCase(own, name))
+      return slot;
   }
   return 0;
 }

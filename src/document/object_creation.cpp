@@ -88,7 +88,7 @@ void RowFiller::Fill() {
 
 void RowFiller::Common() {
   const KindDefaults& defaults = DefaultsOf(object_.kind);
-  record_ = ObjectRecord{};
+  context_.document.Objects.ClearRow(row_);
   record_.Kind = object_.kind;
   record_.Handles = defaults.handles;
   record_.MayMoveVertically = defaults.mayMoveVertically;

@@ -37,13 +37,14 @@ std::size_t TokenCount(std::string_view text) {
   return count;
 }
 
-std::optional<double> EvaluateStep(const Tokens& tokens, const ColumnTable& columns, const CodePage& page) {
-  double left = NumericPrefix(tokens[1]);
-  if (tokens[1].starts_with('$')) {
-    const int slot = columns.Find(tokens[1], page);
+std::optional<double> EvaluateStep(std::string_view text, const ColumnTable& columns, const CodePage& page) {
+  const std::string_view from = NthToken(text, 1, kBlank);
+  double left = NumericPrefix(from);
+  if (from.starts_with('$')) {
+    const int slot = columns.Find(from, page);
     left = slot == 0 ? 0.0 : columns[slot].Position;
   }
-  return Apply(left, tokens[2], NumericPrefix(tokens[3]));
+  return Apply(left, NthToken(text, 2, kBlank), NumericPrefix(NthToken(text, 3, kBlank)));
 }
 
 }  // namespace
@@ -57,7 +58,7 @@ std::optional<double> EvaluatePosition(std::string_view text, const ColumnTable&
     const int slot = columns.Find(text, page);
     return slot == 0 ? std::nullopt : std::optional(columns[slot].Position);
   }
-  return count == 3 ? EvaluateStep(SplitTokens(text, kBlank), columns, page) : std::nullopt;
+  return count == 3 ? EvaluateStep(text, columns, page) : std::nullopt;
 }
 
 bool ValidatePosition(std::string_view text, const ColumnTable& columns, const CodePage& page) {

@@ -2,84 +2,118 @@
 #include "document/sections.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
+#include <stdexcept>
 
 #include "base/numbers.h"
+#include "base/reasons.h"
+#include "document/band_layout.h"
 #include "document/kind_defaults.h"
 
 namespace kev {
 namespace {
 
-struct Body {
-  std::int64_t top;
-  std::int64_t bottom;
-  int row;
-};
-
 std::int64_t BodyTop(const ObjectRecord& bar) {
   return std::int64_t{bar.AbsoluteY} + kBarHeight;
 }
 
-bool BodyHolds(const ObjectRecord& bar, std::int32_t y) {
-  return y >= BodyTop(bar) && y <= BodyTop(bar) + bar.EndsAt;
-}
-
-// Bodies and the places asked for are both walked from top to bottom, so that each body is opened and closed
-// once.
-class BodySweep {
+// Which body holds a place, for every place at once: stretches from top to bottom in which the answer is the
+// same.
+class BodyIndex {
  public:
-  explicit BodySweep(std::vector<Body> bodies) : byTop_(std::move(bodies)), byBottom_(byTop_) {
-    std::sort(byTop_.begin(), byTop_.end(), [](const Body& a, const Body& b) { return a.top < b.top; });
-    std::sort(byBottom_.begin(), byBottom_.end(),
-              [](const Body& a, const Body& b) { return a.bottom < b.bottom; });
+  explicit BodyIndex(const Document& document) {
+    const std::vector<Edge> edges = EdgesOf(document);
+    std::set<int> open;
+    for (std::size_t at = 0; at < edges.size();) {
+      const std::int64_t y = edges[at].y;
+      for (; at < edges.size() && edges[at].y == y; ++at) {
+        if (edges[at].opens)
+          open.insert(edges[at].row);
+        else
+          open.erase(edges[at].row);
+      }
+      stretches_.push_back({y, open.empty() ? 0 : *open.rbegin()});
+    }
   }
 
-  // The last row whose body holds y, 0 if none does. Must be asked for ascending y.
-  int LastHolding(std::int64_t y) {
-    for (; opened_ < byTop_.size() && byTop_[opened_].top <= y; ++opened_)
-      open_.insert(byTop_[opened_].row);
-    for (; closed_ < byBottom_.size() && byBottom_[closed_].bottom < y; ++closed_)
-      open_.erase(byBottom_[closed_].row);
-    return open_.empty() ? 0 : *open_.rbegin();
+  // The last row whose body holds y, 0 if none does.
+  int LastHolding(std::int64_t y) const {
+    const auto below =
+        std::upper_bound(stretches_.begin(), stretches_.end(), y,
+                         [](std::int64_t place, const Stretch& other) { return place < other.from; });
+    return below == stretches_.begin() ? 0 : std::prev(below)->row;
   }
 
  private:
-  std::vector<Body> byTop_;
-  std::vector<Body> byBottom_;
-  std::size_t opened_ = 0;
-  std::size_t closed_ = 0;
-  std::set<int> open_;
+  struct Edge {
+    std::int64_t y;
+    int row;
+    bool opens;
+  };
+  struct Stretch {
+    std::int64_t from;
+    int row;
+  };
+
+  static std::vector<Edge> EdgesOf(const Document& document) {
+    std::vector<Edge> edges;
+    for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+      const ObjectRecord& bar = document.Objects[row];
+      // A body that ends above its top holds nothing.
+      if (bar.Kind != ObjectKind::Subsection || bar.EndsAt < 0) continue;
+      edges.push_back({BodyTop(bar), row, true});
+      edges.push_back({BodyTop(bar) + bar.EndsAt + 1, row, false});
+    }
+    std::sort(edges.begin(), edges.end(), [](const Edge& a, const Edge& b) { return a.y < b.y; });
+    return edges;
+  }
+
+  std::vector<Stretch> stretches_;
 };
 
-std::vector<Body> BodiesOf(const Document& document) {
-  std::vector<Body> bodies;
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    const ObjectRecord& bar = document.Objects[row];
-    // A body that ends above its top holds nothing.
-    if (bar.Kind != ObjectKind::Subsection || bar.EndsAt < 0) continue;
-    bodies.push_back({BodyTop(bar), BodyTop(bar) + bar.EndsAt, row});
-  }
-  return bodies;
+// Of bars that share a name the one whose body holds y, else the first.
+template <typename Places>
+int BarHolding(const std::vector<int>& bars, std::int64_t y, const Document& document,
+               const Places& placeOf) {
+  if (bars.size() == 1) return bars.front();
+  const auto holding = std::find_if(bars.begin(), bars.end(), [&](int bar) {
+    const std::int64_t top = std::int64_t{placeOf(bar)} + kBarHeight;
+    return y >= top && y <= top + document.Objects[bar].EndsAt;
+  });
+  return holding == bars.end() ? bars.front() : *holding;
 }
 
-std::vector<int> ObjectsByY(const Document& document) {
-  std::vector<int> rows;
+std::size_t At(int row) {
+  return static_cast<std::size_t>(row);
+}
+
+BandLayout PresentLayout(const Document& document) {
+  BandLayout layout;
+  // A bar may name an end row that nobody has used yet.
+  layout.AbsoluteY.resize(ObjectTable::kLastRow + 1);
+  layout.SectionCursorY.resize(ObjectTable::kLastRow + 1);
   for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
     const ObjectRecord& record = document.Objects[row];
-    if (record.Kind != ObjectKind::None && !IsBand(record.Kind) && record.KeepOwner == 0) rows.push_back(row);
+    layout.AbsoluteY[At(row)] = record.AbsoluteY;
+    layout.SectionCursorY[At(row)] = record.SectionCursorY;
   }
-  std::sort(rows.begin(), rows.end(),
-            [&](int a, int b) { return document.Objects[a].AbsoluteY < document.Objects[b].AbsoluteY; });
-  return rows;
+  return layout;
 }
 
-void LayOutBars(ObjectTable& objects, const SortedRows& sorted) {
+// A bar whose end lies outside the table fails like anything else that reaches there.
+std::int32_t& PlaceOfEnd(BandLayout& layout, int row) {
+  if (row < 0 || row > ObjectTable::kLastRow) throw std::out_of_range(kReasonTooManyObjects);
+  return layout.AbsoluteY[At(row)];
+}
+
+void LayOutBars(BandLayout& layout, const Document& document, const SortedRows& sorted) {
   std::int64_t running = 0;
   for (const int row : sorted.Rows) {
-    ObjectRecord& bar = objects[row];
+    const ObjectRecord& bar = document.Objects[row];
     if (bar.Kind != ObjectKind::Section && bar.Kind != ObjectKind::Subsection) continue;
-    bar.AbsoluteY = Fit32(running);
-    if (bar.EndRow != 0) objects[bar.EndRow].AbsoluteY = Fit32(running + kBarHeight + bar.EndsAt);
+    layout.AbsoluteY[At(row)] = Fit32(running);
+    if (bar.EndRow != 0) PlaceOfEnd(layout, bar.EndRow) = Fit32(running + kBarHeight + bar.EndsAt);
     running += std::int64_t{kBarHeight} + bar.EndsAt + kBandGap;
   }
 }
@@ -87,10 +121,11 @@ void LayOutBars(ObjectTable& objects, const SortedRows& sorted) {
 }  // namespace
 
 void AssignObjects(Document& document) {
-  BodySweep sweep(BodiesOf(document));
-  for (const int row : ObjectsByY(document)) {
+  const BodyIndex bodies(document);
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
     ObjectRecord& record = document.Objects[row];
-    const int owner = sweep.LastHolding(record.AbsoluteY);
+    if (record.Kind == ObjectKind::None || IsBand(record.Kind) || record.KeepOwner != 0) continue;
+    const int owner = bodies.LastHolding(record.AbsoluteY);
     if (owner == 0) continue;
     const ObjectRecord& bar = document.Objects[owner];
     record.OwnerName = bar.SectionName;
@@ -122,27 +157,56 @@ int OwnerIndex::OwnerOf(int row) const {
   }
   const auto bars = byName_.find(record.OwnerName);
   if (bars == byName_.end()) return 0;
-  const auto holding = std::find_if(bars->second.begin(), bars->second.end(), [&](int bar) {
-    return BodyHolds(document_.Objects[bar], record.AbsoluteY);
-  });
-  return holding == bars->second.end() ? bars->second.front() : *holding;
+  return BarHolding(bars->second, record.AbsoluteY, document_,
+                    [this](int bar) { return document_.Objects[bar].AbsoluteY; });
+}
+
+std::vector<int> OwnersIn(const Document& document, const BandLayout& layout) {
+  std::unordered_map<std::string_view, std::vector<int>> byName;
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+    const ObjectRecord& bar = document.Objects[row];
+    if (bar.Kind == ObjectKind::Subsection) byName[bar.SectionName].push_back(row);
+  }
+  std::vector<int> owners(ObjectTable::kLastRow + 1);
+  // Most rows follow one of the same owner.
+  auto bars = byName.end();
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+    const ObjectRecord& record = document.Objects[row];
+    if (record.Kind == ObjectKind::None || IsBand(record.Kind)) continue;
+    if (bars == byName.end() || bars->first != record.OwnerName) bars = byName.find(record.OwnerName);
+    if (bars == byName.end()) continue;
+    owners[At(row)] = BarHolding(bars->second, layout.AbsoluteY[At(row)], document,
+                                 [&](int bar) { return layout.AbsoluteY[At(bar)]; });
+  }
+  return owners;
+}
+
+BandLayout LayOutBands(const Document& document, const SortedRows& sorted) {
+  BandLayout layout = PresentLayout(document);
+  // Owners are found before the bars move, while bodies and objects still lie where they were.
+  const std::vector<int> owners = OwnersIn(document, layout);
+  LayOutBars(layout, document, sorted);
+  for (const int row : sorted.Rows) {
+    const int owner = owners[At(row)];
+    if (owner == 0) continue;
+    const std::int64_t top = std::int64_t{layout.AbsoluteY[At(owner)]} + kBarHeight;
+    layout.AbsoluteY[At(row)] = Fit32(top + document.Objects[row].Y);
+    layout.SectionCursorY[At(owner)] =
+        std::min(layout.SectionCursorY[At(owner)], document.Objects[owner].EndsAt);
+  }
+  return layout;
+}
+
+void StoreLayout(Document& document, const SortedRows& sorted, const BandLayout& layout) {
+  for (const int row : sorted.Rows) {
+    ObjectRecord& record = document.Objects[row];
+    record.AbsoluteY = layout.AbsoluteY[At(row)];
+    record.SectionCursorY = layout.SectionCursorY[At(row)];
+  }
 }
 
 void NormaliseSubsections(Document& document, const SortedRows& sorted) {
-  ObjectTable& objects = document.Objects;
-  // Owners are found before the bars move, while bodies and objects still lie where they were.
-  const OwnerIndex index(document);
-  std::vector<std::pair<int, int>> owned;
-  for (const int row : sorted.Rows) {
-    if (IsBand(objects[row].Kind)) continue;
-    if (const int owner = index.OwnerOf(row)) owned.emplace_back(row, owner);
-  }
-  LayOutBars(objects, sorted);
-  for (const auto& [row, owner] : owned) {
-    ObjectRecord& bar = objects[owner];
-    objects[row].AbsoluteY = Fit32(BodyTop(bar) + objects[row].Y);
-    bar.SectionCursorY = std::min(bar.SectionCursorY, bar.EndsAt);
-  }
+  StoreLayout(document, sorted, LayOutBands(document, sorted));
 }
 
 SortedRows DeriveGeometry(Document& document) {

@@ -113,6 +113,7 @@ void ConvertTexts(ObjectRecord& record, TextConversion& conversion) {
 
 std::vector<ObjectRecord> RecordsOf(const ClipboardTable& clipboard) {
   std::vector<ObjectRecord> records;
+  records.reserve(clipboard.Rows.size());
   for (const auto& [row, record] : clipboard.Rows)
     records.push_back(record);
   return records;

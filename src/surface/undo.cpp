@@ -61,11 +61,6 @@ struct UndoLevel {
   int Rows = 0;
   std::vector<std::shared_ptr<const RowChunk>> Chunks;
   std::shared_ptr<const KeptColumns> Columns;
-
-  const ObjectRecord& Row(int row) const {
-    const auto at = static_cast<std::size_t>(row - 1);
-    return (*Chunks[at / kChunkRows])[at % kChunkRows];
-  }
 };
 
 UndoStore::Level UndoStore::Snapshot(const Document& document) const {
@@ -96,12 +91,17 @@ void UndoStore::Keep(const Document& document) {
   undoTop_ = undoIndex_;
 }
 
+// Leaves alone what the level shares with `nearest_`, which is the table as it stands, or nothing.
 void UndoStore::Restore(Document& document) {
   const Level& level = levels_.at(static_cast<std::size_t>(undoIndex_));
   ObjectTable& objects = document.Objects;
   objects.ObjectCount = std::max(objects.ObjectCount, level->Rows);
-  for (int row = 1; row <= level->Rows; ++row)
-    objects[row] = level->Row(row);
+  for (std::size_t at = 0; at < level->Chunks.size(); ++at) {
+    if (nearest_ && at < nearest_->Chunks.size() && nearest_->Chunks[at] == level->Chunks[at]) continue;
+    int row = static_cast<int>(at) * kChunkRows + 1;
+    for (const ObjectRecord& kept : *level->Chunks[at])
+      objects[row++] = kept;
+  }
   // The table has grown since: what it has got then is not part of the level.
   for (int row = level->Rows + 1; row <= objects.LastScanned(); ++row)
     objects[row] = ObjectRecord{};
@@ -123,7 +123,7 @@ void UndoStore::Push(const Document& document) {
 bool UndoStore::Undo(Document& document) {
   if (!CanUndo()) return false;
   if (redone_) {
-    levels_.at(static_cast<std::size_t>(undoIndex_)) = Snapshot(document);
+    nearest_ = levels_.at(static_cast<std::size_t>(undoIndex_)) = Snapshot(document);
     undoTop_ = undoIndex_;
   } else {
     Keep(document);
@@ -138,6 +138,8 @@ bool UndoStore::Undo(Document& document) {
 bool UndoStore::Redo(Document& document) {
   if (!CanRedo()) return false;
   ++undoIndex_;
+  // Painting may have stored what it found out since.
+  nearest_ = nullptr;
   Restore(document);
   redone_ = true;
   return true;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "base/take_token.h"
 #include "base/text.h"
 #include "template/directive_table.h"
 #include "template/scanner.h"
@@ -65,14 +66,23 @@ class Item {
     name_ = Trim(text.substr(0, equals));
     key_ = state.document.Page->Upper(name_);
     if (equals != std::string_view::npos) value_ = text.substr(equals + 1);
-    // Braces of a block that was none stand in values as the characters 1 and 2.
-    ReplaceAll(value_, '\1', state.document.Settings.OpenCharacter());
-    ReplaceAll(value_, '\2', state.document.Settings.CloseCharacter());
+    if (value_.find('\1') != std::string_view::npos || value_.find('\2') != std::string_view::npos)
+      RestoreDelimiters();
   }
+  // The value may lie in the item itself.
+  Item(const Item&) = delete;
+  Item& operator=(const Item&) = delete;
 
   void Apply();
 
  private:
+  // Braces of a block that was none stand in values as the characters 1 and 2.
+  void RestoreDelimiters() {
+    restored_ = value_;
+    ReplaceAll(restored_, '\1', state_.document.Settings.OpenCharacter());
+    ReplaceAll(restored_, '\2', state_.document.Settings.CloseCharacter());
+    value_ = restored_;
+  }
   void ApplyAttribute(const DirectiveRow& row);
   bool StoreText(Action action);
   bool StoreNumber(Action action);
@@ -89,13 +99,13 @@ class Item {
   void SetAlign();
   void SetQr();
   void NoteNumbers(const NewObject& object);
-  void Create(NewObject object);
-  NewObject Shape(ObjectKind kind);
+  void Create(const NewObject& object);
+  void BeginShape(NewObject& object, ObjectKind kind);
 
   // The n-th value between commas.
-  std::string Part(std::size_t n) {
-    if (!parts_) parts_.emplace(value_, ',');
-    return std::string((*parts_)[n]);
+  std::string_view Part(std::size_t n) const {
+    CheckTokenCount(value_, ',');
+    return NthToken(value_, n, ',');
   }
   AttributeState& attributes() { return state_.attributes; }
   LayoutCursor& cursor() { return state_.cursor; }
@@ -103,8 +113,8 @@ class Item {
   ReaderState& state_;
   std::string_view name_;
   std::string key_;
-  std::string value_;
-  std::optional<Tokens> parts_;
+  std::string_view value_;
+  std::string restored_;
 };
 
 void Item::Apply() {
@@ -155,7 +165,7 @@ void Item::ApplyAttribute(const DirectiveRow& row) {
     case Action::Def:
       return state.ResetToDefaults();
     case Action::Stretch:
-      state.AttrStretch = value_.empty() ? std::nullopt : std::optional(value_);
+      state.AttrStretch = value_.empty() ? std::nullopt : std::optional(std::string(value_));
       return;
     case Action::ValueType:
       state.AttrValueType = row.number == 'N' ? "Number" : "Text";
@@ -239,13 +249,13 @@ void Item::ApplyCreation(const DirectiveRow& row) {
       object.text = kPageBreak;
       break;
     case Action::TextBox:
-      object = Shape(ObjectKind::TextBox);
+      BeginShape(object, ObjectKind::TextBox);
       object.widthOrEndX = Part(3);
       object.payload = Part(4);
       object.text = Part(5);
       break;
     case Action::Box:
-      object = Shape(ObjectKind::Box);
+      BeginShape(object, ObjectKind::Box);
       object.filled = row.number == 1;
       object.widthOrEndX = Part(3);
       object.height = Part(4);
@@ -260,7 +270,7 @@ void Item::ApplyCreation(const DirectiveRow& row) {
       object.link = Part(6);
       break;
     case Action::Circle:
-      object = Shape(ObjectKind::Circle);
+      BeginShape(object, ObjectKind::Circle);
       object.widthOrEndX = Part(3);
       break;
     case Action::Line:
@@ -270,28 +280,26 @@ void Item::ApplyCreation(const DirectiveRow& row) {
       object.extra = Trim(Part(3));
       break;
     case Action::AnyLine:
-      object = Shape(ObjectKind::AnyLine);
+      BeginShape(object, ObjectKind::AnyLine);
       object.widthOrEndX = Part(3);
       object.height = Part(4);
       object.extra = Trim(Part(5));
       break;
     default:
-      object = Shape(ObjectKind::Chart);
+      BeginShape(object, ObjectKind::Chart);
       object.widthOrEndX = state_.chart.Width;
       object.height = state_.chart.Height;
       object.chartValues = state_.chart.Values;
       break;
   }
-  Create(std::move(object));
+  Create(object);
 }
 
 // The two first values of most directives are the position.
-NewObject Item::Shape(ObjectKind kind) {
-  NewObject object;
+void Item::BeginShape(NewObject& object, ObjectKind kind) {
   object.kind = kind;
   object.xValue = Part(1);
   object.y = Part(2);
-  return object;
 }
 
 void Item::NoteNumbers(const NewObject& object) {
@@ -300,7 +308,7 @@ void Item::NoteNumbers(const NewObject& object) {
   if (object.kind != ObjectKind::Line) NoteIfAbove(kLargest32, object.widthOrEndX);
 }
 
-void Item::Create(NewObject object) {
+void Item::Create(const NewObject& object) {
   NoteNumbers(object);
   const ObjectKind kind = object.kind;
   const bool isPageBreak = kind == ObjectKind::Command;
@@ -390,9 +398,10 @@ bool LooksLikeCommands(std::string_view block, const CodePage& page) {
 }
 
 void ApplyCommands(ReaderState& state, std::string_view block) {
-  const Tokens items = SplitTokens(block, ';');
-  for (std::size_t n = 1; n <= items.Count(); ++n)
-    Item(state, items[n]).Apply();
+  CheckTokenCount(block, ';');
+  std::optional<std::string_view> rest = block;
+  while (rest)
+    Item(state, TakeToken(rest, ';')).Apply();
 }
 
 }  // namespace kev

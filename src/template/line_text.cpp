@@ -42,9 +42,4 @@ std::string CaseItems(std::string_view caseMode) {
   return "Upper=N;Lower=N;FirstUp=N;";
 }
 
-std::string WithoutLastSeparator(std::string items) {
-  if (items.ends_with(';')) items.pop_back();
-  return items;
-}
-
 }  // namespace kev

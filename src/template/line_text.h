@@ -20,6 +20,5 @@ std::string TextBoxPropsOf(const ObjectRecord& record);
 std::string CommandWord(const ObjectRecord& record);
 // "Upper=Y;" and so on.
 std::string CaseItems(std::string_view caseMode);
-std::string WithoutLastSeparator(std::string items);
 
 }  // namespace kev

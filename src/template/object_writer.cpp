@@ -18,10 +18,6 @@ namespace {
 constexpr bool kPositioned = true;
 constexpr bool kPlain = false;
 
-std::string Number(std::int64_t value) {
-  return std::to_string(value);
-}
-
 const CommentRow& CommentsOf(ObjectKind kind) {
   for (const CommentRow& row : kStepComments) {
     if (row.kind == kind) return row;
@@ -39,55 +35,58 @@ void ObjectWriter::Line(std::string_view text) {
   text_ += "\r\n";
 }
 
-void ObjectWriter::AddBlock(std::string_view items, bool hasPosition) {
+void ObjectWriter::BeginBlock() {
   text_ += document_.Settings.OpenCharacter();
-  text_ += items;
-  if (!hasPosition && document_.Settings.HasOwnDelimiters()) text_ += items.empty() ? "0" : ";0";
+  blockBegin_ = text_.size();
+}
+
+void ObjectWriter::EndBlock(bool hasPosition) {
+  if (!hasPosition && document_.Settings.HasOwnDelimiters()) text_ += BlockIsEmpty() ? "0" : ";0";
   text_ += document_.Settings.CloseCharacter();
+}
+
+void ObjectWriter::DropLastSeparator() {
+  if (!BlockIsEmpty() && text_.back() == ';') text_.pop_back();
 }
 
 void ObjectWriter::AddComment(std::string_view marker) {
   if (!options_.Comments) return;
   text_ += kBlank;
-  AddBlock(marker, kPlain);
+  BeginBlock();
+  text_ += marker;
+  EndBlock(kPlain);
 }
 
-void ObjectWriter::BlockLine(std::string_view items, bool hasPosition) {
+void ObjectWriter::BeginBlockLine() {
   text_ += "  ";
-  AddBlock(items, hasPosition);
+  BeginBlock();
+}
+
+void ObjectWriter::EndBlockLine(bool hasPosition) {
+  EndBlock(hasPosition);
   Line("");
 }
 
-void ObjectWriter::BlockLineWithComment(std::string_view items, std::string_view comment) {
-  text_ += "  ";
-  AddBlock(items, kPlain);
-  AddComment(comment);
-  Line("");
+void ObjectWriter::EndTextLine(std::string_view margin, std::string_view text, std::string_view endItems) {
+  EndBlock(kPositioned);
+  Add(margin, text);
+  BeginBlock();
+  text_ += endItems;
+  EndBlockLine(kPlain);
 }
 
-void ObjectWriter::TextLine(std::string_view items, std::string_view text, std::string_view endItems) {
-  text_ += "  ";
-  AddBlock(items, kPositioned);
-  text_ += text;
-  AddBlock(endItems, kPlain);
-  Line("");
-}
-
-void ObjectWriter::Subsection(const ObjectRecord& bar, std::string_view section, std::string_view head) {
-  Line("");
-  Line("<" + std::string(section));
-  Line(" " + std::string(head));
-  Line("");
+void ObjectWriter::Subsection(const ObjectRecord& bar, std::int32_t filledTo, std::string_view section,
+                              std::string_view head) {
+  Add("\r\n<", section, "\r\n ", head, "\r\n\r\n");
   state_.CursorY = 0;
   state_.SubsectionEnd = bar.EndsAt;
-  state_.SubsectionFill = bar.SectionCursorY;
+  state_.SubsectionFill = filledTo;
   state_.LastCommand.clear();
-  if (bar.HeightGiven != 0) BlockLine("SubSectionHeight=" + Number(bar.EndsAt), kPlain);
+  if (bar.HeightGiven != 0) BlockLine(kPlain, "SubSectionHeight=", bar.EndsAt);
   const std::string_view start = Trim(bar.StartY);
-  if (!document_.Page->EqualsIgnoringCase(start, kCurrentYValue)) {
-    BlockLine(NumericPrefix(start) == 0 ? std::string("xy=0,1") : "xy=0," + std::string(start), kPositioned);
-  }
-  BlockLine("DEF", kPlain);
+  if (!document_.Page->EqualsIgnoringCase(start, kCurrentYValue))
+    BlockLine(kPositioned, "xy=0,", NumericPrefix(start) == 0 ? "1" : start);
+  BlockLine(kPlain, "DEF");
   state_.ResetToDefaults();
   if (!options_.Comments) return;
   AddComment("Rem=All Default Values 18");
@@ -100,19 +99,19 @@ void ObjectWriter::EndOfSubsection(const ObjectRecord& end) {
   const auto step = [&] { return std::int64_t{end.Y} - state_.CursorY; };
   if (step() != spacing_ && step() != 0) {
     if (!behindPageBreak) {
-      BlockLineWithComment("Spacing=" + Number(step()) + ";\\n", "Rem=EndOfSubsection 19");
+      BlockLineWithComment("Rem=EndOfSubsection 19", "Spacing=", step(), ";\\n");
     }
     state_.CursorY = end.Y;
     Line("");
   }
   if (step() == spacing_) {
-    if (!behindPageBreak) BlockLineWithComment("\\n", "Rem=EndOfSubsection 20");
+    if (!behindPageBreak) BlockLineWithComment("Rem=EndOfSubsection 20", "\\n");
     Line("");
   }
   state_.LastCommand.clear();
   if (state_.SubsectionFill < state_.SubsectionEnd) {
     const std::int64_t back = std::int64_t{state_.SubsectionEnd} - state_.SubsectionFill;
-    BlockLineWithComment("Spacing=" + Number(back) + ";\\P", "Rem=\\P to reach SUBSECTIONENDSAT");
+    BlockLineWithComment("Rem=\\P to reach SUBSECTIONENDSAT", "Spacing=", back, ";\\P");
   }
   state_.CursorY = 0;
   state_.SubsectionEnd = 0;
@@ -127,8 +126,7 @@ void ObjectWriter::FirstLabelLine() {
     state_.FontName = label.FontName;
     state_.Size = label.FontSize;
     state_.Color = TextColourOf(label);
-    BlockLine("F=" + label.FontName + ";S=" + Number(label.FontSize) + ";C=" + ColourText(state_.Color),
-              kPlain);
+    BlockLine(kPlain, "F=", label.FontName, ";S=", label.FontSize, ";C=", ColourText(state_.Color));
     return;
   }
 }
@@ -172,16 +170,13 @@ void ObjectWriter::Kind(const ObjectRecord& record) {
   }
 }
 
-std::string ObjectWriter::Flags(const ObjectRecord& record) {
-  std::string prefix;
-  if (record.PrintFlag != state_.Print) prefix += record.PrintFlag != 0 ? "Print;" : "NoPrint;";
-  if (record.AlignToGrid != state_.Atg) prefix += record.AlignToGrid == 1 ? "Atg;" : "NAtg;";
-  if (record.ModifiableByEndUser != state_.MBeu)
-    prefix += record.ModifiableByEndUser == 1 ? "MBeu;" : "NMBeu;";
+void ObjectWriter::Flags(const ObjectRecord& record) {
+  if (record.PrintFlag != state_.Print) Add(record.PrintFlag != 0 ? "Print;" : "NoPrint;");
+  if (record.AlignToGrid != state_.Atg) Add(record.AlignToGrid == 1 ? "Atg;" : "NAtg;");
+  if (record.ModifiableByEndUser != state_.MBeu) Add(record.ModifiableByEndUser == 1 ? "MBeu;" : "NMBeu;");
   state_.Print = record.PrintFlag;
   state_.Atg = record.AlignToGrid;
   state_.MBeu = record.ModifiableByEndUser;
-  return prefix;
 }
 
 void ObjectWriter::VerticalStep(const ObjectRecord& record) {
@@ -189,9 +184,9 @@ void ObjectWriter::VerticalStep(const ObjectRecord& record) {
   const std::int64_t step = std::int64_t{record.Y} - state_.CursorY;
   const CommentRow& comments = CommentsOf(record.Kind);
   if (step == spacing_) {
-    BlockLineWithComment("\\n", comments.oneStep);
+    BlockLineWithComment(comments.oneStep, "\\n");
   } else if (step != 0) {
-    BlockLineWithComment("Spacing=" + Number(step) + ";\\n", comments.otherStep);
+    BlockLineWithComment(comments.otherStep, "Spacing=", step, ";\\n");
   }
   state_.CursorY = record.Y;
 }
@@ -200,7 +195,7 @@ void ObjectWriter::ColourStep(const ObjectRecord& record) {
   const Colour colour = TextColourOf(record);
   if (colour == state_.Color) return;
   state_.Color = colour;
-  BlockLine("c=" + ColourText(colour), kPlain);
+  BlockLine(kPlain, "c=", ColourText(colour));
 }
 
 // A zero behind another position would be ignored on reading and leave the object at the earlier one, so a
@@ -215,128 +210,143 @@ std::string ObjectWriter::Position(std::string_view xValue) {
 }
 
 void ObjectWriter::TextBox(const ObjectRecord& record) {
-  std::string items = Flags(record);
   VerticalStep(record);
+  BeginBlockLine();
+  Flags(record);
   if (record.CharSet != state_.CharSet) {
     state_.CharSet = FormatNumber(NumericPrefix(record.CharSet));
-    items += "CS=" + FormatNumber(NumericPrefix(record.CharSet)) + ";";
+    Add("CS=", state_.CharSet, ";");
   }
   if (record.Strikethrough != state_.Strike) {
     state_.Strike = record.Strikethrough;
     // Not the flag: the viewer has always been given the charset here.
-    items += "ST=" + record.CharSet + ";";
+    Add("ST=", record.CharSet, ";");
   }
-  items += TextBoxPropsOf(record);
-  items += ";TextBox=" + record.XValue + ",," + Number(record.Width) + "," +
-           record.CommandPayload.value_or("") + "," + record.Content;
-  BlockLine(items, kPositioned);
+  Add(TextBoxPropsOf(record), ";TextBox=", record.XValue, ",,", record.Width, ",");
+  if (record.CommandPayload) Add(*record.CommandPayload);
+  Add(",", record.Content);
+  EndBlockLine(kPositioned);
 }
 
 void ObjectWriter::Picture(const ObjectRecord& record) {
-  const std::string prefix = Flags(record);
   VerticalStep(record);
-  const std::string width = record.PictureFixedWidth != 0 ? Number(record.Width) : "";
-  const std::string height = record.PictureFixedHeight != 0 ? Number(record.Height) : "";
-  BlockLine(prefix + "Pic=" + record.PicturePath + "," + record.XValue + ",," + width + "," + height + "," +
-                record.Link,
-            kPositioned);
+  BeginBlockLine();
+  Flags(record);
+  Add("Pic=", record.PicturePath, ",", record.XValue, ",,");
+  if (record.PictureFixedWidth != 0) Add(record.Width);
+  Add(",");
+  if (record.PictureFixedHeight != 0) Add(record.Height);
+  Add(",", record.Link);
+  EndBlockLine(kPositioned);
 }
 
 void ObjectWriter::Qr(const ObjectRecord& record) {
-  const std::string prefix = Flags(record);
   VerticalStep(record);
-  TextLine(prefix + "QrCode=" + record.XValue + ",," + Number(record.Height), record.Content, "nobar");
+  BeginBlockLine();
+  Flags(record);
+  Add("QrCode=", record.XValue, ",,", record.Height);
+  EndTextLine("", record.Content, "nobar");
+}
+
+void ObjectWriter::BeginShape(const ObjectRecord& record) {
+  BeginBlockLine();
+  Flags(record);
+  Add(LineWidthItem(record));
 }
 
 void ObjectWriter::Circle(const ObjectRecord& record) {
-  const std::string prefix = Flags(record) + LineWidthItem(record);
   ColourStep(record);
   VerticalStep(record);
-  BlockLine(prefix + "Circ=" + record.XValue + ",," + Number(record.Width), kPositioned);
+  BeginShape(record);
+  Add("Circ=", record.XValue, ",,", record.Width);
+  EndBlockLine(kPositioned);
 }
 
 void ObjectWriter::Chart(const ObjectRecord& record) {
-  const std::string prefix = Flags(record);
   VerticalStep(record);
   for (const std::string& block : ChartBlocks(record))
-    BlockLine(block, kPlain);
-  BlockLine(prefix + "Buildgraph=" + record.XValue + ",", kPlain);
+    BlockLine(kPlain, block);
+  BeginBlockLine();
+  Flags(record);
+  Add("Buildgraph=", record.XValue, ",");
+  EndBlockLine(kPlain);
 }
 
 void ObjectWriter::Barcode(const ObjectRecord& record) {
-  std::string items = Flags(record);
   ColourStep(record);
   VerticalStep(record);
-  items += Position(record.XValue) + ";BarHeight=" + Number(record.Height);
-  if (record.BarWidth > 1 && record.BarWidth <= 10) items += ";BarWidth=" + Number(record.BarWidth);
-  if (record.VerticalBar != 0) items += ";VertBar";
+  BeginBlockLine();
+  Flags(record);
+  Add(Position(record.XValue), ";BarHeight=", record.Height);
+  if (record.BarWidth > 1 && record.BarWidth <= 10) Add(";BarWidth=", record.BarWidth);
+  if (record.VerticalBar != 0) Add(";VertBar");
   const Symbology* symbology = SymbologyOfKind(Int32Of(record.BarcodeKind));
   const std::string_view word = symbology == nullptr ? std::string_view{} : symbology->word;
   std::vector<std::string>& unnamed = report_.UnnamedSymbologies;
   if (word.empty() && std::find(unnamed.begin(), unnamed.end(), record.BarcodeKind) == unnamed.end())
     unnamed.push_back(record.BarcodeKind);
-  items += word;
-  TextLine(items, record.Content, "NoBar");
+  Add(word);
+  EndTextLine("", record.Content, "NoBar");
 }
 
 void ObjectWriter::HorizontalLine(const ObjectRecord& record) {
-  const std::string prefix = Flags(record) + LineWidthItem(record);
   ColourStep(record);
   VerticalStep(record);
-  BlockLine(prefix + "Line=" + record.XValue + "," + record.X2Value + (record.LineFlag != 0 ? ",1" : ""),
-            kPositioned);
+  BeginShape(record);
+  Add("Line=", record.XValue, ",", record.X2Value, record.LineFlag != 0 ? ",1" : "");
+  EndBlockLine(kPositioned);
 }
 
 void ObjectWriter::AnyLine(const ObjectRecord& record) {
-  const std::string prefix = Flags(record) + LineWidthItem(record);
   ColourStep(record);
   VerticalStep(record);
-  BlockLine(prefix + "AnyLine=" + record.XValue + ",," + Number(record.Width) + "," + Number(record.Height) +
-                "," + (record.LineFlag != 0 ? "1" : "0"),
-            kPositioned);
+  BeginShape(record);
+  Add("AnyLine=", record.XValue, ",,", record.Width, ",", record.Height, record.LineFlag != 0 ? ",1" : ",0");
+  EndBlockLine(kPositioned);
 }
 
 void ObjectWriter::Box(const ObjectRecord& record) {
-  const std::string prefix = Flags(record) + LineWidthItem(record);
   VerticalStep(record);
   ColourStep(record);
-  BlockLine(prefix + (record.Filled != 0 ? "Boxf=" : "Box=") + record.XValue + ",," + Number(record.Width) +
-                "," + Number(record.Height),
-            kPositioned);
+  BeginShape(record);
+  Add(record.Filled != 0 ? "Boxf=" : "Box=", record.XValue, ",,", record.Width, ",", record.Height);
+  EndBlockLine(kPositioned);
 }
 
 void ObjectWriter::Command(const ObjectRecord& record) {
   VerticalStep(record);
   const std::string word = CommandWord(record);
-  if (!word.empty()) BlockLine(Position(record.XValue) + word, kPositioned);
+  if (!word.empty()) BlockLine(kPositioned, Position(record.XValue), word);
 }
 
 void ObjectWriter::Label(const ObjectRecord& record) {
   VerticalStep(record);
   LabelAttributes(record);
-  TextLine(LabelPosition(record), " " + record.Content, "");
+  LabelPosition(record);
+  EndTextLine(" ", record.Content, "");
   if (record.Content.find(document_.Settings.OpenCharacter()) == std::string::npos) return;
   // A brace in the text may have begun a block of its own, so nothing is taken for known behind it.
   state_.ResetToDefaults();
-  BlockLineWithComment("DEF", "Rem=All default values 17");
+  BlockLineWithComment("Rem=All default values 17", "DEF");
 }
 
 void ObjectWriter::LabelAttributes(const ObjectRecord& record) {
-  std::string items;
+  const std::size_t before = text_.size();
+  BeginBlockLine();
   const Colour colour = TextColourOf(record);
-  if (colour != state_.Color) items += "c=" + ColourText(colour) + ";";
-  if (record.FontName != state_.FontName) items += "f=" + record.FontName + ";";
-  if (record.CharSet != state_.CharSet) items += "cs=" + record.CharSet + ";";
-  if (record.FontSize != state_.Size) items += "s=" + Number(record.FontSize) + ";";
-  if (record.Bold != state_.Bold) items += record.Bold != 0 ? "b=y;" : "b=n;";
-  if (record.Underline != state_.Underline) items += record.Underline != 0 ? "u=y;" : "u=n;";
-  if (record.Italic != state_.Italic) items += record.Italic != 0 ? "i=y;" : "i=n;";
-  if (record.Strikethrough != state_.Strike) items += record.Strikethrough != 0 ? "st=y;" : "st=n;";
-  const std::string caseMode = record.CaseMode.empty() ? "N" : record.CaseMode;
-  if (caseMode != state_.Case) items += CaseItems(caseMode);
-  const std::string align = record.Align.empty() ? "L" : record.Align;
-  items += Flags(record);
-  if (align != state_.Align) items += "a=" + align + ";";
+  if (colour != state_.Color) Add("c=", ColourText(colour), ";");
+  if (record.FontName != state_.FontName) Add("f=", record.FontName, ";");
+  if (record.CharSet != state_.CharSet) Add("cs=", record.CharSet, ";");
+  if (record.FontSize != state_.Size) Add("s=", record.FontSize, ";");
+  if (record.Bold != state_.Bold) Add(record.Bold != 0 ? "b=y;" : "b=n;");
+  if (record.Underline != state_.Underline) Add(record.Underline != 0 ? "u=y;" : "u=n;");
+  if (record.Italic != state_.Italic) Add(record.Italic != 0 ? "i=y;" : "i=n;");
+  if (record.Strikethrough != state_.Strike) Add(record.Strikethrough != 0 ? "st=y;" : "st=n;");
+  const std::string_view caseMode = record.CaseMode.empty() ? "N" : std::string_view(record.CaseMode);
+  if (caseMode != state_.Case) Add(CaseItems(caseMode));
+  const std::string_view align = record.Align.empty() ? "L" : std::string_view(record.Align);
+  Flags(record);
+  if (align != state_.Align) Add("a=", align, ";");
   state_.Color = colour;
   state_.FontName = record.FontName;
   state_.CharSet = record.CharSet;
@@ -347,25 +357,27 @@ void ObjectWriter::LabelAttributes(const ObjectRecord& record) {
   state_.Strike = record.Strikethrough;
   state_.Case = caseMode;
   state_.Align = align;
-  if (!items.empty()) BlockLine(WithoutLastSeparator(items), kPlain);
+  if (BlockIsEmpty()) return text_.resize(before);
+  DropLastSeparator();
+  EndBlockLine(kPlain);
 }
 
-std::string ObjectWriter::LabelPosition(const ObjectRecord& record) {
-  std::string items = Position(record.XValue) + ";";
-  if (!record.Link.empty()) items += "Link=" + record.Link + ";";
+void ObjectWriter::LabelPosition(const ObjectRecord& record) {
+  BeginBlockLine();
+  Add(Position(record.XValue), ";");
+  if (!record.Link.empty()) Add("Link=", record.Link, ";");
   if (record.Format.empty() && !state_.Format.empty()) {
-    items += "Format=;";
+    Add("Format=;");
     state_.Format.clear();
   }
-  if (record.ValueType == "Number") items += "Num;";
-  if (record.ValueType == "Text") items += "Text;";
+  if (record.ValueType == "Number") Add("Num;");
+  if (record.ValueType == "Text") Add("Text;");
   if (record.Format != state_.Format) {
-    items += "Format=" + record.Format + ";";
+    Add("Format=", record.Format, ";");
     state_.Format = record.Format;
   }
-  if (record.Stretch && !Trim(*record.Stretch).empty())
-    items += "Stretch=" + std::string(Trim(*record.Stretch)) + ";";
-  return WithoutLastSeparator(items);
+  if (record.Stretch && !Trim(*record.Stretch).empty()) Add("Stretch=", Trim(*record.Stretch), ";");
+  DropLastSeparator();
 }
 
 }  // namespace kev

@@ -3,11 +3,13 @@
 // are given.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "document/document.h"
+#include "template/append.h"
 #include "template/writer.h"
 #include "template/writer_state.h"
 
@@ -18,7 +20,9 @@ class ObjectWriter {
   ObjectWriter(const Document& document, const WriteOptions& options, WriteReport& report);
 
   void Line(std::string_view text);
-  void Subsection(const ObjectRecord& bar, std::string_view section, std::string_view head);
+  // `filledTo`: where the content ends in the body, as it is laid out.
+  void Subsection(const ObjectRecord& bar, std::int32_t filledTo, std::string_view section,
+                  std::string_view head);
   void Object(const ObjectRecord& record);
   void EndOfSubsection(const ObjectRecord& end);
   std::string Take() { return std::move(text_); }
@@ -38,22 +42,47 @@ class ObjectWriter {
   void Command(const ObjectRecord& record);
   void Label(const ObjectRecord& record);
   void LabelAttributes(const ObjectRecord& record);
-  std::string LabelPosition(const ObjectRecord& record);
+  void LabelPosition(const ObjectRecord& record);
 
-  std::string Flags(const ObjectRecord& record);
+  // Items that a block begins with.
+  void Flags(const ObjectRecord& record);
+  // The line of a shape as far as its width.
+  void BeginShape(const ObjectRecord& record);
+  // Whole lines in front of an object's own.
   void VerticalStep(const ObjectRecord& record);
   void ColourStep(const ObjectRecord& record);
   std::string Position(std::string_view xValue);
 
-  // A block with its delimiters. Where the document has its own delimiters, one without a position is kept a
-  // command by an item "0", which changes nothing.
-  void AddBlock(std::string_view items, bool hasPosition);
+  template <typename... Parts>
+  void Add(const Parts&... parts) {
+    Append(text_, parts...);
+  }
+  void BeginBlock();
+  // Where the document has its own delimiters, a block without a position is kept a command by an item "0",
+  // which changes nothing.
+  void EndBlock(bool hasPosition);
+  bool BlockIsEmpty() const { return text_.size() == blockBegin_; }
+  void DropLastSeparator();
   // Only where comments are asked for.
   void AddComment(std::string_view marker);
-  void BlockLine(std::string_view items, bool hasPosition);
-  void BlockLineWithComment(std::string_view items, std::string_view comment);
-  // A text between the block with its position and the block that ends it.
-  void TextLine(std::string_view items, std::string_view text, std::string_view endItems);
+  void BeginBlockLine();
+  void EndBlockLine(bool hasPosition);
+  template <typename... Parts>
+  void BlockLine(bool hasPosition, const Parts&... parts) {
+    BeginBlockLine();
+    Add(parts...);
+    EndBlockLine(hasPosition);
+  }
+  template <typename... Parts>
+  void BlockLineWithComment(std::string_view comment, const Parts&... parts) {
+    BeginBlockLine();
+    Add(parts...);
+    EndBlock(false);
+    AddComment(comment);
+    Line("");
+  }
+  // Behind the block with its position: the text, and the block that ends it.
+  void EndTextLine(std::string_view margin, std::string_view text, std::string_view endItems);
 
   const Document& document_;
   const WriteOptions& options_;
@@ -62,6 +91,7 @@ class ObjectWriter {
   std::int32_t spacing_;
   bool firstObjectSeen_ = false;
   std::string text_;
+  std::size_t blockBegin_ = 0;
 };
 
 }  // namespace kev

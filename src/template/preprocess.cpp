@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <array>
-#include <vector>
+#include <optional>
 
+#include "base/take_token.h"
 #include "base/text.h"
-#include "template/reader.h"
+#include "template/scanner.h"
 
 namespace kev {
 namespace {
@@ -25,53 +27,53 @@ bool IsPositionLike(std::string_view item, const CodePage& page) {
   if (name.empty()) return false;
   const char first = name.front();
   if (first == '$' || first == '-' || first == '+' || (first >= '0' && first <= '9')) return true;
-  const std::string capitals = page.Upper(name);
-  for (const std::string_view key : kPositionKeys) {
-    if (capitals == key) return true;
-  }
-  return false;
+  return std::any_of(kPositionKeys.begin(), kPositionKeys.end(),
+                     [&](std::string_view key) { return page.EqualsIgnoringCase(name, key); });
 }
 
 bool HasPosition(std::string_view block, const CodePage& page) {
-  const Tokens items = SplitTokens(block, ';');
-  for (std::size_t n = 1; n <= items.Count(); ++n) {
-    if (IsPositionLike(items[n], page)) return true;
+  CheckTokenCount(block, ';');
+  std::optional<std::string_view> rest = block;
+  while (rest) {
+    if (IsPositionLike(TakeToken(rest, ';'), page)) return true;
   }
   return false;
 }
 
-// An open character inside an open block begins the block anew; a close character without one judges nothing.
-std::vector<Block> FindBlocks(std::string_view line, char open, char close, const CodePage& page) {
-  std::vector<Block> blocks;
-  bool inBlock = false;
-  std::size_t begin = 0;
-  for (std::size_t at = 0; at < line.size(); ++at) {
-    if (line[at] == close && inBlock) {
-      blocks.push_back({begin, at, HasPosition(line.substr(begin + 1, at - begin - 1), page)});
-      inBlock = false;
-    } else if (line[at] == open) {
-      inBlock = true;
-      begin = at;
-    }
-  }
-  return blocks;
+// What is judged once it is known where the next block begins.
+void Disarm(std::string& result, std::string_view line, const Block& block, std::size_t next) {
+  if (block.hasPosition) return;
+  const bool textBehind = !Trim(line.substr(block.close + 1, next - block.close - 1)).empty();
+  // A block that stays a command gets back braces, whatever the document's own characters are.
+  result[block.open] = textBehind ? kDisarmedOpen : '{';
+  result[block.close] = textBehind ? kDisarmedClose : '}';
 }
 
 }  // namespace
 
-std::string PreprocessLine(std::string_view line, char open, char close, const CodePage& page) {
-  std::string result(line);
-  if (TrimLeft(line).starts_with('[')) return result;
-  const std::vector<Block> blocks = FindBlocks(line, open, close, page);
-  for (std::size_t n = 0; n < blocks.size(); ++n) {
-    const Block& block = blocks[n];
-    if (block.hasPosition) continue;
-    const std::size_t next = n + 1 < blocks.size() ? blocks[n + 1].open : line.size();
-    const bool textBehind = !Trim(line.substr(block.close + 1, next - block.close - 1)).empty();
-    // A block that stays a command gets back braces, whatever the document's own characters are.
-    result[block.open] = textBehind ? kDisarmedOpen : '{';
-    result[block.close] = textBehind ? kDisarmedClose : '}';
+// An open character inside an open block begins the block anew; a close character without one judges nothing.
+void PreprocessLine(std::string& result, std::string_view line, char open, char close, const CodePage& page) {
+  result.assign(line);
+  if (TrimLeft(line).starts_with('[')) return;
+  std::optional<Block> before;
+  constexpr std::size_t kNone = std::string_view::npos;
+  std::size_t begin = kNone;
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    if (line[at] != open && line[at] != close) continue;
+    if (line[at] == close && begin != kNone) {
+      if (before) Disarm(result, line, *before, begin);
+      before = {begin, at, HasPosition(line.substr(begin + 1, at - begin - 1), page)};
+      begin = kNone;
+    } else if (line[at] == open) {
+      begin = at;
+    }
   }
+  if (before) Disarm(result, line, *before, line.size());
+}
+
+std::string PreprocessLine(std::string_view line, char open, char close, const CodePage& page) {
+  std::string result;
+  PreprocessLine(result, line, open, close, page);
   return result;
 }
 

@@ -139,7 +139,7 @@ class TemplateReader {
   void ScanContent(std::string_view line, std::size_t removed);
   void ApplyBlock();
   void Flush();
-  void KeepText(char c, std::size_t column);
+  void KeepText(std::string_view text, std::size_t column);
   template <typename Work>
   void AtText(const Work& work);
   void NoteLostText();
@@ -153,6 +153,7 @@ class TemplateReader {
   Document document_;
   ReaderState state_;
   std::string currentSection_{kHeader};
+  std::string prepared_;  // the line as it is scanned
   std::string textBuffer_;
   std::string commandBuffer_;
   bool inBlock_ = false;
@@ -298,13 +299,12 @@ void TemplateReader::ReadLayout() {
 
 void TemplateReader::ReadLayoutLine(std::string_view line) {
   const DocumentSettings& settings = document_.Settings;
-  const std::string prepared =
-      PreprocessLine(line, settings.OpenCharacter(), settings.CloseCharacter(), page_);
-  if (prepared != line) NoteDisarmedBlocks(line, prepared);
-  const std::string_view content = WithoutLeadingTabs(prepared);
+  PreprocessLine(prepared_, line, settings.OpenCharacter(), settings.CloseCharacter(), page_);
+  if (prepared_ != line) NoteDisarmedBlocks(line, prepared_);
+  const std::string_view content = WithoutLeadingTabs(prepared_);
   const std::string_view trimmed = Trim(content);
   if (!trimmed.starts_with('['))
-    return ScanContent(trimmed, static_cast<std::size_t>(trimmed.data() - prepared.data()));
+    return ScanContent(trimmed, static_cast<std::size_t>(trimmed.data() - prepared_.data()));
   if (state_.cursor.OpenSubsection != 0) CloseSubsection();
   const std::string capitals = page_.Upper(trimmed);
   if (capitals == "[DATA]" || capitals == "[FOOTER]") currentSection_ = capitals;
@@ -319,8 +319,16 @@ void TemplateReader::ScanContent(std::string_view line, std::size_t removed) {
   inBlock_ = false;
   std::size_t blockColumn = 1;
   for (std::size_t at = 0; at < line.size(); ++at) {
-    const char c = line[at];
-    if (c == close) {
+    const std::size_t begin = at;
+    while (at < line.size() && line[at] != open && line[at] != close)
+      ++at;
+    const std::string_view run = line.substr(begin, at - begin);
+    if (inBlock_)
+      commandBuffer_ += run;
+    else if (!run.empty())
+      KeepText(run, removed + begin + 1);
+    if (at == line.size()) return;
+    if (line[at] == close) {
       state_.column = blockColumn;
       NoteLostText();
       inBlock_ = false;
@@ -328,11 +336,7 @@ void TemplateReader::ScanContent(std::string_view line, std::size_t removed) {
       hasText_ = false;
       ApplyBlock();
     }
-    if (inBlock_) commandBuffer_ += c;
-    if (!inBlock_ && c != open && c != close) {
-      KeepText(c, removed + at + 1);
-    }
-    if (c == open) {
+    if (line[at] == open) {
       state_.column = blockColumn = removed + at + 1;
       inBlock_ = true;
       commandBuffer_.clear();
@@ -349,13 +353,15 @@ void TemplateReader::ApplyBlock() {
   ApplyCommands(state_, commandBuffer_);
 }
 
-void TemplateReader::KeepText(char c, std::size_t column) {
-  textBuffer_ += c;
+void TemplateReader::KeepText(std::string_view text, std::size_t column) {
+  textBuffer_ += text;
   textIsFlushed_ = false;
-  if (hasText_ || c == kBlank) return;
+  if (hasText_) return;
+  const std::size_t first = text.find_first_not_of(kBlank);
+  if (first == std::string_view::npos) return;
   hasText_ = true;
   textLine_ = state_.line;
-  textColumn_ = column;
+  textColumn_ = column + first;
 }
 
 // Texts are told where they began, which may be lines above the place at which they end.

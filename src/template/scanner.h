@@ -38,6 +38,9 @@ void AttachRows(std::vector<Finding>& findings, const std::vector<SourcePlace>& 
 // Whether the text of a block is made of commands and of nothing else.
 bool LooksLikeCommands(std::string_view block, const CodePage& page);
 
+// Prepares a line into a text that is used again for each.
+void PreprocessLine(std::string& result, std::string_view line, char open, char close, const CodePage& page);
+
 // Applies the text of one command block.
 void ApplyCommands(ReaderState& state, std::string_view block);
 

@@ -13,17 +13,14 @@ struct Traits {
 };
 
 void Look(Traits& traits, std::string_view line, const CodePage& page) {
-  const std::string_view trimmed = Trim(line);
-  const std::string capitals = page.Upper(trimmed);
-  traits.header |= capitals == "[HEADER]";
-  traits.data |= capitals == "[DATA]";
-  traits.footer |= capitals == "[FOOTER]";
-  traits.bracketed |= trimmed.starts_with('[') && trimmed.ends_with(']');
-  if (line.find(" @") != std::string_view::npos) {
-    traits.mentions += 1000;
-  } else if (line.find('@') != std::string_view::npos) {
-    traits.mentions += 1;
+  if (const std::string_view trimmed = Trim(line); trimmed.starts_with('[')) {
+    traits.header |= page.EqualsIgnoringCase(trimmed, "[HEADER]");
+    traits.data |= page.EqualsIgnoringCase(trimmed, "[DATA]");
+    traits.footer |= page.EqualsIgnoringCase(trimmed, "[FOOTER]");
+    traits.bracketed |= trimmed.ends_with(']');
   }
+  if (line.find('@') == std::string_view::npos) return;
+  traits.mentions += line.find(" @") != std::string_view::npos ? 1000 : 1;
 }
 
 // Three limits are tried and the last that holds wins, so that the first two never show.
@@ -39,8 +36,8 @@ char MentionDigit(long mentions) {
 
 std::string CheckTemplateBytes(std::string_view bytes, const CodePage& page) {
   Traits traits;
-  for (const std::string_view line : SplitLines(bytes))
-    Look(traits, line, page);
+  while (!bytes.empty())
+    Look(traits, TakeLine(bytes), page);
   std::string check;
   for (const bool trait : {traits.header, traits.data, traits.footer, traits.bracketed})
     check += trait ? '1' : '0';

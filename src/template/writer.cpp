@@ -10,9 +10,10 @@
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
-#include "document/sections.h"
+#include "document/band_layout.h"
 #include "template/object_writer.h"
 #include "template/regroup.h"
+#include "template/snapshot_text.h"
 
 namespace kev {
 namespace {
@@ -30,13 +31,14 @@ bool IsConfiguration(const ObjectRecord& bar, const CodePage& page) {
 
 class TemplateWriter {
  public:
-  TemplateWriter(Document& document, const WriteOptions& options, WriteReport& report)
+  // `layout` is where the sorted rows come to stand, wherever they stand in the document.
+  TemplateWriter(const Document& document, const SortedRows& sorted, const BandLayout& layout,
+                 const WriteOptions& options, WriteReport& report)
       : document_(document),
         page_(*document.Page),
-        sorted_(SetSortKeys(document)),
-        lines_(document, options, report) {
-    NormaliseSubsections(document, sorted_);
-  }
+        sorted_(sorted),
+        layout_(layout),
+        lines_(document, options, report) {}
 
   std::string StageOne();
 
@@ -55,9 +57,10 @@ class TemplateWriter {
   std::vector<Bar> CollectBars() const;
   void DistributeRows(std::vector<Bar>& bars) const;
 
-  Document& document_;
+  const Document& document_;
   const CodePage& page_;
-  SortedRows sorted_;
+  const SortedRows& sorted_;
+  const BandLayout& layout_;
   ObjectWriter lines_;
 };
 
@@ -127,16 +130,16 @@ std::vector<TemplateWriter::Bar> TemplateWriter::CollectBars() const {
 // lost.
 void TemplateWriter::DistributeRows(std::vector<Bar>& bars) const {
   if (bars.empty()) return;
-  const OwnerIndex index(document_);
-  std::map<int, std::size_t> barAt;
-  for (std::size_t n = 0; n < bars.size(); ++n)
-    barAt.emplace(bars[n].row, n);
-  std::size_t above = 0;
+  const std::vector<int> owners = OwnersIn(document_, layout_);
+  std::vector<Bar*> barAt(owners.size());
+  for (Bar& bar : bars)
+    barAt[static_cast<std::size_t>(bar.row)] = &bar;
+  Bar* above = &bars.front();
   for (const int row : sorted_.Rows) {
-    if (const auto bar = barAt.find(row); bar != barAt.end()) above = bar->second;
+    if (Bar* bar = barAt[static_cast<std::size_t>(row)]) above = bar;
     if (IsBand(document_.Objects[row].Kind)) continue;
-    const auto owner = barAt.find(index.OwnerOf(row));
-    bars[owner == barAt.end() ? above : owner->second].rows.push_back(row);
+    Bar* owner = barAt[static_cast<std::size_t>(owners[static_cast<std::size_t>(row)])];
+    (owner == nullptr ? above : owner)->rows.push_back(row);
   }
   for (Bar& bar : bars) {
     std::stable_sort(bar.rows.begin(), bar.rows.end(),
@@ -153,22 +156,37 @@ void TemplateWriter::Subsections() {
     const std::string_view head = HeadLine(record);
     // A section that stands twice: without a head line the reader would take the rows of the second for those
     // of the bar above.
-    lines_.Subsection(record, section, head.empty() && !bar.isBase ? section : head);
+    lines_.Subsection(record, layout_.SectionCursorY[static_cast<std::size_t>(bar.row)], section,
+                      head.empty() && !bar.isBase ? section : head);
     for (const int row : bar.rows)
       lines_.Object(document_.Objects[row]);
     if (record.EndRow != 0) lines_.EndOfSubsection(document_.Objects[record.EndRow]);
   }
 }
 
+std::string LaidOutStageOne(Document& document, const WriteOptions& options, WriteReport& report) {
+  const SortedRows sorted = SetSortKeys(document);
+  const BandLayout layout = LayOutBands(document, sorted);
+  StoreLayout(document, sorted, layout);
+  return TemplateWriter(document, sorted, layout, options, report).StageOne();
+}
+
 }  // namespace
 
 std::string TemplateText(Document& document, const WriteOptions& options, WriteReport& report) {
-  return RegroupBySection(TemplateWriter(document, options, report).StageOne(), *document.Page);
+  return RegroupBySection(LaidOutStageOne(document, options, report), *document.Page);
+}
+
+std::string SnapshotText(const Document& document, const WriteOptions& options, WriteReport& report) {
+  const SortedRows sorted = SortRows(document);
+  const BandLayout layout = LayOutBands(document, sorted);
+  return RegroupBySection(TemplateWriter(document, sorted, layout, options, report).StageOne(),
+                          *document.Page);
 }
 
 WriteReport WriteTemplate(const std::string& path, Document& document, const WriteOptions& options) {
   WriteReport report;
-  const std::string stageOne = TemplateWriter(document, options, report).StageOne();
+  const std::string stageOne = LaidOutStageOne(document, options, report);
   const std::string temporary = path + ".tmp";
   report.Failure = WritePlainFile(temporary, stageOne);
   if (!report.Failure) report.Failure = WriteWholeFile(path, RegroupBySection(stageOne, *document.Page));

@@ -34,6 +34,11 @@ TEST(Regroup, TakesOnlyWholeLinesForMarkers) {
             Lines({"[HEADER]", "[FOOTER]", "[DATA]", "<[DATA] x", " <[FOOTER]", "<[data]"}));
 }
 
+TEST(Regroup, GivesEachLineTheSameEnd) {
+  EXPECT_EQ(RegroupBySection("[HEADER]\r\n<[DATA]\na\nb\r\n\nc\r\r\nd\r", CodePage::Default()),
+            "[HEADER]\r\n[FOOTER]\r\n[DATA]\r\na\r\nb\r\n\r\nc\r\r\nd\r\r\n");
+}
+
 TEST(Regroup, KeepsEmptyLines) {
   EXPECT_EQ(Regroup({"[HEADER]", "<[DATA]", "", "d", ""}),
             Lines({"[HEADER]", "[FOOTER]", "[DATA]", "", "d", ""}));
