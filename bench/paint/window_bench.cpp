@@ -1,79 +1,30 @@
 // SPDX-License-Identifier: MIT
-// The whole window with a document open: what the user waits for between an edit and the page that shows it,
-// the recovery file included.
-#include <QApplication>
-#include <QTemporaryDir>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
+// What the user waits for in the whole window, until the page is painted and the recovery file written,
+// beside one snapshot and one repaint in the same window.
+#include <benchmark/benchmark.h>
 
-#include "platform/forms/kav_edit01.h"
-#include "platform/forms/kavsplash.h"
-#include "platform/qt_measurer.h"
-#include "support/sample_template.h"
+#include <QPainter>
+#include <QPixmap>
+#include <QScrollBar>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "paint/open_window.h"
 
 namespace kev::bench {
 namespace {
 
-class Window {
- public:
-  explicit Window(int rows)
-      : images_({}),
-        measurer_(fonts_),
-        designer_(host_, measurer_,
-                  {Variables(), ExecutableFolder(), {Template(rows)}, StartInput::LocalTime}),
-        loaded_(designer_.Load()),
-        window_(designer_, host_, fonts_, images_) {
-    window_.show();
-    while (designer_.DocumentPath().empty()) {
-      if (auto* splash = window_.findChild<kavsplash*>()) splash->close();
-      QCoreApplication::processEvents();
-    }
-    Settle();
+// What no change can do without.
+void PushAndRepaint(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  DesignSurface& surface = window.TheDesigner().Surface();
+  for ([[maybe_unused]] auto run : state) {
+    surface.PushUndo();
+    surface.Redraw();
+    Window::Settle();
   }
-
-  Designer& TheDesigner() { return designer_; }
-  int LastLabel() {
-    const ObjectTable& objects = designer_.OpenDocument().Objects;
-    int last = 0;
-    for (int row = 1; row <= objects.LastScanned(); ++row)
-      if (objects[row].Kind == ObjectKind::Label) last = row;
-    return last;
-  }
-  // What was put off is done, and everything that changed is painted.
-  static void Settle() {
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-  }
-
- private:
-  Environment Variables() {
-    for (const char* folder : {"temp/Kev/Cache", "temp/Kev/Temp", "data/Kev/temp"})
-      std::filesystem::create_directories(home_ + folder);
-    return [home = home_](std::string_view name) -> std::optional<std::string> {
-      if (name == "TEMP") return home + "temp";
-      if (name == "appdata") return home + "data";
-      return std::nullopt;
-    };
-  }
-  std::string Template(int rows) const {
-    const std::string path = home_ + "sample.kev";
-    std::ofstream(path, std::ios::binary) << SampleTemplate(rows);
-    return path;
-  }
-
-  QTemporaryDir folder_;
-  std::string home_ = folder_.path().toStdString() + "/";
-  QtHost host_;
-  FontCache fonts_;
-  ImageCache images_;
-  QtMeasurer measurer_;
-  Designer designer_;
-  bool loaded_;
-  KavEdit01 window_;
-};
+}
 
 // An object is clicked on and its sheet shows.
 void ShowSheetInWindow(benchmark::State& state) {
@@ -97,8 +48,189 @@ void EditInWindow(benchmark::State& state) {
   }
 }
 
+// A command on a group, and what brings the page back to where the command began.
+void RunAgain(benchmark::State& state, Command command, const std::function<void(DesignSurface&)>& prepare,
+              const std::function<void(DesignSurface&)>& goBack) {
+  Window window(static_cast<int>(state.range(0)));
+  DesignSurface& surface = window.TheDesigner().Surface();
+  prepare(surface);
+  for ([[maybe_unused]] auto run : state) {
+    surface.Run(command);
+    Window::Settle();
+    state.PauseTiming();
+    goBack(surface);
+    Window::Settle();
+    state.ResumeTiming();
+  }
+}
+
+void SelectAllObjects(DesignSurface& surface) {
+  surface.Run(Command::SelectAll);
+  Window::Settle();
+}
+
+void DeleteAllObjects(DesignSurface& surface) {
+  SelectAllObjects(surface);
+  surface.Run(Command::DeleteSelection);
+  Window::Settle();
+}
+
+void SelectAllInWindow(benchmark::State& state) {
+  RunAgain(
+      state, Command::SelectAll, [](DesignSurface&) {},
+      [](DesignSurface& surface) { surface.GoToObject(3); });
+}
+
+void DeleteInWindow(benchmark::State& state) {
+  RunAgain(state, Command::DeleteSelection, SelectAllObjects, [](DesignSurface& surface) {
+    surface.Run(Command::Undo);
+    SelectAllObjects(surface);
+  });
+}
+
+void UndoInWindow(benchmark::State& state) {
+  RunAgain(state, Command::Undo, DeleteAllObjects, [](DesignSurface& surface) { DeleteAllObjects(surface); });
+}
+
+// The objects were cut before, and all find their rows again.
+void PasteInWindow(benchmark::State& state) {
+  const auto cut = [](DesignSurface& surface) {
+    SelectAllObjects(surface);
+    surface.Run(Command::CutGroup);
+    Window::Settle();
+  };
+  RunAgain(state, Command::Paste, cut, cut);
+}
+
+void InsertInWindow(benchmark::State& state) {
+  // One row is left for the object that is inserted.
+  Window window(static_cast<int>(state.range(0)) - 1);
+  DesignSurface& surface = window.TheDesigner().Surface();
+  for ([[maybe_unused]] auto run : state) {
+    surface.Run(Command::InsertLabel);
+    Window::Settle();
+    state.PauseTiming();
+    surface.Run(Command::Undo);
+    Window::Settle();
+    state.ResumeTiming();
+  }
+}
+
+PointerInput Held(PointerSource source, double x, double y) {
+  return {.Source = source,
+          .Index = source == PointerSource::Page ? 0 : 1,
+          .Button = PointerButton::Left,
+          .X = x,
+          .Y = y};
+}
+
+// A whole drag of the group, from the press to the release.
+void MoveInWindow(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  DesignSurface& surface = window.TheDesigner().Surface();
+  SelectAllObjects(surface);
+  constexpr double kStep = 10 * kUnitsPerPixel;
+  double by = kStep;
+  for ([[maybe_unused]] auto run : state) {
+    const CanvasArea& area = surface.Pointer().Bounds;
+    const double x = (area.Left + area.Right) / 2, y = (area.Top + area.Bottom) / 2;
+    surface.PointerPress(Held(PointerSource::Page, x, y));
+    surface.PointerMove(Held(PointerSource::Page, x, y + by));
+    surface.PointerRelease(Held(PointerSource::Page, x, y + by));
+    by = -by;
+    Window::Settle();
+  }
+  if (!surface.Pointer().MultiSelected) state.SkipWithError("the group was lost");
+}
+
+// One label under the pointer.
+void DragStepInWindow(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  DesignSurface& surface = window.TheDesigner().Surface();
+  surface.GoToObject(window.LastLabel());
+  Window::Settle();
+  const CanvasArea area = surface.Pointer().Overlay[1];
+  surface.PointerPress(Held(PointerSource::Overlay, area.Left + 30, area.Top + 30));
+  double by = 300;
+  for ([[maybe_unused]] auto run : state) {
+    surface.PointerMove(Held(PointerSource::Overlay, area.Left + 30 - by, area.Top + 30));
+    by = 450 - by;
+    Window::Settle();
+  }
+  if (!surface.Busy()) state.SkipWithError("nothing was dragged");
+  surface.CancelGesture();
+}
+
+// Nothing but the widgets that stand above the page.
+void DragStepInWindowFloor(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  window.TheDesigner().Surface().GoToObject(window.LastLabel());
+  Window::Settle();
+  std::vector<QWidget*> widgets;
+  for (auto* child : window.Page().viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+    if (child->isVisible()) widgets.push_back(child);
+  if (widgets.empty()) return state.SkipWithError("nothing stands above the page");
+  int by = 10;
+  for ([[maybe_unused]] auto run : state) {
+    for (QWidget* widget : widgets)
+      widget->move(widget->pos() + QPoint(by, 0));
+    by = -by;
+    Window::Settle();
+  }
+}
+
+void ScrollPageInWindow(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  window.TheDesigner().SetZoom("200");
+  Window::Settle();
+  QScrollBar& bar = *window.Page().verticalScrollBar();
+  bool back = false;
+  for ([[maybe_unused]] auto run : state) {
+    bar.triggerAction((back = !back) ? QAbstractSlider::SliderPageStepAdd
+                                     : QAbstractSlider::SliderPageStepSub);
+    Window::Settle();
+  }
+}
+
+// A widget that has the pixels of its window ready.
+class Picture final : public QWidget {
+ public:
+  explicit Picture(QPixmap pixels) : pixels_(std::move(pixels)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    resize(pixels_.size());
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(0, 0, pixels_); }
+
+ private:
+  QPixmap pixels_;
+};
+
+void ScrollPageInWindowFloor(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  Picture picture(window.Page().viewport()->grab());
+  picture.show();
+  Window::Settle();
+  for ([[maybe_unused]] auto run : state) {
+    picture.update();
+    Window::Settle();
+  }
+}
+
 BENCHMARK(ShowSheetInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(EditInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(PushAndRepaint)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(SelectAllInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(DeleteInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(UndoInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(PasteInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(InsertInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(MoveInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(DragStepInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(DragStepInWindowFloor)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(ScrollPageInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(ScrollPageInWindowFloor)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 }  // namespace
 }  // namespace kev::bench
