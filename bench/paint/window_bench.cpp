@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "document/sections.h"
+#include "document/kind_defaults.h"
 #include "paint/open_window.h"
 
 namespace kev::bench {
