@@ -132,20 +132,6 @@ void PasteInWindow(benchmark::State& state) {
   RunAgain(state, {Command::Paste, cut, cut});
 }
 
-// One row is free for the object that is inserted.
-void InsertInWindow(benchmark::State& state) {
-  const auto makeRoom = [](Designer& designer) {
-    ObjectTable& objects = designer.OpenDocument().Objects;
-    int last = objects.LastScanned();
-    while (objects[last].Kind != ObjectKind::Label)
-      --last;
-    objects[last] = ObjectRecord();
-    designer.Surface().FullRepaint();
-    Window::Settle();
-  };
-  RunAgain(state, {Command::InsertLabel, makeRoom, GoBack});
-}
-
 PointerInput Held(PointerSource source, double x, double y) {
   return {.Source = source,
           .Index = source == PointerSource::Page ? 0 : 1,
@@ -254,7 +240,6 @@ BENCHMARK(PushAndRepaint)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->Use
 BENCHMARK(DeleteInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(UndoInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(PasteInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
-BENCHMARK(InsertInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(MoveInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(DragStepInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(DragStepInWindowFloor)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
