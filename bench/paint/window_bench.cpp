@@ -7,7 +7,6 @@
 #include <QPixmap>
 #include <QScrollBar>
 #include <utility>
-#include <vector>
 
 #include "document/kind_defaults.h"
 #include "paint/open_window.h"
@@ -132,12 +131,8 @@ void PasteInWindow(benchmark::State& state) {
   RunAgain(state, {Command::Paste, cut, cut});
 }
 
-PointerInput Held(PointerSource source, double x, double y) {
-  return {.Source = source,
-          .Index = source == PointerSource::Page ? 0 : 1,
-          .Button = PointerButton::Left,
-          .X = x,
-          .Y = y};
+PointerInput Held(double x, double y) {
+  return {.Button = PointerButton::Left, .X = x, .Y = y};
 }
 
 // A whole drag of the group, from the press to the release.
@@ -150,49 +145,13 @@ void MoveInWindow(benchmark::State& state) {
   for ([[maybe_unused]] auto run : state) {
     const CanvasArea& area = surface.Pointer().Bounds;
     const double x = (area.Left + area.Right) / 2, y = (area.Top + area.Bottom) / 2;
-    surface.PointerPress(Held(PointerSource::Page, x, y));
-    surface.PointerMove(Held(PointerSource::Page, x, y + by));
-    surface.PointerRelease(Held(PointerSource::Page, x, y + by));
+    surface.PointerPress(Held(x, y));
+    surface.PointerMove(Held(x, y + by));
+    surface.PointerRelease(Held(x, y + by));
     by = -by;
     Window::Settle();
   }
   if (!surface.Pointer().MultiSelected) state.SkipWithError("the group was lost");
-}
-
-// One label under the pointer.
-void DragStepInWindow(benchmark::State& state) {
-  Window window(static_cast<int>(state.range(0)));
-  DesignSurface& surface = window.TheDesigner().Surface();
-  surface.GoToObject(window.LastLabel());
-  Window::Settle();
-  const CanvasArea area = surface.Pointer().Overlay[1];
-  surface.PointerPress(Held(PointerSource::Overlay, area.Left + 30, area.Top + 30));
-  double by = 300;
-  for ([[maybe_unused]] auto run : state) {
-    surface.PointerMove(Held(PointerSource::Overlay, area.Left + 30 - by, area.Top + 30));
-    by = 450 - by;
-    Window::Settle();
-  }
-  if (!surface.Busy()) state.SkipWithError("nothing was dragged");
-  surface.CancelGesture();
-}
-
-// Nothing but the widgets that stand above the page.
-void DragStepInWindowFloor(benchmark::State& state) {
-  Window window(static_cast<int>(state.range(0)));
-  window.TheDesigner().Surface().GoToObject(window.LastLabel());
-  Window::Settle();
-  std::vector<QWidget*> widgets;
-  for (auto* child : window.Page().viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-    if (child->isVisible()) widgets.push_back(child);
-  if (widgets.empty()) return state.SkipWithError("nothing stands above the page");
-  int by = 10;
-  for ([[maybe_unused]] auto run : state) {
-    for (QWidget* widget : widgets)
-      widget->move(widget->pos() + QPoint(by, 0));
-    by = -by;
-    Window::Settle();
-  }
 }
 
 void ScrollPageInWindow(benchmark::State& state) {
@@ -241,8 +200,6 @@ BENCHMARK(DeleteInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->Use
 BENCHMARK(UndoInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(PasteInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(MoveInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
-BENCHMARK(DragStepInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
-BENCHMARK(DragStepInWindowFloor)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(ScrollPageInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(ScrollPageInWindowFloor)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
