@@ -1,79 +1,29 @@
 // SPDX-License-Identifier: MIT
-// The whole window with a document open: what the user waits for between an edit and the page that shows it,
-// the recovery file included.
-#include <QApplication>
-#include <QTemporaryDir>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
+// What the user waits for in the whole window, until the page is painted and the recovery file written,
+// beside one snapshot and one repaint in the same window.
+#include <benchmark/benchmark.h>
 
-#include "platform/forms/kav_edit01.h"
-#include "platform/forms/kavsplash.h"
-#include "platform/qt_measurer.h"
-#include "support/sample_template.h"
+#include <QPainter>
+#include <QPixmap>
+#include <QScrollBar>
+#include <utility>
+
+#include "document/kind_defaults.h"
+#include "paint/open_window.h"
 
 namespace kev::bench {
 namespace {
 
-class Window {
- public:
-  explicit Window(int rows)
-      : images_({}),
-        measurer_(fonts_),
-        designer_(host_, measurer_,
-                  {Variables(), ExecutableFolder(), {Template(rows)}, StartInput::LocalTime}),
-        loaded_(designer_.Load()),
-        window_(designer_, host_, fonts_, images_) {
-    window_.show();
-    while (designer_.DocumentPath().empty()) {
-      if (auto* splash = window_.findChild<kavsplash*>()) splash->close();
-      QCoreApplication::processEvents();
-    }
-    Settle();
+// What no change can do without.
+void PushAndRepaint(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  DesignSurface& surface = window.TheDesigner().Surface();
+  for ([[maybe_unused]] auto run : state) {
+    surface.PushUndo();
+    surface.Redraw();
+    Window::Settle();
   }
-
-  Designer& TheDesigner() { return designer_; }
-  int LastLabel() {
-    const ObjectTable& objects = designer_.OpenDocument().Objects;
-    int last = 0;
-    for (int row = 1; row <= objects.LastScanned(); ++row)
-      if (objects[row].Kind == ObjectKind::Label) last = row;
-    return last;
-  }
-  // What was put off is done, and everything that changed is painted.
-  static void Settle() {
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-  }
-
- private:
-  Environment Variables() {
-    for (const char* folder : {"temp/Kev/Cache", "temp/Kev/Temp", "data/Kev/temp"})
-      std::filesystem::create_directories(home_ + folder);
-    return [home = home_](std::string_view name) -> std::optional<std::string> {
-      if (name == "TEMP") return home + "temp";
-      if (name == "appdata") return home + "data";
-      return std::nullopt;
-    };
-  }
-  std::string Template(int rows) const {
-    const std::string path = home_ + "sample.kev";
-    std::ofstream(path, std::ios::binary) << SampleTemplate(rows);
-    return path;
-  }
-
-  QTemporaryDir folder_;
-  std::string home_ = folder_.path().toStdString() + "/";
-  QtHost host_;
-  FontCache fonts_;
-  ImageCache images_;
-  QtMeasurer measurer_;
-  Designer designer_;
-  bool loaded_;
-  KavEdit01 window_;
-};
+}
 
 // An object is clicked on and its sheet shows.
 void ShowSheetInWindow(benchmark::State& state) {
@@ -97,8 +47,161 @@ void EditInWindow(benchmark::State& state) {
   }
 }
 
+// What a command does to the group, and what brings the page back to where the command began.
+struct GroupCommand {
+  Command command;
+  void (*prepare)(Designer&);
+  void (*goBack)(Designer&);
+};
+
+constexpr int kMostInGroup = 1000;
+
+int CountObjects(const Document& document) {
+  int count = 0;
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row)
+    count += document.Objects[row].Kind == ObjectKind::None ? 0 : 1;
+  return count;
+}
+
+// Where a click would have put the position at which objects are inserted.
+double FirstBodyOf(const Document& document) {
+  int row = 1;
+  while (document.Objects[row].Kind != ObjectKind::Subsection)
+    ++row;
+  return document.Objects[row].AbsoluteY + kBarHeight;
+}
+
+void RunAgain(benchmark::State& state, const GroupCommand& row) {
+  Window window(static_cast<int>(state.range(0)));
+  Designer& designer = window.TheDesigner();
+  row.prepare(designer);
+  for ([[maybe_unused]] auto run : state) {
+    state.PauseTiming();
+    const int before = CountObjects(designer.OpenDocument());
+    designer.Surface().Pointer().KeepPosition({1000, FirstBodyOf(designer.OpenDocument())});
+    state.ResumeTiming();
+    designer.Surface().Run(row.command);
+    Window::Settle();
+    state.PauseTiming();
+    if (CountObjects(designer.OpenDocument()) == before) return state.SkipWithError("nothing happened");
+    row.goBack(designer);
+    state.ResumeTiming();
+  }
+}
+
+void SelectGroup(Designer& designer) {
+  ObjectTable& objects = designer.OpenDocument().Objects;
+  int left = kMostInGroup;
+  for (int row = 1; row <= objects.LastScanned(); ++row) {
+    const ObjectKind kind = objects[row].Kind;
+    const bool joins = kind != ObjectKind::None && !IsBand(kind) && left > 0;
+    objects[row].Selected = joins ? kTrue : kFalse;
+    left -= joins ? 1 : 0;
+  }
+  designer.Surface().Pointer().MultiSelected = true;
+  designer.Surface().FullRepaint();
+  Window::Settle();
+}
+
+void RunOnGroup(Designer& designer, Command command) {
+  SelectGroup(designer);
+  designer.Surface().Run(command);
+  Window::Settle();
+}
+
+void GoBack(Designer& designer) {
+  designer.Surface().Run(Command::Undo);
+  Window::Settle();
+}
+
+void DeleteInWindow(benchmark::State& state) {
+  RunAgain(state, {Command::DeleteSelection, SelectGroup, [](Designer& designer) {
+                     GoBack(designer);
+                     SelectGroup(designer);
+                   }});
+}
+
+void UndoInWindow(benchmark::State& state) {
+  const auto remove = [](Designer& designer) { RunOnGroup(designer, Command::DeleteSelection); };
+  RunAgain(state, {Command::Undo, remove, remove});
+}
+
+void PasteInWindow(benchmark::State& state) {
+  const auto cut = [](Designer& designer) { RunOnGroup(designer, Command::CutGroup); };
+  RunAgain(state, {Command::Paste, cut, cut});
+}
+
+PointerInput Held(double x, double y) {
+  return {.Button = PointerButton::Left, .X = x, .Y = y};
+}
+
+// A whole drag of the group, from the press to the release.
+void MoveInWindow(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  DesignSurface& surface = window.TheDesigner().Surface();
+  SelectGroup(window.TheDesigner());
+  constexpr double kStep = 10 * kUnitsPerPixel;
+  double by = kStep;
+  for ([[maybe_unused]] auto run : state) {
+    const CanvasArea& area = surface.Pointer().Bounds;
+    const double x = (area.Left + area.Right) / 2, y = (area.Top + area.Bottom) / 2;
+    surface.PointerPress(Held(x, y));
+    surface.PointerMove(Held(x, y + by));
+    surface.PointerRelease(Held(x, y + by));
+    by = -by;
+    Window::Settle();
+  }
+  if (!surface.Pointer().MultiSelected) state.SkipWithError("the group was lost");
+}
+
+void ScrollPageInWindow(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  window.TheDesigner().SetZoom("200");
+  Window::Settle();
+  QScrollBar& bar = *window.Page().verticalScrollBar();
+  bool back = false;
+  for ([[maybe_unused]] auto run : state) {
+    bar.triggerAction((back = !back) ? QAbstractSlider::SliderPageStepAdd
+                                     : QAbstractSlider::SliderPageStepSub);
+    Window::Settle();
+  }
+}
+
+// A widget that has the pixels of its window ready.
+class Picture final : public QWidget {
+ public:
+  explicit Picture(QPixmap pixels) : pixels_(std::move(pixels)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    resize(pixels_.size());
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).drawPixmap(0, 0, pixels_); }
+
+ private:
+  QPixmap pixels_;
+};
+
+void ScrollPageInWindowFloor(benchmark::State& state) {
+  Window window(static_cast<int>(state.range(0)));
+  Picture picture(window.Page().viewport()->grab());
+  picture.show();
+  Window::Settle();
+  for ([[maybe_unused]] auto run : state) {
+    picture.update();
+    Window::Settle();
+  }
+}
+
 BENCHMARK(ShowSheetInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(EditInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(PushAndRepaint)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(DeleteInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(UndoInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(PasteInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(MoveInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(ScrollPageInWindow)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(ScrollPageInWindowFloor)->Apply(AtAllSizes)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 }  // namespace
 }  // namespace kev::bench

@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "base/numbers.h"
 #include "platform/qt_measurer.h"
@@ -98,6 +99,7 @@ class DisplayList::Painting {
   void operator()(const Rect& rect);
   void operator()(const Circle& circle);
   void operator()(const Image& image) {
+    pen_.reset();
     list_.images_.Paint(painter_, image.file, QRectF(At(image.area.topLeft()), image.area.size() * kPixel),
                         image.scaling);
   }
@@ -110,6 +112,10 @@ class DisplayList::Painting {
 
   QPointF At(const QPointF& canvas) const { return (canvas - region_.topLeft()) * kPixel; }
   void UsePen(const Pen& pen, double dashOffset = 0);
+  bool IsSame(const Pen& pen) const {
+    return pen_ && pen_->colour == pen.colour && pen_->width == pen.width && pen_->style == pen.style;
+  }
+  void Smooth(bool on);
   void DrawLine(const QLineF& line, const Pen& pen);
   // What is left of an outline without width or height; a spot where both are missing.
   void DrawFlat(const QLineF& line, const Pen& pen);
@@ -123,9 +129,18 @@ class DisplayList::Painting {
   QRectF region_;
   QRectF window_;
   QList<QPointF> points_;
+  // The pen that the painter has, where it is known: primitives of one look often come in rows.
+  std::optional<Pen> pen_;
 };
 
+void DisplayList::Painting::Smooth(bool on) {
+  if (painter_.testRenderHint(QPainter::Antialiasing) != on)
+    painter_.setRenderHint(QPainter::Antialiasing, on);
+}
+
 void DisplayList::Painting::UsePen(const Pen& pen, double dashOffset) {
+  if (IsSame(pen) && pen.style == PenStyle::Solid) return;
+  pen_ = pen;
   QPen made(ToColour(pen.colour), pen.width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
   if (pen.style == PenStyle::Dotted) {
     made.setDashPattern({1, 2});
@@ -140,14 +155,14 @@ void DisplayList::Painting::DrawLine(const QLineF& line, const Pen& pen) {
   if (part.from > part.to) return;
   UsePen(pen, part.from * line.length());
   const bool level = line.dx() == 0 || line.dy() == 0;
-  painter_.setRenderHint(QPainter::Antialiasing, !level);
+  Smooth(!level);
   painter_.drawLine(QLineF(line.pointAt(part.from), line.pointAt(part.to)));
 }
 
 void DisplayList::Painting::DrawFlat(const QLineF& line, const Pen& pen) {
   if (!line.isNull()) return DrawLine(line, pen);
   UsePen(pen);
-  painter_.setRenderHint(QPainter::Antialiasing, false);
+  Smooth(false);
   painter_.drawPoint(line.p1());
 }
 
@@ -162,14 +177,14 @@ void DisplayList::Painting::DrawOutline(const QRectF& area, const Pen& pen) {
   // The intersection of a flat rectangle with any other is none at all.
   if (area.isEmpty()) return DrawFlat(QLineF(area.topLeft(), area.bottomRight()), pen);
   UsePen(pen);
-  painter_.setRenderHint(QPainter::Antialiasing, false);
+  Smooth(false);
   painter_.drawRect(area.intersected(Grown(window_, kBeyond + pen.width)));
 }
 
 void DisplayList::Painting::operator()(const Rect& rect) {
   const QRectF area(At(rect.area.topLeft()), rect.area.size() * kPixel);
   if (!rect.filled) return DrawOutline(area, rect.pen);
-  painter_.setRenderHint(QPainter::Antialiasing, false);
+  Smooth(false);
   const QRectF atLeastOnePixel(area.topLeft(), area.size().expandedTo(QSizeF(1, 1)));
   painter_.fillRect(atLeastOnePixel.intersected(Grown(window_, kBeyond)), ToColour(rect.pen.colour));
   if (rect.pen.width > 1) DrawOutline(area, rect.pen);
@@ -177,12 +192,13 @@ void DisplayList::Painting::operator()(const Rect& rect) {
 
 void DisplayList::Painting::operator()(const Circle& circle) {
   UsePen(circle.pen);
-  painter_.setRenderHint(QPainter::Antialiasing, true);
+  Smooth(true);
   const double radius = circle.radius * kPixel;
   painter_.drawEllipse(At(circle.centre), radius, radius);
 }
 
 void DisplayList::Painting::operator()(const Text& text) {
+  pen_.reset();
   painter_.setPen(ToColour(text.colour));
   list_.fonts_.Print(painter_, list_.specs_[text.font], At(text.at), text.text);
 }
@@ -198,7 +214,8 @@ void DisplayList::Painting::DrawDotRow(const Dots& dots, double y) {
 }
 
 void DisplayList::Painting::operator()(const Dots& dots) {
-  painter_.setRenderHint(QPainter::Antialiasing, false);
+  Smooth(false);
+  pen_.reset();
   painter_.setPen(QPen(ToColour(dots.colour), 1));
   const double top = std::max(dots.area.top(), region_.top() - dots.step);
   const double bottom = std::min(dots.area.bottom(), region_.bottom() + dots.step);
@@ -221,7 +238,7 @@ void DisplayList::Painting::operator()(const Symbol& symbol) {
     const QRectF part = QRectF(origin + area.topLeft() * kPixel, area.size() * kPixel) & seen;
     if (!part.isEmpty()) path.addRect(part);
   }
-  painter_.setRenderHint(QPainter::Antialiasing, true);
+  Smooth(true);
   painter_.fillPath(path, ToColour(symbol.colour));
 }
 

@@ -139,12 +139,13 @@ const QFont& FontCache::PrintFont(const FontSpec& spec) {
 void FontCache::Print(QPainter& painter, const FontSpec& spec, const QPointF& at, std::string_view text) {
   const double pixels = SanePoints(spec.Size) * kPixelsPerPoint;
   const double scale = pixels / kPrintPixels;
-  painter.save();
-  painter.translate(at.x(), at.y() + Face(spec).ascent * pixels);
-  painter.scale(scale, scale);
+  const QTransform kept = painter.worldTransform();
+  const QTransform place(scale, 0, 0, scale, at.x(), at.y() + Face(spec).ascent * pixels);
+  painter.setWorldTransform(place * kept);
   painter.setFont(PrintFont(spec));
   painter.drawText(QPointF(0, 0), Text(spec, text));
-  painter.restore();
+  // Keeping the whole state of the painter would cost about as much as a short text.
+  painter.setWorldTransform(kept);
 }
 
 const FaceMetrics& FontCache::Face(const FontSpec& spec) {

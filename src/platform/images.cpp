@@ -41,12 +41,24 @@ struct ImageCache::Entry {
 
 namespace {
 
+bool IsOpaque(const QImage& image) {
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    if (!std::all_of(row, row + image.width(), [](QRgb pixel) { return qAlpha(pixel) == 255; })) return false;
+  }
+  return true;
+}
+
 QImage ReadBitmap(const QString& path) {
   QImageReader reader(path);
   reader.setAutoTransform(true);
   // By what the file holds: pictures often come with the ending of another format.
   reader.setDecideFormatFromContent(true);
-  return reader.read();
+  QImage image = reader.read();
+  // Many files have an alpha channel that says nothing; the painter is several times faster without it.
+  if (image.format() == QImage::Format_ARGB32 && IsOpaque(image))
+    image.reinterpretAsFormat(QImage::Format_RGB32);
+  return image;
 }
 
 std::unique_ptr<QSvgRenderer> ReadDrawing(const QString& path) {

@@ -102,6 +102,14 @@ TEST_F(ColumnWindowTest, TheLinesMenuOpensTheDialogOfItsColumn) {
 // --- With the pointer, in a window that is on the screen
 // ---------------------------------------------------------
 
+struct SplashWatch final : QObject {
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    gone = gone || (event->type() == QEvent::Hide && qobject_cast<kavsplash*>(watched) != nullptr);
+    return false;
+  }
+  bool gone = false;
+};
+
 class ShownColumnWindowTest : public ColumnWindowTest {
  protected:
   ShownColumnWindowTest() {
@@ -110,18 +118,11 @@ class ShownColumnWindowTest : public ColumnWindowTest {
     OpenColumns();
     EXPECT_TRUE(designer.SetZoom("200"));
   }
-  // Behind it the program's own template comes.
+  // It goes by itself; behind it the program's own template comes.
   void CloseSplash() {
-    bool clicked = false;
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, window.get(), [&] {
-      auto* splash = window->findChild<kavsplash*>();
-      if (splash == nullptr || !splash->isVisible()) return;
-      clicked = true;
-      QTest::mouseClick(splash, Qt::LeftButton);
-    });
-    closer.start(1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return clicked && window->findChild<kavsplash*>() == nullptr; }));
+    SplashWatch watch;
+    qApp->installEventFilter(&watch);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watch.gone && window->findChild<kavsplash*>() == nullptr; }));
   }
   PageCanvas& Page() { return *window->findChild<PageCanvas*>(QStringLiteral("p1")); }
   QWidget& Rhor() { return *window->findChild<QWidget*>(QStringLiteral("rhor")); }

@@ -57,6 +57,7 @@ void kavsplash::showEvent(QShowEvent* event) {
 }
 
 void kavsplash::paintEvent(QPaintEvent* /*event*/) {
+  QTimer::singleShot(0, this, &QDialog::accept);
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   QLinearGradient blend(0, 0, kWidth, kHeight);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The splash form: stands while the documents' defaults and the options are read, and closes by itself.
+// The splash form: stands while defaults and options are read, and closes by itself as soon as it was seen.
 #pragma once
 
 #include <QDialog>
@@ -12,7 +12,7 @@ class kavsplash final : public QDialog {
  public:
   explicit kavsplash(const QString& programTitle, QWidget* parent = nullptr);
 
-  // How long it stands at most. A click or a key closes it at once.
+  // How long it stands where its picture is never asked for. A click or a key closes it at once.
   static constexpr int kMilliseconds = 700;
 
  protected:
