@@ -62,12 +62,12 @@ TEST_F(UndoCommands, APushMarksTheDocumentAndWritesTheTableAsItStood) {
 
 TEST_F(UndoCommands, TheRecoveryFileCarriesTheCommentsThatTheOptionsAskFor) {
   Edit("A1");
-  EXPECT_EQ(InCache().find("{rem=modulo"), std::string::npos);
+  EXPECT_EQ(InCache().find("{Rem=All Default"), std::string::npos);
   designer_ = Start({Work("a.kev"), "/!!#/"});
   Edit("A1");
   // The first file is still held while the second designer starts.
   const std::string file = *ReadWholeFile(Temp("Cache/Recovered_090531_a.kev"));
-  EXPECT_NE(file.find("{rem=modulo"), std::string::npos) << file;
+  EXPECT_NE(file.find("{Rem=All Default"), std::string::npos) << file;
 }
 
 TEST_F(UndoCommands, AFreshDocumentIsProtectedUnderItsName) {
