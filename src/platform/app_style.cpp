@@ -6,6 +6,7 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QWidget>
+#include <cmath>
 
 namespace kev {
 
@@ -54,6 +55,11 @@ QPalette NeutralPalette() {
   return palette;
 }
 
+// The light of a channel, 0 to 1.
+double Linear(double channel) {
+  return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
 // Margins and lines that the style does not give by itself. Colours agree with the palette above.
 constexpr const char* kSheet = R"(
 QMenuBar { background: #ffffff; border-bottom: 1px solid #e3e6ea; padding: 2px 6px; }
@@ -88,8 +94,11 @@ QIcon ProgramIcon() {
 }
 
 QColor TextColourOn(const QColor& background) {
-  constexpr int kBrightEnough = 140;
-  return qGray(background.rgb()) >= kBrightEnough ? QColor(Qt::black) : QColor(Qt::white);
+  // As bright to the eye as it is far from white and from black.
+  constexpr double kMiddle = 0.179;
+  const double brightness = 0.2126 * Linear(background.redF()) + 0.7152 * Linear(background.greenF()) +
+                            0.0722 * Linear(background.blueF());
+  return brightness >= kMiddle ? QColor(Qt::black) : QColor(Qt::white);
 }
 
 void ColourBar(QWidget& bar, std::optional<Rgb> colour) {
