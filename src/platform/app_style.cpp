@@ -8,6 +8,8 @@
 #include <QWidget>
 #include <cmath>
 
+#include "platform/accessible_names.h"
+
 namespace kev {
 
 namespace {
@@ -87,6 +89,7 @@ void ApplyStyle(QApplication& application) {
   QApplication::setPalette(NeutralPalette());
   application.setStyleSheet(QString::fromLatin1(kSheet));
   QApplication::setWindowIcon(ProgramIcon());
+  new AccessibleNames(application);
 }
 
 QIcon ProgramIcon() {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/designer.h"
+#include "platform/layer_widget.h"
 #include "platform/page_canvas.h"
 #include "platform/text_bridge.h"
 #include "surface/selection.h"
@@ -137,7 +138,8 @@ class PageElement final : public QAccessibleWidget {
     QList<QWidget*> windows;
     for (QObject* child : widget()->children()) {
       auto* window = qobject_cast<QWidget*>(child);
-      if (window != nullptr && window->isVisible() && !window->accessibleName().isEmpty()) windows << window;
+      const bool isMark = dynamic_cast<const LayerWidget*>(child) != nullptr;
+      if (window != nullptr && window->isVisible() && !isMark) windows << window;
     }
     return windows;
   }

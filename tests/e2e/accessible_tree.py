@@ -67,8 +67,12 @@ def fault(node):
     if role in (Atspi.Role.INVALID, Atspi.Role.UNKNOWN):
         return "has no role"
     states = node.get_state_set()
-    if not node.get_name().strip() and (role not in LAYOUT or states.contains(Atspi.StateType.FOCUSABLE)):
-        return "has no name"
+    if not node.get_name().strip():
+        # A label that is empty says nothing to anybody.
+        is_empty = role in LAYOUT or role == Atspi.Role.LABEL
+        return "has no name" if not is_empty or states.contains(Atspi.StateType.FOCUSABLE) else None
+    if role in LAYOUT:
+        return None
     if states.contains(Atspi.StateType.SHOWING) and states.contains(Atspi.StateType.VISIBLE):
         _, _, width, height = rectangle(node)
         if width <= 0 or height <= 0:

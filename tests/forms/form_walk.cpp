@@ -65,6 +65,7 @@ void VisitPages(const FormVisit& visit, const std::string& name, QWidget& form) 
 }  // namespace
 
 FormWalk::FormWalk(char language, const std::string& languageFile) {
+  ApplyStyle(*qApp);
   InstallProgram(languageFile, language);
   StartInput input = home_.Input({});
   input.ProgramFolder = home_.Path("program");
@@ -217,7 +218,6 @@ void FormWalk::VisitBoxes(const FormVisit& visit) {
                        BoxIcon::Question,
                        BoxButtons::YesNoYesToAll});
   });
-  VisitModal(visit, "QFileDialog", [this] { window_->Run(Command::Open); });
 }
 
 }  // namespace kev::test

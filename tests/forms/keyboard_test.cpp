@@ -19,6 +19,7 @@
 #include "forms/form_walk.h"
 #include "platform/page_canvas.h"
 #include "surface/object_description.h"
+#include "surface/selection.h"
 
 namespace kev {
 namespace {

@@ -10,7 +10,6 @@
 #include <unistd.h>
 
 #include "forms/form_walk.h"
-#include "platform/app_style.h"
 #include "platform/ui_language.h"
 
 namespace {
@@ -30,7 +29,6 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("show_forms"));
   QApplication::setQuitOnLastWindowClosed(false);
-  kev::ApplyStyle(application);
   const char language = argc > 1 ? argv[1][0] : 'E';
   kev::ApplyUiLanguage(application, language);
   kev::test::FormWalk walk(language);

@@ -109,6 +109,7 @@ KavEdit01::~KavEdit01() {
 void KavEdit01::BuildMenus() {
   menus_ = new CommandMenus(*menuBar(), designer_.Texts(), [this](Command command) { Run(command); });
   menuBar()->setObjectName(QStringLiteral("menubar"));
+  menuBar()->setAccessibleName(ToQString(designer_.Text(kTextProgramTitle)));
   menus_->ActionOf(Command::SeeAll).setChecked(true);
   BuildZoomMenu();
   BuildLanguageMenu();
@@ -206,6 +207,7 @@ void KavEdit01::ConnectPageFrame() {
 void KavEdit01::BuildPanels() {
   const QString findingsWord = ToQString(designer_.Text(kTextMenuFindings));
   status_ = new StatusPanels(ToQString(designer_.Text(kTextStatusReady)), findingsWord, this);
+  status_->setAccessibleName(ToQString(designer_.Text(kTextProgramTitle)));
   setStatusBar(status_);
   findings_ = new FindingsDock(designer_.Texts(), this);
   addDockWidget(Qt::BottomDockWidgetArea, findings_);
