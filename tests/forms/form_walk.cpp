@@ -162,6 +162,7 @@ void FormWalk::VisitModal(const FormVisit& visit, const char* form, const std::f
     look.stop();
     const QString name = QString::fromLatin1(shown->metaObject()->className());
     seen = name.endsWith(QLatin1String(form));
+    QCoreApplication::processEvents();
     if (seen) VisitPages(visit, form, *shown);
     CloseModal(*shown);
     if (!seen) look.start(1);

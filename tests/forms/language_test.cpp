@@ -21,6 +21,7 @@
 
 #include "forms/form_walk.h"
 #include "platform/forms/prop_grid.h"
+#include "platform/layer_widget.h"
 #include "support/run_tool.h"
 
 namespace kev {
@@ -43,9 +44,13 @@ std::string MarkedSource() {
 // Words that are the same in all languages: list items and captions of the sheets, first contents, names of
 // the symbologies and units, and what the sample itself holds.
 const std::set<QString>& FixedWords() {
-  static const std::set<QString> words = {
-      QStringLiteral("Kev Visual Editor"), QStringLiteral("form.kev"), QStringLiteral("Font Italic"),
-      QStringLiteral("insert a textbox"),  QStringLiteral("$Col_01"),  QStringLiteral("1K")};
+  static const std::set<QString> words = {QStringLiteral("Kev Visual Editor"),
+                                          QStringLiteral("form.kev"),
+                                          QStringLiteral("Font Italic"),
+                                          QStringLiteral("Insert section"),
+                                          QStringLiteral("insert a textbox"),
+                                          QStringLiteral("$Col_01"),
+                                          QStringLiteral("1K")};
   return words;
 }
 
@@ -95,11 +100,17 @@ void HoldWidget(Texts& texts, const QWidget& widget) {
     texts.Hold(widget, widget.windowTitle().remove(QStringLiteral("form.kev - ")));
 }
 
+// The marks of the selected object bear the names of the system and are shown to nobody.
+bool IsHeard(const QWidget& widget) {
+  return dynamic_cast<const LayerWidget*>(&widget) == nullptr;
+}
+
 std::set<std::string> UnmarkedTextsOf(const std::string& name, const QWidget& form) {
   Texts texts(name);
   HoldWidget(texts, form);
   for (const QWidget* child : form.findChildren<QWidget*>())
-    if (child->window() == &form || qobject_cast<const QMenu*>(child) != nullptr) HoldWidget(texts, *child);
+    if (IsHeard(*child) && (child->window() == &form || qobject_cast<const QMenu*>(child) != nullptr))
+      HoldWidget(texts, *child);
   for (const QAction* action : form.findChildren<QAction*>())
     if (!action->isSeparator() && action->isVisible()) texts.Hold(*action, action->text());
   return texts.Found();

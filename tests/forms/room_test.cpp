@@ -124,9 +124,9 @@ TEST_P(RoomTest, NothingIsCutOff) {
 
 INSTANTIATE_TEST_SUITE_P(Languages, RoomTest,
                          testing::Combine(testing::Values('E', 'S', 'I', 'P'), testing::Values(1.0, 1.5)),
-                         [](const auto& info) {
-                           return std::string(1, std::get<0>(info.param)) +
-                                  std::to_string(static_cast<int>(std::get<1>(info.param) * 100));
+                         [](const auto& shown) {
+                           return std::string(1, std::get<0>(shown.param)) +
+                                  std::to_string(static_cast<int>(std::get<1>(shown.param) * 100));
                          });
 
 }  // namespace
