@@ -71,7 +71,7 @@ FormWalk::FormWalk(char language, const std::string& languageFile) {
   input.ProgramFolder = home_.Path("program");
   designer_ = std::make_unique<Designer>(host_, measurer_, std::move(input));
   host_.UseNativeDialogs(false);
-  if (!designer_->Load()) throw std::runtime_error("no language file");
+  if (!designer_->Load() || designer_->Language() != language) throw std::runtime_error("no language file");
   SetButtonCaptions(host_, designer_->Texts());
   window_ = std::make_unique<KavEdit01>(*designer_, host_, fonts_, images_);
   designer_->BeginActivation();  // no splash, no start
@@ -91,7 +91,7 @@ void FormWalk::InstallProgram(const std::string& languageFile, char language) {
     if (entry.path().filename() != "Kev.lng")
       fs::create_symlink(entry.path(), program / entry.path().filename());
   fs::copy_file(languageFile, program / "Kev.lng");
-  WriteFile(home_.Path("data/Kev/activelang"), std::string(1, language));
+  WriteFile(home_.Path("data/Kev/activelang"), "ACTIVELANG=" + std::string(1, language) + "\r\n");
 }
 
 void FormWalk::OpenSample() {

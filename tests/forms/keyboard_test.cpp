@@ -44,6 +44,7 @@ class KeyboardTest : public testing::Test {
   int Current() { return walk.TheDesigner().OpenDocument().Objects.CurrentObject; }
   void FocusPage() {
     walk.Window().activateWindow();
+    Page().clearFocus();
     Page().setFocus(Qt::TabFocusReason);
     ASSERT_TRUE(QTest::qWaitFor([this] { return Page().hasFocus(); }));
   }
@@ -102,11 +103,13 @@ TEST_F(KeyboardTest, TabVisitsTheObjectsInTheirOrderAndThenLeavesThePage) {
 TEST_F(KeyboardTest, TheMenuKeyOpensTheMenuOfWhatIsSelected) {
   FocusPage();
   PageWork work = Surface().Work();
-  const std::vector<int> rows = ObjectsInReadingOrder(work);
+  int label = 0;
+  for (const int row : ObjectsInReadingOrder(work))
+    if (work.document.Objects[row].Content == "@name") label = row;
   Deselect(work);
   for (const auto& [select, name] : std::initializer_list<std::pair<std::function<void()>, const char*>>{
            {[] {}, "pastehere"},
-           {[&] { Surface().PickObject(rows[1]); }, "deleteobject"},
+           {[&] { Surface().PickObject(label); }, "deleteobject"},
            {[&] { walk.Window().Run(Command::SelectAll); }, "alignhor"}}) {
     select();
     QMenu* menu = OpenMenu();
@@ -132,7 +135,7 @@ TEST_F(KeyboardTest, F6GoesThroughThePartsOfTheWindow) {
     if (QApplication::focusWidget() == first) break;
   }
   EXPECT_EQ(seen.count(first), 1U);
-  EXPECT_GE(seen.size(), 5U);
+  EXPECT_GE(seen.size(), 4U);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
   EXPECT_NE(QApplication::focusWidget(), first);
 }

@@ -44,13 +44,11 @@ std::string MarkedSource() {
 // Words that are the same in all languages: list items and captions of the sheets, first contents, names of
 // the symbologies and units, and what the sample itself holds.
 const std::set<QString>& FixedWords() {
-  static const std::set<QString> words = {QStringLiteral("Kev Visual Editor"),
-                                          QStringLiteral("form.kev"),
-                                          QStringLiteral("Font Italic"),
-                                          QStringLiteral("Insert section"),
-                                          QStringLiteral("insert a textbox"),
-                                          QStringLiteral("$Col_01"),
-                                          QStringLiteral("1K")};
+  static const std::set<QString> words = {
+      QStringLiteral("Kev Visual Editor"), QStringLiteral("form.kev"),     QStringLiteral("No title"),
+      QStringLiteral("English"),           QStringLiteral("Espa\u00F1ol"), QStringLiteral("Italiano"),
+      QStringLiteral("Portugu\u00EAs"),    QStringLiteral("Font Italic"),  QStringLiteral("Insert section"),
+      QStringLiteral("insert a textbox"),  QStringLiteral("$Col_01"),      QStringLiteral("1K")};
   return words;
 }
 
@@ -63,6 +61,8 @@ class Texts {
   explicit Texts(std::string form) : form_(std::move(form)) {}
 
   void Hold(const QObject& owner, const QString& text) {
+    // A name of a file or of a column is the user's own.
+    if (text.contains(QStringLiteral("/form.kev")) || text.startsWith(QStringLiteral("$Col_"))) return;
     if (!HasLetters(text) || text.contains(kMark) || FixedWords().count(text) != 0) return;
     found_.insert(form_ + ": " + owner.metaObject()->className() + " " + owner.objectName().toStdString() +
                   " says \"" + text.toStdString() + "\"");

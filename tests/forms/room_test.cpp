@@ -81,10 +81,19 @@ bool Fits(const QWidget& widget) {
   return true;
 }
 
-// A path may be longer than any form: those labels shorten what they show, or are scrolled to.
-bool ShowsAPath(const QWidget& widget) {
-  static const std::set<QString> names = {QStringLiteral("statustext"), QStringLiteral("statusselection")};
-  return names.count(widget.objectName()) != 0;
+// A path may be longer than any form, and the panel is as narrow as its user wants it: its captions are
+// shortened, and their tips tell all of them.
+bool MayBeShort(const QWidget& widget) {
+  static const std::set<QString> paths = {QStringLiteral("statustext"), QStringLiteral("statusselection"),
+                                          QStringLiteral("FileNameLbl")};
+  if (paths.count(widget.objectName()) != 0) return true;
+  const auto* label = qobject_cast<const QLabel*>(&widget);
+  const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+  const QString text = label != nullptr ? label->text() : button != nullptr ? button->text() : QString();
+  // A sign and no word.
+  if (text.size() == 1) return true;
+  return !text.isEmpty() && widget.toolTip() == text &&
+         (label != nullptr || widget.height() >= widget.sizeHint().height());
 }
 
 QString TextOf(const QWidget& widget) {
@@ -95,7 +104,7 @@ QString TextOf(const QWidget& widget) {
 
 void HoldRoom(std::set<std::string>& cut, const std::string& name, const QWidget& form) {
   for (const QWidget* child : form.findChildren<QWidget*>()) {
-    if (!child->isVisibleTo(&form) || child->window() != &form || ShowsAPath(*child) || Fits(*child))
+    if (!child->isVisibleTo(&form) || child->window() != &form || MayBeShort(*child) || Fits(*child))
       continue;
     cut.insert(name + ": " + child->metaObject()->className() + " " + child->objectName().toStdString() +
                " \"" + TextOf(*child).toStdString() + "\" has " + std::to_string(child->width()) + "x" +
