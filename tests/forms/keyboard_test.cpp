@@ -147,7 +147,7 @@ TEST_F(KeyboardTest, ThePageShowsThatTheKeyboardIsOnItAndNotThatThePointerIs) {
   };
   FocusPage();
   EXPECT_TRUE(edges());
-  walk.Window().findChild<QToolButton*>()->setFocus(Qt::TabFocusReason);
+  Page().clearFocus();
   EXPECT_FALSE(edges());
   Page().setFocus(Qt::MouseFocusReason);
   EXPECT_FALSE(edges());

@@ -102,6 +102,8 @@ void HoldWidget(Texts& texts, const QWidget& widget) {
 
 // The marks of the selected object bear the names of the system and are shown to nobody.
 bool IsHeard(const QWidget& widget) {
+  // The findings stay docked.
+  if (widget.objectName() == QStringLiteral("qt_dockwidget_floatbutton")) return false;
   return dynamic_cast<const LayerWidget*>(&widget) == nullptr;
 }
 

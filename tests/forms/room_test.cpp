@@ -13,6 +13,7 @@
 #include <set>
 
 #include "forms/form_walk.h"
+#include "platform/forms/quick_panel.h"
 
 namespace kev {
 namespace {
@@ -84,6 +85,10 @@ bool Fits(const QWidget& widget) {
 // A path may be longer than any form, and the panel is as narrow as its user wants it: its captions are
 // shortened, and their tips tell all of them.
 bool MayBeShort(const QWidget& widget) {
+  // The quick panel is never larger than the page that it stands on.
+  for (const QWidget* part = &widget; part != nullptr; part = part->parentWidget())
+    if (dynamic_cast<const QuickPanelForm*>(part) != nullptr && part->width() < part->sizeHint().width())
+      return true;
   static const std::set<QString> paths = {QStringLiteral("statustext"), QStringLiteral("statusselection"),
                                           QStringLiteral("FileNameLbl")};
   if (paths.count(widget.objectName()) != 0) return true;
