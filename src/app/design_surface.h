@@ -58,6 +58,11 @@ class DesignSurface final : public PageServices {
   void ChooseFontSize(std::string_view size);
   void PressFontTool(FontTool tool);
   void ChooseTextColour();
+  // Selects and shows the row as a click on it would; what is inserted next goes there. For the keyboard and
+  // for screen readers.
+  void PickObject(int row);
+  // The context menu of what is selected, or that of the page.
+  void OpenMenuByKey();
   // A row from the findings: selected and shown.
   void GoToObject(int row);
 
@@ -130,6 +135,8 @@ class DesignSurface final : public PageServices {
   void ShowFontTools();
   void UseTextTool(const std::function<void(PageWork&)>& change);
   void HoverColumn(const PointerInput& input);
+  // False at either end of the page, where the key then leads away from it.
+  bool StepObject(int step);
   // Behind another level: no selection, everything shown anew.
   void ShowLevel();
 

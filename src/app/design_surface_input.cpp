@@ -5,6 +5,7 @@
 
 #include "app/design_surface.h"
 #include "app/designer.h"
+#include "surface/object_description.h"
 #include "surface/selection.h"
 
 namespace kev {
@@ -86,6 +87,10 @@ bool DesignSurface::KeyDown(int code, int shift, std::string_view text) {
       return false;
     case KeyEffect::Delete:
       return Run(Command::DeleteObject);
+    case KeyEffect::NextObject:
+      return StepObject(1);
+    case KeyEffect::PreviousObject:
+      return StepObject(-1);
     case KeyEffect::EditText:
       return designer_.GuardedView([&] {
         PageWork work = Work();
@@ -94,6 +99,34 @@ bool DesignSurface::KeyDown(int code, int shift, std::string_view text) {
       });
   }
   return false;
+}
+
+bool DesignSurface::StepObject(int step) {
+  const int row = NeighbourInReadingOrder(Work(), step);
+  if (row != 0) PickObject(row);
+  return row != 0;
+}
+
+void DesignSurface::PickObject(int row) {
+  if (Busy()) return;
+  CommitOpenEdits();
+  designer_.GuardedView([&] {
+    PageWork work = Work();
+    const bool hadGroup = pointer_.MultiSelected;
+    pointer_.KeepPosition(PointOnObject(work, row));
+    SelectObject(work, row);
+    if (hadGroup) FullRepaint();
+    designer_.ShowArea(DescribeObject(work, row).Area);
+  });
+}
+
+void DesignSurface::OpenMenuByKey() {
+  if (Busy()) return;
+  const ObjectTable& objects = std::as_const(designer_).OpenDocument().Objects;
+  const ObjectKind kind = objects[objects.CurrentObject].Kind;
+  const bool hasMenu = kind != ObjectKind::None && kind != ObjectKind::EndOfSubsection;
+  if (pointer_.MultiSelected) return OpenContextMenu(ContextMenu::Group);
+  OpenContextMenu(hasMenu ? ContextMenu::Object : ContextMenu::Edit);
 }
 
 void DesignSurface::CommitOpenEdits() {

@@ -532,6 +532,7 @@ inline constexpr int kTextClosePanel = 1299;
 inline constexpr int kTextRulerHorizontal = 1280;
 inline constexpr int kTextRulerVertical = 1281;
 inline constexpr int kTextPanelDivider = 1282;
+inline constexpr int kTextEndOfSubsection = 310;
 
 // Tooltip of the horizontal ruler
 inline constexpr int kTextRulerNextUnit = 1283;

@@ -6,6 +6,9 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QWidget>
+#include <cmath>
+
+#include "platform/accessible_names.h"
 
 namespace kev {
 
@@ -16,7 +19,7 @@ constexpr QRgb kBase = 0xFFFFFFFF;
 constexpr QRgb kStripe = 0xFFF8F9FB;
 constexpr QRgb kButton = 0xFFFAFBFC;
 constexpr QRgb kText = 0xFF1F2328;
-constexpr QRgb kFaint = 0xFF6E7781;
+constexpr QRgb kFaint = 0xFF646C76;
 constexpr QRgb kDisabled = 0xFFA3ABB4;
 constexpr QRgb kAccent = 0xFF1B6AC9;
 constexpr QRgb kTip = 0xFF2B3138;
@@ -54,6 +57,11 @@ QPalette NeutralPalette() {
   return palette;
 }
 
+// The light of a channel, 0 to 1.
+double Linear(double channel) {
+  return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
 // Margins and lines that the style does not give by itself. Colours agree with the palette above.
 constexpr const char* kSheet = R"(
 QMenuBar { background: #ffffff; border-bottom: 1px solid #e3e6ea; padding: 2px 6px; }
@@ -81,6 +89,7 @@ void ApplyStyle(QApplication& application) {
   QApplication::setPalette(NeutralPalette());
   application.setStyleSheet(QString::fromLatin1(kSheet));
   QApplication::setWindowIcon(ProgramIcon());
+  new AccessibleNames(application);
 }
 
 QIcon ProgramIcon() {
@@ -88,8 +97,11 @@ QIcon ProgramIcon() {
 }
 
 QColor TextColourOn(const QColor& background) {
-  constexpr int kBrightEnough = 140;
-  return qGray(background.rgb()) >= kBrightEnough ? QColor(Qt::black) : QColor(Qt::white);
+  // As bright to the eye as it is far from white and from black.
+  constexpr double kMiddle = 0.179;
+  const double brightness = 0.2126 * Linear(background.redF()) + 0.7152 * Linear(background.greenF()) +
+                            0.0722 * Linear(background.blueF());
+  return brightness >= kMiddle ? QColor(Qt::black) : QColor(Qt::white);
 }
 
 void ColourBar(QWidget& bar, std::optional<Rgb> colour) {

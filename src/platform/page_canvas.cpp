@@ -9,6 +9,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/focus_edges.h"
+#include "platform/page_accessible.h"
+
 namespace kev {
 namespace {
 
@@ -39,12 +42,13 @@ void SetRange(QScrollBar* bar, double canvas, int view) {
 }  // namespace
 
 PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent) : QAbstractScrollArea(parent), list_(list) {
+  MakePageAccessible();
   setObjectName(QStringLiteral("p1"));
-  setAccessibleName(tr("Page"));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  new FocusEdges(*this);
   FitWindow();
 }
 

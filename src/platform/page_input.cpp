@@ -14,6 +14,7 @@
 #include "base/text_numbers.h"
 #include "platform/forms/field_screen.h"
 #include "platform/text_bridge.h"
+#include "surface/object_description.h"
 #include "surface/page_keys.h"
 #include "surface/press_rules.h"
 
@@ -31,8 +32,8 @@ constexpr std::array kKeys = {
     std::pair(Qt::Key_Down, 40),     std::pair(Qt::Key_Delete, 46),  std::pair(Qt::Key_ScrollLock, 145),
     std::pair(Qt::Key_Pause, 19),    std::pair(Qt::Key_Return, 13),  std::pair(Qt::Key_Enter, 13),
     std::pair(Qt::Key_Backspace, 8), std::pair(Qt::Key_Home, 36),    std::pair(Qt::Key_End, 35),
-    std::pair(Qt::Key_Tab, 9),       std::pair(Qt::Key_PageUp, 33),  std::pair(Qt::Key_PageDown, 34),
-    std::pair(Qt::Key_Insert, 45),   std::pair(Qt::Key_NumLock, 144)};
+    std::pair(Qt::Key_Tab, 9),       std::pair(Qt::Key_Backtab, 9),  std::pair(Qt::Key_PageUp, 33),
+    std::pair(Qt::Key_PageDown, 34), std::pair(Qt::Key_Insert, 45),  std::pair(Qt::Key_NumLock, 144)};
 
 constexpr std::array kCursors = {std::pair(CursorShape::Arrow, Qt::ArrowCursor),
                                  std::pair(CursorShape::Cross, Qt::CrossCursor),
@@ -195,6 +196,12 @@ bool PageInput::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::UngrabMouse:
       if (designer_.Surface().Busy()) designer_.Surface().CancelGesture();
       break;
+    case QEvent::ContextMenu:
+      if (watched != &canvas_ ||
+          static_cast<QContextMenuEvent*>(event)->reason() != QContextMenuEvent::Keyboard)
+        break;
+      OpenMenuByKey();
+      return true;
     case QEvent::ToolTip: {
       const auto& help = *static_cast<QHelpEvent*>(event);
       const QString tip = layer_.TipAt(canvas_.ToCanvas(help.pos()));
@@ -230,6 +237,26 @@ bool PageInput::OnKey(const QKeyEvent& event) {
   }
   RefreshCursor();
   return taken;
+}
+
+// Below the object, or at the corner of the view.
+void PageInput::OpenMenuByKey() {
+  const PageWork work = designer_.Surface().Work();
+  const int row = work.document.Objects.CurrentObject;
+  QPoint at(0, 0);
+  if (row != 0) {
+    const CanvasArea area = DescribeObject(work, row).Area;
+    at = canvas_.ToViewport({area.Left, area.Bottom}).toPoint();
+  }
+  const QRect view = canvas_.viewport()->rect();
+  menuPlace_ = canvas_.viewport()->mapToGlobal(
+      QPoint(std::clamp(at.x(), 0, view.right()), std::clamp(at.y(), 0, view.bottom())));
+  designer_.Surface().OpenMenuByKey();
+  menuPlace_.reset();
+}
+
+QPoint PageInput::TakeMenuPlace() {
+  return std::exchange(menuPlace_, std::nullopt).value_or(QCursor::pos());
 }
 
 // What is typed goes into the current label.

@@ -7,6 +7,7 @@
 #include <QPoint>
 #include <QTimer>
 #include <functional>
+#include <optional>
 
 #include "platform/page_canvas.h"
 #include "platform/upper_layer.h"
@@ -30,6 +31,8 @@ class PageInput final : public QObject {
   void ShowFieldScreen(const FieldScreenLook& look);
   void HideFieldScreen();
   void StartAllowTimer(int milliseconds, std::function<void()> done);
+  // Where a context menu opens: below the object when a key has asked for it, else at the pointer.
+  QPoint TakeMenuPlace();
   // The shape may be another without the pointer having moved.
   void RefreshCursor();
 
@@ -39,6 +42,7 @@ class PageInput final : public QObject {
   void OnPointer(const PagePointer& event);
   void Release(const PagePointer& event, const PointerInput& input);
   bool OnKey(const QKeyEvent& event);
+  void OpenMenuByKey();
   void OnTyped(const QString& text);
   // A character that the template's code page does not hold.
   void TellRefused(const QString& character);
@@ -61,6 +65,7 @@ class PageInput final : public QObject {
   bool doubleClicked_ = false;
   std::function<bool(const QPoint&)> overRuler_;
   double followed_ = 0;
+  std::optional<QPoint> menuPlace_;
 };
 
 }  // namespace kev

@@ -14,7 +14,8 @@ PageView::PageView(Designer& designer, FontCache& fonts, ImageCache& images, QWi
       images_(images),
       list_(fonts, images),
       canvas_(std::make_unique<PageCanvas>(list_, parent)),
-      layer_(std::make_unique<UpperLayer>(*canvas_, fonts, images)) {
+      layer_(std::make_unique<UpperLayer>(*canvas_, fonts, images)),
+      accessible_(new PageAccessible(designer, *canvas_)) {
   list_.SetWidgetLayer(layer_.get());
   canvas_->setObjectName(QStringLiteral("p1"));
   canvas_->verticalScrollBar()->setObjectName(QStringLiteral("vscrollbar"));
@@ -28,9 +29,11 @@ PageView::PageView(Designer& designer, FontCache& fonts, ImageCache& images, QWi
 
 void PageView::Shown() {
   canvas_->ShowList();
+  accessible_->PageShown();
 }
 
 void PageView::DocumentReplaced() {
+  accessible_->DocumentReplaced();
   canvas_->verticalScrollBar()->setValue(canvas_->verticalScrollBar()->minimum());
   canvas_->horizontalScrollBar()->setValue(canvas_->horizontalScrollBar()->minimum());
 }

@@ -6,6 +6,7 @@
 
 #include "app/designer.h"
 #include "platform/display_list.h"
+#include "platform/page_accessible.h"
 #include "platform/page_canvas.h"
 #include "platform/upper_layer.h"
 
@@ -23,6 +24,8 @@ class PageView {
   SurfaceOps& Surface() { return list_; }
   // It was painted anew.
   void Shown();
+  // Another object is selected, or perhaps so.
+  void SelectionChanged() { accessible_->SelectionChanged(); }
   // The names on the page and its bytes are those of another document.
   void DocumentReplaced();
 
@@ -41,6 +44,7 @@ class PageView {
   // Before the list that it shows, wherever it stands in the window.
   std::unique_ptr<PageCanvas> canvas_;
   std::unique_ptr<UpperLayer> layer_;
+  PageAccessible* accessible_;  // the canvas's
 };
 
 }  // namespace kev

@@ -31,6 +31,7 @@ KeyEffect EffectOfKey(const PageWork& work, int code, int shift) {
   const ObjectTable& objects = work.document.Objects;
   const int current = objects.CurrentObject;
   const bool group = work.pointer.MultiSelected;
+  if (code == kKeyTab) return (shift & kShiftKey) != 0 ? KeyEffect::PreviousObject : KeyEffect::NextObject;
   if (code == kKeyDelete) return group || current != 0 ? KeyEffect::Delete : KeyEffect::Nothing;
   if (group || objects[current].Kind != ObjectKind::Label) return KeyEffect::Nothing;
   return StartsEditing(code) ? KeyEffect::EditText : KeyEffect::Nothing;

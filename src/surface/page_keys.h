@@ -10,6 +10,7 @@
 namespace kev {
 
 // Key codes as the system numbers them; only those that are told apart.
+inline constexpr int kKeyTab = 9;
 inline constexpr int kKeyEscape = 27;
 inline constexpr int kKeyDelete = 46;
 
@@ -22,7 +23,7 @@ struct TextEdit {
 };
 
 // What a key that is no command does on the page.
-enum class KeyEffect { Nothing, Delete, EditText };
+enum class KeyEffect { Nothing, Delete, EditText, NextObject, PreviousObject };
 KeyEffect EffectOfKey(const PageWork& work, int code, int shift);
 
 // The text box lies over the current LABEL, which is then hidden from the pointer.

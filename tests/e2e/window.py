@@ -33,10 +33,13 @@ class Display:
     The server must not reset itself when its last client leaves: in the moment between a first client and the
     window manager it would throw out whoever is just arriving, and that program ends for want of a display."""
 
+    def __init__(self, size="1280x860"):
+        self.size = size
+
     def __enter__(self):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x860x24", "-nolisten", "tcp", "-noreset"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as numbers:

@@ -29,8 +29,17 @@ TEST_F(PageKeys, SomeKeysDoNothing) {
     EXPECT_EQ(Effect(code), KeyEffect::Nothing) << code;
   for (int code = 114; code <= 123; ++code)
     EXPECT_EQ(Effect(code), KeyEffect::Nothing) << code;
-  for (const int tabPagesInsertNumLock : {9, 33, 34, 45, 144})
-    EXPECT_EQ(Effect(tabPagesInsertNumLock), KeyEffect::Nothing) << tabPagesInsertNumLock;
+  for (const int pagesInsertNumLock : {33, 34, 45, 144})
+    EXPECT_EQ(Effect(pagesInsertNumLock), KeyEffect::Nothing) << pagesInsertNumLock;
+}
+
+TEST_F(PageKeys, TabGoesFromObjectToObjectWhateverIsSelected) {
+  for (const int row : {0, data.bar, AddText("1000", 1000, "A")}) {
+    Select(row);
+    EXPECT_EQ(Effect(kKeyTab), KeyEffect::NextObject);
+    EXPECT_EQ(Effect(kKeyTab, kShiftKey), KeyEffect::PreviousObject);
+    EXPECT_EQ(Effect(kKeyTab, kCtrlKey), KeyEffect::Nothing);
+  }
 }
 
 TEST_F(PageKeys, WithCtrlOrAltNoKeyDoesAnything) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/forms/findings_dock.h"
 
+#include <QAbstractButton>
 #include <QHeaderView>
 #include <QLabel>
 #include <QStackedWidget>
@@ -34,6 +35,15 @@ QString Quoted(const Finding& finding, const CodePage& page) {
 
 }  // namespace
 
+// The window system names it in its own language.
+void FindingsDock::NameCloseButton(const QString& name) {
+  auto* button = findChild<QAbstractButton*>(QStringLiteral("qt_dockwidget_closebutton"));
+  if (button == nullptr) return;
+  button->setAccessibleName(name);
+  button->setAccessibleDescription(QString());
+  button->setToolTip(name);
+}
+
 FindingsDock::FindingsDock(const LanguageTexts& texts, QWidget* parent)
     : QDockWidget(ToQString(texts.Text(kTextMenuFindings)), parent),
       texts_(texts),
@@ -42,6 +52,8 @@ FindingsDock::FindingsDock(const LanguageTexts& texts, QWidget* parent)
       nothing_(new QLabel(ToQString(texts.Text(kTextNoFindings)), pages_)) {
   setObjectName(QStringLiteral("findings"));
   setAccessibleName(windowTitle());
+  setFeatures(DockWidgetClosable | DockWidgetMovable);
+  NameCloseButton(ToQString(texts.Text(kTextClosePanel)));
   setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea);
   list_->setObjectName(QStringLiteral("findingslist"));
   list_->setAccessibleName(windowTitle());

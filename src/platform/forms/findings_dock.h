@@ -30,6 +30,8 @@ class FindingsDock final : public QDockWidget {
   void ObjectWanted(int row);
 
  private:
+  void NameCloseButton(const QString& name);
+
   const LanguageTexts& texts_;
   QStackedWidget* pages_;
   QTreeWidget* list_;

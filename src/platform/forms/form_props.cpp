@@ -9,6 +9,8 @@
 #include "platform/display_list.h"
 #include "platform/forms/property_panel.h"
 
+#include <algorithm>
+
 namespace kev {
 namespace {
 
@@ -48,6 +50,8 @@ void FormPROPS::SetPanel(PropertyPanel* panel) {
   if (panel->parentWidget() == this) return;
   layout()->addWidget(panel);
   panel->show();
+  // The switches below the grid are not squeezed.
+  setMinimumHeight(std::max(kLeast.height(), panel->minimumSizeHint().height()));
   // From one stay to the next the same title may be dragged beside the page, where nothing follows it.
   disconnect(&panel->Title(), nullptr, this, nullptr);
   connect(&panel->Title(), &PanelTitle::DragBegun, this, [this](const QPoint& at) { grip_ = at - pos(); });

@@ -45,6 +45,7 @@ inscol01::inscol01(ColumnsDialogRun& run, const LanguageTexts& texts, QWidget* p
   Build();
   Connect();
   Show();
+  setMinimumSize(sizeHint());
   colposition->setFocus();
 }
 

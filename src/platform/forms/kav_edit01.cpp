@@ -31,6 +31,7 @@
 #include "platform/forms/kavsplash.h"
 #include "platform/forms/language_menu.h"
 #include "platform/forms/page_frame.h"
+#include "platform/forms/pane_keys.h"
 #include "platform/forms/panel_place.h"
 #include "platform/forms/progress_window.h"
 #include "platform/forms/quick_panel.h"
@@ -108,6 +109,7 @@ KavEdit01::~KavEdit01() {
 void KavEdit01::BuildMenus() {
   menus_ = new CommandMenus(*menuBar(), designer_.Texts(), [this](Command command) { Run(command); });
   menuBar()->setObjectName(QStringLiteral("menubar"));
+  menuBar()->setAccessibleName(ToQString(designer_.Text(kTextProgramTitle)));
   menus_->ActionOf(Command::SeeAll).setChecked(true);
   BuildZoomMenu();
   BuildLanguageMenu();
@@ -179,6 +181,7 @@ void KavEdit01::BuildPage(FontCache& fonts) {
   ConnectPageFrame();
   quick_ = new QuickPanelForm(designer_, canvas);
   canvas.setAccessibleName(ToQString(designer_.Text(kTextPage)));
+  canvas.viewport()->setAccessibleName(canvas.accessibleName());
   canvas.verticalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollVertical)));
   canvas.horizontalScrollBar()->setAccessibleName(ToQString(designer_.Text(kTextScrollHorizontal)));
   connect(&canvas, &PageCanvas::ZoomRequested, this, &KavEdit01::OnZoomWheel);
@@ -204,6 +207,7 @@ void KavEdit01::ConnectPageFrame() {
 void KavEdit01::BuildPanels() {
   const QString findingsWord = ToQString(designer_.Text(kTextMenuFindings));
   status_ = new StatusPanels(ToQString(designer_.Text(kTextStatusReady)), findingsWord, this);
+  status_->setAccessibleName(ToQString(designer_.Text(kTextProgramTitle)));
   setStatusBar(status_);
   findings_ = new FindingsDock(designer_.Texts(), this);
   addDockWidget(Qt::BottomDockWidgetArea, findings_);
@@ -218,6 +222,11 @@ void KavEdit01::BuildPanels() {
   connect(findings_, &FindingsDock::ObjectWanted, this,
           [this](int row) { designer_.GuardedView([&] { designer_.Surface().GoToObject(row); }); });
   connect(status_, &StatusPanels::FindingsWanted, this, [this] { findings_->show(); });
+  // The quick panel stands on the page and comes behind it.
+  new PaneKeys(*this, [this] {
+    return QList<QWidget*>{&page_.Canvas(),      quick_, &panel_->Panel(), findings_, &toolBars_->First(),
+                           &toolBars_->Second(), status_};
+  });
 }
 
 void KavEdit01::ConnectHost() {

@@ -73,12 +73,13 @@ void KavEdit01::CommandsChanged() {
   menus_->ShowEnabled(enabled);
   toolBars_->Show(enabled, designer_.Surface().Pointer().PendingTool);
   input_.RefreshCursor();
+  page_.SelectionChanged();
 }
 
 void KavEdit01::OpenContextMenu(ContextMenu menu) {
   QMenu& popup = menus_->ContextMenuOf(menu);
   // Opened behind the event that asked for it, or the pointer's release would go to the menu.
-  QTimer::singleShot(0, &popup, [&popup] { popup.popup(QCursor::pos()); });
+  QTimer::singleShot(0, &popup, [&popup, at = input_.TakeMenuPlace()] { popup.popup(at); });
 }
 
 void KavEdit01::StartAllowTimer(int milliseconds, std::function<void()> done) {

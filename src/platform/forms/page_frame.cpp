@@ -52,11 +52,11 @@ PageFrame::PageFrame(PageCanvas& canvas, FontCache& fonts, DesignerOptions& opti
     FitWindow();
   });
   ConnectDivider();
-  AddZoomKeys();
+  AddKeys();
   canvas.viewport()->installEventFilter(this);
 }
 
-void PageFrame::AddZoomKeys() {
+void PageFrame::AddKeys() {
   const auto add = [this](const char* key, int steps) {
     auto* shortcut = new QShortcut(QKeySequence(QString::fromLatin1(key)), this);
     connect(shortcut, &QShortcut::activated, this, [this, steps] { Q_EMIT ZoomStepWanted(steps); });
@@ -65,6 +65,8 @@ void PageFrame::AddZoomKeys() {
   // The same key without Shift, where the plus needs it.
   add("Ctrl+=", 1);
   add("Ctrl+-", -1);
+  auto* nextUnit = new QShortcut(QKeySequence(QStringLiteral("Ctrl+R")), this);
+  connect(nextUnit, &QShortcut::activated, this, &PageFrame::NextRulerModeWanted);
 }
 
 // --- Rulers ---

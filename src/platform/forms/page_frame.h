@@ -42,7 +42,7 @@ class PageFrame final : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void AddZoomKeys();
+  void AddKeys();
   void ConnectDivider();
   void FitWindow();
   // Pixels of the panel when the divider's left edge is there.

@@ -11,6 +11,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include "platform/focus_edges.h"
 #include "platform/forms/prop_grid_editors.h"
 #include "platform/forms/prop_grid_model.h"
 
@@ -61,6 +62,7 @@ void TypeInto(QWidget* editor, const QString& typed) {
 
 PropGrid::PropGrid(QWidget* parent) : QTableView(parent), model_(new PropGridModel(this)) {
   setObjectName(QStringLiteral("PropGrid1"));
+  new FocusEdges(*this);
   setModel(model_);
   auto* delegate = new PropGridDelegate(this);
   setItemDelegate(delegate);
@@ -103,6 +105,10 @@ PropGrid::~PropGrid() {
 }
 
 // Other rows close every cell; its focus would go to the next control.
+void PropGrid::NameColumns(const QString& caption, const QString& value) {
+  model_->NameColumns(caption, value);
+}
+
 void PropGrid::Show(const std::vector<PropertyRow>& rows, const CodePage& page) {
   const int row = CurrentRow();
   const bool keepFocus = committing_ && Holds(window()->focusWidget());

@@ -27,6 +27,8 @@ class PropGrid final : public QTableView {
 
   // The values are bytes of the page. The current row stays where the captions are the same.
   void Show(const std::vector<PropertyRow>& rows, const CodePage& page);
+  // For assistive technology: the headers are not shown.
+  void NameColumns(const QString& caption, const QString& value);
   // Where the chooser of files begins with a relative name.
   void SetFolder(const QString& folder) { folder_ = folder; }
   // Gives the colour that the user chooses in place of this one; an invalid one gives up. Without it the

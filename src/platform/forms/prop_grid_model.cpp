@@ -81,6 +81,13 @@ QVariant PropGridModel::data(const QModelIndex& index, int role) const {
   }
 }
 
+QVariant PropGridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (role != Qt::AccessibleTextRole || section < 0) return {};
+  const auto at = static_cast<std::size_t>(section);
+  if (orientation == Qt::Horizontal) return at < columnNames_.size() ? columnNames_[at] : QVariant();
+  return at < rows_.size() ? ToQString(rows_[at].Caption) : QVariant();
+}
+
 Qt::ItemFlags PropGridModel::flags(const QModelIndex& index) const {
   if (!index.isValid()) return Qt::NoItemFlags;
   Qt::ItemFlags flags = Qt::ItemIsSelectable;

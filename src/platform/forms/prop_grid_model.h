@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -33,7 +34,9 @@ class PropGridModel final : public QAbstractTableModel {
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& = {}) const override { return 2; }
   QVariant data(const QModelIndex& index, int role) const override;
-  QVariant headerData(int, Qt::Orientation, int) const override { return {}; }
+  // The headers are not shown; assistive technology hears them.
+  void NameColumns(const QString& caption, const QString& value) { columnNames_ = {caption, value}; }
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   Qt::ItemFlags flags(const QModelIndex& index) const override;
   // False where the text is what it was, or holds a character that the page does not.
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
@@ -44,6 +47,7 @@ class PropGridModel final : public QAbstractTableModel {
 
  private:
   std::vector<PropertyRow> rows_;
+  std::array<QString, 2> columnNames_;
   const CodePage* page_ = &CodePage::Default();
 };
 

@@ -134,6 +134,7 @@ PropertyPanel::PropertyPanel(Designer& designer, QWidget* parent)
       description_(new QLabel(this)) {
   setObjectName(QStringLiteral("FrameProps"));
   grid_->setAccessibleName(ToQString(designer.Text(kTextMenuProperties)));
+  grid_->NameColumns(ToQString(designer.Text(kTextSubsectionName)), grid_->accessibleName());
   description_->setObjectName(QStringLiteral("descriptionlabel"));
   description_->setWordWrap(true);
   description_->setAlignment(Qt::AlignTop | Qt::AlignLeft);

@@ -26,8 +26,9 @@ RecentMenu::RecentMenu(QMenu& menu, std::function<void(std::size_t)> open) : QOb
 void RecentMenu::Show(const std::vector<std::string>& captions) {
   for (std::size_t entry = 0; entry < entries_.size(); ++entry) {
     const bool shown = entry < captions.size();
-    // The number is what the keyboard chooses the entry by.
-    entries_[entry]->setText(shown ? QLatin1Char('&') + FromNative(captions[entry]) : QString());
+    // The number is what the keyboard chooses the entry by; one that is hidden has nothing but it.
+    entries_[entry]->setText(QLatin1Char('&') +
+                             (shown ? FromNative(captions[entry]) : QString::number(entry + 1)));
     entries_[entry]->setVisible(shown);
   }
   separator_->setVisible(!captions.empty());

@@ -62,6 +62,7 @@ Recover_form::Recover_form(RecoverDialog& dialog, Host& host, const LanguageText
   Connect(host, texts);
   resize(kFirstSize);
   ShowAll();
+  setMinimumSize(sizeHint());
   list_->setFocus();
 }
 
