@@ -8,17 +8,25 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "document/position.h"
+#include "document/typed_position.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace kev;
   std::string_view rest(reinterpret_cast<const char*>(data), size);
-  ColumnTable columns;
+  Document document;
+  ColumnTable& columns = document.Columns;
   if (!rest.empty()) columns[1] = {std::string(TakeLine(rest)), 2400, ""};
   ValidatePosition(rest, columns);
   const double value = PositionOrZero(rest, columns);
   if (!std::isfinite(value) || NumericPrefix(FormatNumber(value)) != value) std::abort();
   for (const double step : {0.0, 0.5, 100.0, value}) {
     if (std::isnan(SnapToStep(value, step))) std::abort();
+  }
+  // What may be stored means the same once it is stored.
+  if (MayBePosition(rest, document)) {
+    const std::string stored = StoredPosition(rest);
+    if (!MayBePosition(stored, document) || StoredPosition(stored) != stored) std::abort();
+    if (PositionOrZero(stored, columns) != PositionOrZero(Trim(rest), columns)) std::abort();
   }
   return 0;
 }
