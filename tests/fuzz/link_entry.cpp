@@ -44,10 +44,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static_cast<void>(Scratch().Made("applications/mimeinfo.cache", choices));
   static_cast<void>(Scratch().Made("applications/a-viewer.desktop", entry));
   const DesktopSettings settings{{Scratch().Path()}, {Scratch().Path()}, {}};
-  if (const auto start = HandlerOf(address, settings)) CheckStart(*start, address);
-  if (const auto start = StartOfExec(entry, address)) CheckStart(*start, address);
-
   const ProgramStart editor = EditorStart(std::string(rest), "/a b");
   Require(!editor.Program.empty() && editor.Arguments.back() == "/a b");
+  if (address.empty()) return 0;
+  if (const auto start = HandlerOf(address, settings)) CheckStart(*start, address);
+  if (const auto start = StartOfExec(entry, address)) CheckStart(*start, address);
   return 0;
 }

@@ -80,7 +80,7 @@ struct Page {
 
   Sheet Shown() const { return SheetOfSelection(document, false, place, {}); }
   SheetOutcome Apply(const Sheet& sheet, const std::vector<RowEdit>& edits) {
-    PageWork page{document, pointer, surface, services, measurer};
+    PageWork page{document, pointer, surface, services, measurer, 1, DisplayFilter::All, {}};
     SheetWork work{page, host, pictures, "/nowhere/", place};
     return ApplySheetEdit(work, sheet, edits);
   }
