@@ -30,7 +30,7 @@ void CountRun(std::string_view bytes) {
   const std::string path = Scratch().Made("SN.DAT", bytes);
   const int number = NextSession(path);
   const int next = NextSession(path);
-  Require(number >= 1 && (next == number + 1 || next == 1));
+  Require(number >= 1 && (next == 1 || next - 1 == number));
 }
 
 void ReadActiveLanguage(std::string_view bytes) {
