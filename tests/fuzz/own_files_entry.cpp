@@ -36,7 +36,8 @@ void CountRun(std::string_view bytes) {
 void ReadActiveLanguage(std::string_view bytes) {
   static_cast<void>(Scratch().Made("activelang", bytes));
   const DesignerFolders folders{Scratch().Path(), Scratch().Path(), Scratch().Path("nothing")};
-  Require(FindActiveLanguage(folders) != '\0');
+  // Any character may stand there; a language that nothing is known of has no texts.
+  static_cast<void>(FindActiveLanguage(folders));
   Require(!WriteActiveLanguage(folders, 'P') && FindActiveLanguage(folders) == 'P');
 }
 

@@ -15,7 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::string_view rest(reinterpret_cast<const char*>(data), size);
   Document document;
   ColumnTable& columns = document.Columns;
-  if (!rest.empty()) columns[1] = {std::string(TakeLine(rest)), 2400, ""};
+  // The names of columns begin with "$"; one that looks like a number would be one.
+  if (!rest.empty()) columns[1] = {'$' + std::string(TakeLine(rest)), 2400, ""};
   ValidatePosition(rest, columns);
   const double value = PositionOrZero(rest, columns);
   if (!std::isfinite(value) || NumericPrefix(FormatNumber(value)) != value) std::abort();
