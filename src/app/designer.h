@@ -245,7 +245,6 @@ class Designer {
   QuickProperties& Quick() { return quick_; }
   Document& OpenDocument() { return document_; }
   const Document& OpenDocument() const { return document_; }
-  AttributeState& Attributes() { return attributes_; }
   DesignerOptions& Options() { return options_; }
   // What the font and colour tools last gave; what they give is stored here.
   LastUsed& Last() { return last_; }
@@ -300,7 +299,6 @@ class Designer {
 
   // A box under the program's title with one OK. `detail` is native bytes.
   void ShowText(int number, BoxIcon icon, std::string detail = {});
-  CreationContext Creation();
 
  private:
   // What a failed command gives back.
@@ -367,8 +365,6 @@ class Designer {
   StartInput input_;
   DesignerView* view_ = nullptr;
   Document document_;
-  AttributeState attributes_;
-  LayoutCursor cursor_;
   DesignerOptions options_;
   LastUsed last_;
   UserSettings settings_;
