@@ -28,6 +28,8 @@ void CheckDialogs(const std::string& text) {
   Back01State back = OpenedBack01(text);
   ShowColorsState picker = OpenedShowColors(ChartColourOf(text));
   for (std::size_t slider = 0; slider < kBackSliders.size(); ++slider) {
+    SlideBack01(back, slider, static_cast<int>(text.size() % 256));
+    Require(back.Sliders[slider] == static_cast<int>(text.size() % 256));
     LeaveBack01(back, slider, text);
     Require(IsChannel(back.Sliders[slider]) && back.Boxes[slider] == std::to_string(back.Sliders[slider]));
   }
@@ -37,6 +39,13 @@ void CheckDialogs(const std::string& text) {
     LeaveColour(picker, slider);
     Require(picker.Boxes[slider] == std::to_string(picker.Sliders[slider]));
   }
+  PickFromPalette(picker, ChartColourOf(text));
+  Require(ResultantColour(picker) == ChartColourOf(text));
+  SlideColour(picker, 0, 255);
+  Require(picker.Boxes[0] == "255");
+  const std::array<int, 6> ends = GradientOf(text);
+  const std::vector<Rgb> rows = BuildBackGround(ends[0], ends[1], ends[2], ends[3], ends[4], ends[5], 9);
+  Require(rows.size() == 9);
   Require(PaletteHex(ResultantColour(picker)).size() == 6);
 }
 

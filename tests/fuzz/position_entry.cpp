@@ -20,6 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ValidatePosition(rest, columns);
   const double value = PositionOrZero(rest, columns);
   if (!std::isfinite(value) || NumericPrefix(FormatNumber(value)) != value) std::abort();
+  if (ToInt16(value) != 0 && ToInt16(value) != ToInt32(value)) std::abort();
   for (const double step : {0.0, 0.5, 100.0, value}) {
     if (std::isnan(SnapToStep(value, step))) std::abort();
   }

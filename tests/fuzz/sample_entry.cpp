@@ -39,6 +39,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(variables.TooMany || variables.Names.size() == survey.Variables);
     CheckMade(VariablesTemplateText({"200", file}, variables.Names));
   } else {
+    std::size_t records = 0;
+    for (SampleRecordReader reader(bytes); reader.Next();)
+      ++records;
+    Require(records == survey.Records);
     Require(survey.Types == RecordTypesOf(bytes, CodePage::Default()));
     Require(survey.Types == ReadRecordTypes(file, CodePage::Default()));
     CheckMade(RecordsTemplateText({"200", file}, survey.Types, "Field"));
