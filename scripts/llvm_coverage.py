@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The counting build and what llvm-cov says of its runs."""
 import json
+import os
 import shutil
 import subprocess
 from pathlib import Path
@@ -34,5 +35,6 @@ def file_summaries(program: Path, profile: Path) -> dict[str, dict]:
     text = subprocess.run([tool("llvm-cov"), "export", "-summary-only", f"-instr-profile={profile}", program],
                           check=True, capture_output=True, text=True).stdout
     source = str(ROOT / "src") + "/"
-    return {file["filename"].removeprefix(source): file["summary"]
-            for file in json.loads(text)["data"][0]["files"] if file["filename"].startswith(source)}
+    # A compiler cache may have named a file by a way from the build folder.
+    files = [(os.path.normpath(file["filename"]), file["summary"]) for file in json.loads(text)["data"][0]["files"]]
+    return {name.removeprefix(source): summary for name, summary in files if name.startswith(source)}
