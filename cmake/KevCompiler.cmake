@@ -23,5 +23,11 @@ if(KEV_SANITIZE)
   add_link_options(-fsanitize=${KEV_SANITIZE})
 endif()
 
+# Counts of what ran, by region and branch of the source, for llvm-cov.
+if(KEV_COVERAGE)
+  add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+  add_link_options(-fprofile-instr-generate)
+endif()
+
 # Tests, tools and the window include headers as "document/columns.h": one root, the folder src.
 set(KEV_SOURCE_ROOT ${CMAKE_SOURCE_DIR}/src)

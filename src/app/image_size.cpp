@@ -53,12 +53,15 @@ std::optional<TextExtent> PngSize(std::string_view bytes) {
 }
 
 std::optional<TextExtent> GifSize(std::string_view bytes) {
+  if (bytes.size() < 10) return std::nullopt;
   return Pixels(Little16(bytes, 6), Little16(bytes, 8));
 }
 
 // The height is negative where the rows stand from the top down.
 std::optional<TextExtent> BmpSize(std::string_view bytes) {
-  if (Little32(bytes, 14) == 12) return Pixels(Little16(bytes, 18), Little16(bytes, 20));
+  const bool old = Little32(bytes, 14) == 12;
+  if (bytes.size() < (old ? 22 : 26)) return std::nullopt;
+  if (old) return Pixels(Little16(bytes, 18), Little16(bytes, 20));
   const auto height = static_cast<std::int32_t>(Little32(bytes, 22));
   return Pixels(static_cast<std::int32_t>(Little32(bytes, 18)), height < 0 ? -double{1} * height : height);
 }

@@ -11,7 +11,6 @@ constexpr double kGroupShare = 0.72;       // of the slot of a category
 constexpr double kSolidGroupShare = 0.58;  // the sides of the bars need room as well
 constexpr double kWidestBar = 64;
 constexpr double kBarShare = 0.9;  // where several stand side by side
-constexpr double kLeastHeight = 0.05;
 constexpr double kLaneMargin = 0.14;
 
 // Series of a type, those with the largest sums first, so that smaller ones stand in front of them.

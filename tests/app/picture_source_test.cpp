@@ -42,6 +42,13 @@ TEST(ImageSize, SvgUnitsAreLengthsOnPaper) {
   EXPECT_FALSE(ImageSize("<svg viewBox='0 0 10 10'>"));
 }
 
+TEST(ImageSize, AHeadThatEndsInsideItsSizeHasNone) {
+  for (const std::string& file : {Png("\0\0\0\x14\0\0\0\x0A"s).substr(0, 23), "GIF87a\x14\0\x0A"s,
+                                  "BM\0\0\0\0\0\0\0\0\0\0\0\0\x28\0\0\0\x14\0\0\0\x0A\0\0"s,
+                                  "BM\0\0\0\0\0\0\0\0\0\0\0\0\x0C\0\0\0\x14\0\x0A"s})
+    EXPECT_FALSE(ImageSize(file)) << file.size();
+}
+
 TEST(ImageSize, DamagedFilesHaveNone) {
   for (const std::string& file :
        {""s, "x"s, "BM"s, "GIF89a"s, "\xFF\xD8\xFF"s, "\x89PNG\r\n\x1A\n"s,

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "app/language.h"
+#include "base/shift_text.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
@@ -15,5 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       if (texts->Text(number).size() > size) std::abort();
     }
   }
+  // A blank stays one, and whatever becomes one does not come back.
+  if (kev::ShiftText(bytes, kev::kLanguageFileKey).size() != size) std::abort();
   return 0;
 }

@@ -5,7 +5,10 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "fuzz_support.h"
 #include "template/packed.h"
+
+using namespace kev;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
@@ -14,5 +17,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!packed || kev::IsPackedBytes(*packed) != 1) std::abort();
   const kev::Result<std::string> back = kev::UnpackedBytes(*packed);
   if (!back || *back != bytes) std::abort();
+
+  std::filesystem::create_directory(fuzz::Scratch().Path("Temp"));
+  const std::string file = fuzz::Scratch().Made("plain.kev", bytes);
+  const std::string packedFile = fuzz::Scratch().Path("packed.kev");
+  if (kev::PackTemplate(file, packedFile) || kev::IsPackedFile(packedFile) != 1) std::abort();
+  const kev::Result<std::string> plain = kev::ReadPlainTemplate(packedFile, fuzz::Scratch().Path());
+  if (!plain || *plain != bytes) std::abort();
   return 0;
 }

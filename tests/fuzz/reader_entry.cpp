@@ -28,7 +28,9 @@ std::optional<std::string> Saved(std::string_view bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  if (CheckTemplateBytes(bytes).size() != 5) std::abort();
+  const std::string check = CheckTemplateBytes(bytes);
+  if (check.size() != 5 || (RefusalOf(check) == Refusal::NoSections && check.starts_with("111")))
+    std::abort();
   const std::optional<std::string> first = Saved(bytes);
   if (!first) return 0;
   Saved(*first);

@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kMutations = 5000;
+constexpr int kUsualMutations = 5000;
 constexpr std::size_t kLargestMutation = 8000;
 
 std::string ReadBytes(const fs::path& path) {
@@ -110,6 +110,12 @@ class Mutator {
   std::vector<std::string> words_;
 };
 
+// Another number by KEV_MUTATIONS, where only the seeds count.
+int Mutations() {
+  const char* given = std::getenv("KEV_MUTATIONS");
+  return given == nullptr ? kUsualMutations : std::atoi(given);
+}
+
 void Run(const std::string& text) {
   // A block of exactly this size, so that the sanitizer sees each byte read behind it.
   const std::vector<std::uint8_t> bytes(text.begin(), text.end());
@@ -133,8 +139,9 @@ int main(int argc, char** argv) {
   for (const std::string& seed : seeds)
     Run(seed);
   Mutator mutator(seeds, ReadWords(argv[1]));
-  for (int n = 0; n < kMutations; ++n)
+  const int mutations = Mutations();
+  for (int n = 0; n < mutations; ++n)
     Run(mutator.Next());
-  std::cout << seeds.size() << " seeds and " << kMutations << " mutations\n";
+  std::cout << seeds.size() << " seeds and " << mutations << " mutations\n";
   return 0;
 }

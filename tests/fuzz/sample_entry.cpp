@@ -1,38 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as sample data: the first one chooses records or variables. The text and the file are judged
 // alike, and what is made of a good one is a template that reads back.
-#include <unistd.h>
-
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-#include <string_view>
-
-#include "base/files.h"
 #include "data/new_template.h"
 #include "document/text_measurer.h"
+#include "fuzz_support.h"
 #include "template/reader.h"
 
 namespace {
 
 using namespace kev;
-
-void Require(bool condition) {
-  if (!condition) std::abort();
-}
-
-// One file of this process, gone with it.
-class ScratchFile {
- public:
-  explicit ScratchFile(const char* ending) : path_("/tmp/kevfuzz_" + std::to_string(::getpid()) + ending) {}
-  ~ScratchFile() { DeleteFileIfThere(path_); }
-  ScratchFile(const ScratchFile&) = delete;
-  ScratchFile& operator=(const ScratchFile&) = delete;
-  const std::string& Path() const { return path_; }
-
- private:
-  std::string path_;
-};
+using fuzz::Require;
 
 void CheckMade(const std::string& text) {
   const BuiltInMeasurer measurer;
@@ -47,25 +24,28 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (size == 0) return 0;
   const std::string_view bytes(reinterpret_cast<const char*>(data) + 1, size - 1);
   const bool isVariables = data[0] == 'v';
-  const ScratchFile file(isVariables ? ".ked" : ".kex");
-  Require(!WritePlainFile(file.Path(), bytes));
+  const std::string file = fuzz::Scratch().Made(isVariables ? "data.ked" : "data.kex", bytes);
 
   const SampleCheck ofText = CheckSampleText(bytes, isVariables ? SampleKind::Ked : SampleKind::Kex);
-  const SampleCheck ofFile = CheckSampleFile(file.Path());
-  const SampleSurvey survey = SurveySampleFile(file.Path(), CodePage::Default());
+  const SampleCheck ofFile = CheckSampleFile(file);
+  const SampleSurvey survey = SurveySampleFile(file, CodePage::Default());
   Require(ofText.Fault == ofFile.Fault && ofText.Line == ofFile.Line);
   Require(ofText.Fault == survey.Check.Fault && ofText.Line == survey.Check.Line);
   Require(survey.Records + survey.Pages + survey.Variables <= survey.Lines);
   if (ofText.Fault != SampleFault::None) return 0;
 
   if (isVariables) {
-    const SampleVariables variables = ReadSampleVariables(file.Path(), kMostVariables);
+    const SampleVariables variables = ReadSampleVariables(file, kMostVariables);
     Require(variables.TooMany || variables.Names.size() == survey.Variables);
-    CheckMade(VariablesTemplateText({"200", file.Path()}, variables.Names));
+    CheckMade(VariablesTemplateText({"200", file}, variables.Names));
   } else {
+    std::size_t records = 0;
+    for (SampleRecordReader reader(bytes); reader.Next();)
+      ++records;
+    Require(records == survey.Records);
     Require(survey.Types == RecordTypesOf(bytes, CodePage::Default()));
-    Require(survey.Types == ReadRecordTypes(file.Path(), CodePage::Default()));
-    CheckMade(RecordsTemplateText({"200", file.Path()}, survey.Types, "Field"));
+    Require(survey.Types == ReadRecordTypes(file, CodePage::Default()));
+    CheckMade(RecordsTemplateText({"200", file}, survey.Types, "Field"));
   }
   return 0;
 }
