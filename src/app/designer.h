@@ -23,6 +23,7 @@
 #include "app/qr_images.h"
 #include "app/quick_properties.h"
 #include "app/read_back.h"
+#include "app/template_hold.h"
 #include "app/theme.h"
 #include "base/finding.h"
 #include "base/host.h"
@@ -284,9 +285,7 @@ class Designer {
   // A surface that shows nothing while there is no window.
   SurfaceOps& Canvas() { return view_ != nullptr ? view_->Canvas() : nowhere_; }
   WorkImages Images() const { return {folders_.TempFolder, session_}; }
-  MadePictures Made() {
-    return {.Qr = &qrImages_, .Charts = charts_.HasPainter() ? &charts_ : nullptr};
-  }
+  MadePictures Made() { return {.Qr = &qrImages_, .Charts = charts_.HasPainter() ? &charts_ : nullptr}; }
   ChartImages& Charts() { return charts_; }
   void PageShown();
   // Other objects than before cannot be painted as they should.
@@ -339,6 +338,10 @@ class Designer {
   void Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept;
   void ShowAdopted(std::vector<Finding> findings);
   bool SaveTo(const std::string& path);
+  // Asks where somebody else's work would be overwritten.
+  bool MayReplace(const std::string& path);
+  // Behind a read or a save; tells where another running program has the file open.
+  void HoldTemplate(const std::optional<FileStamp>& stamp, bool tell);
   // Whether FILEFORMAT asks for the packed form.
   bool IsEncoded() const;
   WriteReport WriteEncoded(const std::string& path);
@@ -370,6 +373,7 @@ class Designer {
   AttributeState attributes_;
   LayoutCursor cursor_;
   DesignerOptions options_;
+  DesignerOptions optionsAsRead_;
   LastUsed last_;
   UserSettings settings_;
   DesignerFolders folders_;
@@ -384,6 +388,7 @@ class Designer {
   std::vector<std::string> recent_;
   // The file of an earlier run that was opened where it lay.
   Recovery opened_;
+  TemplateHold hold_;
   std::vector<Finding> findings_;
   // Pictures that came while something else was under way, and whether they are there.
   std::vector<std::pair<std::string, bool>> arrivals_;

@@ -21,6 +21,7 @@
 namespace kev {
 namespace {
 
+constexpr int kTextOpenElsewhere = 360, kTextChangedElsewhere = 361, kTextReplaceOpenElsewhere = 362;
 constexpr std::string_view kExtension = ".kev";
 // The values of FILEFORMAT, and the kinds of file that stand for them in the chooser; the third kind, any
 // file, leaves the format as it is.
@@ -85,15 +86,25 @@ bool Designer::OpenTemplate(const std::string& path, OpenedFrom from) {
     RefuseMissing(path, from);
     return false;
   }
+  // Before the read, so that no change behind it is missed.
+  const std::optional<FileStamp> stamp = StampOf(file);
   const Result<std::string> bytes = ReadPlainTemplate(file, folders_.TempFolder);
   if (!bytes) {
     TellUnreadable(path, bytes.Error().reason);
     return false;
   }
   if (checked && Refuse(file, *bytes)) return false;
-  if (ReadAndAdopt(AbsolutePath(file), *bytes)) return true;
-  NewTemplate();
-  return false;
+  if (!ReadAndAdopt(AbsolutePath(file), *bytes)) {
+    NewTemplate();
+    return false;
+  }
+  GuardedView([&] { HoldTemplate(stamp, true); });
+  return true;
+}
+
+void Designer::HoldTemplate(const std::optional<FileStamp>& stamp, bool tell) {
+  if (!hold_.Take(documentPath_, stamp) && tell)
+    ShowText(kTextOpenElsewhere, BoxIcon::Warning, documentPath_);
 }
 
 // An archive from which nothing can be had is no template.
@@ -140,6 +151,7 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std
   if (adopted) {
     surface_.TheRecovery().Delete();
     opened_.LeaveBehind();
+    hold_.Release();
     GuardedView([&] { ShowAdopted(std::move(findings)); });
     AddRecentFile();
   } else {
@@ -297,7 +309,21 @@ void Designer::TellUnnamedSymbologies(const WriteReport& report) {
     host_.ShowMessage({Text(kTextProgramTitle), symbology, {}, BoxIcon::Warning});
 }
 
+bool Designer::MayReplace(const std::string& path) {
+  int question = 0;
+  if (path == documentPath_) {
+    if (hold_.IsChanged(path)) question = kTextChangedElsewhere;
+  } else if (IsOpenElsewhere(path)) {
+    question = kTextReplaceOpenElsewhere;
+  }
+  if (question == 0) return true;
+  const MessageBox box{Text(kTextProgramTitle), Text(question) + " ", path,
+                       BoxIcon::Question,       BoxButtons::YesNo,    true};
+  return host_.ShowMessage(box) == BoxAnswer::Yes;
+}
+
 bool Designer::SaveTo(const std::string& path) {
+  if (!MayReplace(path)) return false;
   host_.ShowStatus(Text(kTextStatusSaving));
   WriteReport report;
   const bool done = Guarded([&] { report = IsEncoded() ? WriteEncoded(path) : WriteDocument(path); });
@@ -311,6 +337,7 @@ bool Designer::SaveTo(const std::string& path) {
   documentTitle_ = FileNameOf(path);
   modified_ = false;
   EndRecovery(path);
+  HoldTemplate(StampOf(path), false);
   pictures_.SetTemplateFolder(FolderOf(path));
   // Sample data that is named without a folder is looked for beside the template.
   if (TemplateFolder() != oldFolder) GuardedView([this] { quick_.UpdateQuickPanel(); });

@@ -66,11 +66,13 @@ void Designer::SplashLoad() {
   language_ = FindActiveLanguage(folders_);
   session_ = NextSession(InDataFolder(folders_, kSessionFile));
   options_ = LoadOptions(InDataFolder(folders_, kLastRunFile));
+  optionsAsRead_ = options_;
   optionsRead_ = true;
   last_ = LastUsedIn(options_);
   settings_ = LoadUserSettings(InDataFolder(folders_, kSettingsFile));
   document_.Page = settings_.Page;
   pictures_.SetPage(*document_.Page);
+  pictures_.AllowRemote(settings_.RemotePictures);
 }
 
 void Designer::AfterSplash() {
@@ -116,6 +118,7 @@ std::optional<FileFailure> Designer::ShutDownSilently() {
     surface_.TheRecovery().Delete();
   }
   opened_.LeaveBehind();
+  hold_.Release();
   qrImages_.End();
   std::optional<FileFailure> failure = WriteLastRunOptions();
   DeleteSampleCopies(folders_.DataFolder);
@@ -128,7 +131,8 @@ std::optional<FileFailure> Designer::WriteLastRunOptions() {
   // A run that ends while it starts must not replace the user's options by the defaults.
   if (!optionsRead_) return std::nullopt;
   KeepLastUsed(last_, options_);
-  std::optional<FileFailure> failure = SaveOptions(InDataFolder(folders_, kLastRunFile), options_);
+  std::optional<FileFailure> failure =
+      SaveChangedOptions(InDataFolder(folders_, kLastRunFile), options_, optionsAsRead_);
   // A folder that is missing altogether was told at the start.
   return FolderExists(folders_.DataFolder) ? failure : std::nullopt;
 }
