@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The first and the last steps of a run.
 #include <ctime>
-#include <filesystem>
 
 #include "app/designer.h"
 #include "app/message_texts.h"
 #include "base/files.h"
+#include "base/folder.h"
 #include "base/text_numbers.h"
 
 namespace kev {
@@ -18,14 +18,9 @@ bool IsSampleCopy(const std::string& name) {
 
 // All of them, whoever left them there.
 void DeleteSampleCopies(const std::string& folder) {
-  std::error_code ignored;
-  std::vector<std::string> copies;
-  for (std::filesystem::directory_iterator at(folder, ignored), end; !ignored && at != end;
-       at.increment(ignored)) {
-    if (IsSampleCopy(at->path().filename().string())) copies.push_back(at->path().string());
-  }
-  for (const std::string& copy : copies) {
-    if (FileExists(copy)) DeleteFileIfThere(copy);
+  for (const std::string& name : NamesIn(folder)) {
+    const std::string copy = JoinPath(folder, name);
+    if (IsSampleCopy(name) && FileExists(copy)) DeleteFileIfThere(copy);
   }
 }
 

@@ -13,6 +13,7 @@
 
 #include "base/code_page.h"
 #include "base/descriptor.h"
+#include "base/folder.h"
 #include "base/reasons.h"
 #include "base/text.h"
 
@@ -54,12 +55,10 @@ std::optional<fs::path> FindIgnoringCase(const fs::path& folder, const std::stri
   std::error_code ignored;
   if (fs::exists(folder / name, ignored)) return folder / name;
   std::optional<fs::path> found;
-  for (fs::directory_iterator at(folder, ignored), end; !ignored && at != end; at.increment(ignored)) {
-    const fs::path& candidate = at->path();
+  for (const std::string& other : NamesIn(folder.string())) {
+    const fs::path candidate = folder / other;
     // The first in the order of names, so that the choice does not depend on the disk.
-    if (Utf8EqualsIgnoringCase(candidate.filename().string(), name) && (!found || candidate < *found)) {
-      found = candidate;
-    }
+    if (Utf8EqualsIgnoringCase(other, name) && (!found || candidate < *found)) found = candidate;
   }
   return found;
 }

@@ -15,7 +15,8 @@
 #include <iostream>
 #include <set>
 #include <string>
-#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "faults/scenes.h"
 
@@ -51,18 +52,31 @@ void Say(Shared& shared, const Complaints& complaints) {
   std::strncpy(shared.Said, all.c_str(), sizeof shared.Said - 1);
 }
 
+// Allocations are many; the short form lets one in so many fail.
+constexpr std::int64_t kShortStep = 97;
+
+// In place of a call: nothing but what goes before the work.
+constexpr std::int64_t kOnlyPrepared = -1;
+
 struct Row {
   std::string Name;
   Plan Planned;
   std::int64_t Step = 1;
 };
 
+// What is run of all there is; nothing said means all.
+struct Wanted {
+  bool IsShort = false;
+  std::string Scene, Row;
+  std::int64_t Call = 0;
+};
+
 class Campaign {
  public:
-  Campaign(std::int64_t memoryStep, bool isShort);
+  explicit Campaign(Wanted wanted);
 
   // False where something was wrong.
-  bool RunAll(std::string_view only);
+  bool RunAll();
 
  private:
   bool RunScene(const Scene& scene);
@@ -74,6 +88,7 @@ class Campaign {
   Complaints NextStart(const Home::All& now);
   void Tell(const Scene& scene, const Row& row, std::int64_t at, const Complaints& complaints);
 
+  Wanted wanted_;
   std::vector<Row> rows_;
   Home home_;
   Shared& shared_;
@@ -90,7 +105,8 @@ Shared& SharedBlock() {
   return *static_cast<Shared*>(block);
 }
 
-Campaign::Campaign(std::int64_t memoryStep, bool isShort) : shared_(SharedBlock()) {
+Campaign::Campaign(Wanted wanted) : wanted_(std::move(wanted)), shared_(SharedBlock()) {
+  const std::int64_t memoryStep = wanted_.IsShort ? kShortStep : 1;
   rows_ = {{"disk full", {kFileKinds, Manner::Once, ENOSPC}, 1},
            {"disk full for good", {kFileKinds, Manner::Onward, ENOSPC}, 1},
            {"killed at a call", {kFileKinds, Manner::Kill, 0}, 1},
@@ -98,7 +114,7 @@ Campaign::Campaign(std::int64_t memoryStep, bool isShort) : shared_(SharedBlock(
            {"no memory", {kMemory, Manner::Once, ENOMEM}, memoryStep},
            {"no memory for good", {kMemory, Manner::Onward, ENOMEM}, memoryStep},
            {"killed at an allocation", {kMemory, Manner::Kill, 0}, memoryStep * 5}};
-  if (isShort) return;
+  if (wanted_.IsShort) return;
   rows_.push_back({"no permission", {kFileKinds, Manner::Once, EACCES}, 1});
   rows_.push_back({"no permission for good", {kFileKinds, Manner::Onward, EACCES}, 1});
   rows_.push_back({"bad disk", {kFileKinds, Manner::Once, EIO}, 1});
@@ -109,6 +125,7 @@ void Campaign::Act(const Scene& scene, const Plan& plan, std::int64_t at) {
   Run run(home_, scene.Arguments(home_));
   if (!scene.StartsItself()) run.Start();
   scene.Prepare(run, home_);
+  if (at == kOnlyPrepared) return;
   run.Keep();
   run.TheHost.Messages.clear();
   run.TheHost.Status.clear();
@@ -121,7 +138,7 @@ void Campaign::Act(const Scene& scene, const Plan& plan, std::int64_t at) {
   std::strncpy(faults.Folder, home_.Path("").c_str(), sizeof faults.Folder - 1);
   kev_faults_use(&faults);
   faults.Armed = 1;
-  run.Done = scene.Work(run, home_);
+  run.Done = scene.Work(run);
   faults.Armed = 0;
   const Ending ending{true, run.Done, plan, faults.Last};
   shared_.Done = run.Done ? 1 : 0;
@@ -175,10 +192,13 @@ void Campaign::Tell(const Scene& scene, const Row& row, std::int64_t at, const C
 }
 
 void Campaign::RunRow(const Scene& scene, const Row& row) {
-  std::int64_t at = 1;
   const long before = faults_;
-  while (RunOnce(scene, row, at))
-    at += row.Step;
+  if (wanted_.Call > 0) {
+    RunOnce(scene, row, wanted_.Call);
+  } else {
+    for (std::int64_t at = 1; RunOnce(scene, row, at);)
+      at += row.Step;
+  }
   std::printf("%-22s %-26s %6ld faults\n", scene.Name().c_str(), row.Name.c_str(), faults_ - before);
   std::fflush(stdout);
 }
@@ -186,8 +206,9 @@ void Campaign::RunRow(const Scene& scene, const Row& row) {
 bool Campaign::RunScene(const Scene& scene) {
   scene.Furnish(home_);
   home_.Remember();
-  old_ = home_.Files();
   const Row none{"no fault", {}, 1};
+  RunOnce(scene, none, kOnlyPrepared);
+  old_ = home_.Files();
   if (RunOnce(scene, none, 0)) return false;
   if (shared_.Done == 0) {
     std::cout << "WRONG: " << scene.Name() << " is not done without a fault\n";
@@ -195,14 +216,14 @@ bool Campaign::RunScene(const Scene& scene) {
   }
   good_ = home_.Files();
   for (const Row& row : rows_)
-    RunRow(scene, row);
+    if (wanted_.Row.empty() || row.Name == wanted_.Row) RunRow(scene, row);
   return true;
 }
 
-bool Campaign::RunAll(std::string_view only) {
+bool Campaign::RunAll() {
   home_.Remember();
   for (const auto& scene : AllScenes()) {
-    if (!only.empty() && scene->Name() != only) continue;
+    if (!wanted_.Scene.empty() && scene->Name() != wanted_.Scene) continue;
     if (!RunScene(*scene)) ++wrong_;
     home_.Clear();
   }
@@ -213,11 +234,15 @@ bool Campaign::RunAll(std::string_view only) {
 }  // namespace
 }  // namespace kev::faults
 
+// fault_campaign [--short] [SCENE [ROW CALL]]
 int main(int argc, char** argv) {
-  const std::vector<std::string> arguments(argv + 1, argv + argc);
-  const bool isShort = !arguments.empty() && arguments.front() == "--short";
-  const std::string only = arguments.empty() || arguments.back().starts_with("--") ? "" : arguments.back();
-  const std::int64_t memoryStep = isShort ? 97 : 1;
-  kev::faults::Campaign campaign(memoryStep, isShort);
-  return campaign.RunAll(only) ? 0 : 1;
+  std::vector<std::string> arguments(argv + 1, argv + argc);
+  kev::faults::Wanted wanted;
+  wanted.IsShort = !arguments.empty() && arguments.front() == "--short";
+  if (wanted.IsShort) arguments.erase(arguments.begin());
+  arguments.resize(3);
+  wanted.Scene = arguments[0];
+  wanted.Row = arguments[1];
+  wanted.Call = std::atoll(arguments[2].c_str());
+  return kev::faults::Campaign(wanted).RunAll() ? 0 : 1;
 }

@@ -65,6 +65,7 @@ class QuietView final : public DesignerView {
  public:
   bool Recovers = false;  // the first file that is offered
   std::vector<std::string> Offered;
+  bool Taken = false;  // and it could be had
 
   void DocumentReplaced() override {}
   SurfaceOps& Canvas() override { return nowhere_; }
@@ -79,7 +80,7 @@ class QuietView final : public DesignerView {
     }
     if (!Recovers) return;
     SelectRecovered(dialog, 0);
-    Recover(dialog);
+    Taken = Recover(dialog);
   }
 
  private:

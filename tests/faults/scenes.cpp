@@ -102,7 +102,7 @@ class SaveScene : public Scene {
  public:
   std::string Name() const override { return "save"; }
   void Prepare(Run& run, const Home&) const override { run.Change(); }
-  bool Work(Run& run, const Home&) const override {
+  bool Work(Run& run) const override {
     bool saved = false;
     run.Program->GuardedView([&] { saved = run.Program->Save(); });
     return saved;
@@ -142,9 +142,10 @@ class OpenEncodedScene final : public Scene {
     const std::string plain = test::ReadBytes(std::string(KEV_EXAMPLES_DIR) + "/letter.kev");
     test::WriteBytes(home.Path("work/packed.kev"), *PackedBytes(plain, "packed.kev"));
   }
-  bool Work(Run& run, const Home& home) const override {
+  void Prepare(Run& run, const Home& home) const override { run.Target = home.Path("work/packed.kev"); }
+  bool Work(Run& run) const override {
     bool opened = false;
-    run.Program->GuardedView([&] { opened = run.Program->OpenTemplate(home.Path("work/packed.kev")); });
+    run.Program->GuardedView([&] { opened = run.Program->OpenTemplate(run.Target); });
     return opened;
   }
   Complaints CheckMemory(const Run& run, const Ending& ending) const override {
@@ -167,10 +168,10 @@ class PushScene final : public Scene {
   std::string Name() const override { return "change"; }
   void Prepare(Run& run, const Home&) const override {
     run.Change();
-    run.Program->Run(Command::SelectAll);
+    run.Program->Surface().GoToObject(run.FirstLabel());
   }
-  bool Work(Run& run, const Home&) const override {
-    run.Program->GuardedView([&] { run.Program->Run(Command::DeleteSelection); });
+  bool Work(Run& run) const override {
+    run.Program->GuardedView([&] { run.Program->Run(Command::DeleteObject); });
     return run.Program->Surface().Undo().UndoIndex() > run.Level;
   }
   Complaints CheckMemory(const Run& run, const Ending& ending) const override {
@@ -196,7 +197,7 @@ class OptionsScene final : public Scene {
  public:
   std::string Name() const override { return "options"; }
   void Prepare(Run& run, const Home&) const override { run.Program->Options().PropTop = 4321; }
-  bool Work(Run& run, const Home&) const override {
+  bool Work(Run& run) const override {
     const std::size_t boxes = run.TheHost.Messages.size();
     const bool ended = run.Program->GuardedView([&] { run.Program->ShutDown(); });
     return ended && run.TheHost.Messages.size() == boxes;
@@ -223,11 +224,17 @@ class RecoverScene : public Scene {
   void Furnish(const Home& home) const override {
     test::WriteBytes(home.Path(kLost), test::ReadBytes(std::string(KEV_EXAMPLES_DIR) + "/letter.kev"));
   }
-  bool Work(Run& run, const Home& home) const override {
+  void Prepare(Run& run, const Home& home) const override {
     run.View.Recovers = true;
     if (toPlace_) run.TheHost.Place = home.Path("work/found.kev");
+  }
+  bool Work(Run& run) const override {
     run.Program->GuardedView([&] { run.Start(); });
     return run.Program->DocumentTitle() == (toPlace_ ? "found.kev" : "lost.kev");
+  }
+  // What can't be looked at or held is not offered, and waits for the next start.
+  Complaints CheckMemory(const Run& run, const Ending& ending) const override {
+    return run.View.Taken ? Scene::CheckMemory(run, ending) : Complaints{};
   }
   Complaints CheckDisk(const Ending&, const Home::All& now, const Home::All& old,
                        const Home::All&) const override {
@@ -272,6 +279,14 @@ void Run::Change() {
       if (objects[row].Kind == ObjectKind::Label) objects[row].Content += " changed";
     Program->Surface().FullRepaint();
   });
+}
+
+int Run::FirstLabel() const {
+  const ObjectTable& objects = Program->OpenDocument().Objects;
+  int row = 1;
+  while (row < objects.LastScanned() && objects[row].Kind != ObjectKind::Label)
+    ++row;
+  return row;
 }
 
 void Run::Keep() {

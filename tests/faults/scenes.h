@@ -36,11 +36,13 @@ struct Run {
   Document Before;  // as Work found it
   int Level = 0;    // of the undo store
   bool Done = false;
+  std::string Target;  // of the work
 
   // The rest of the start, behind the language.
   void Start();
   // Puts a change into the document, so that there is something to save.
   void Change();
+  int FirstLabel() const;
   void Keep();
   bool IsAsBefore() const;
 };
@@ -65,7 +67,7 @@ class Scene {
   // What goes before; no call fails in it.
   virtual void Prepare(Run&, const Home&) const {}
   // Whether it was done.
-  virtual bool Work(Run& run, const Home& home) const = 0;
+  virtual bool Work(Run& run) const = 0;
   // In the process, behind a fault.
   virtual Complaints CheckMemory(const Run& run, const Ending& ending) const;
   // On the disk, whatever became of the process. `good` are the files of the home behind a run without
