@@ -355,6 +355,8 @@ class Designer {
   TestRunWork TestWork();
   std::optional<std::string> ChooseTarget();
   std::optional<std::string> ChooseTarget(FileChoice choice);
+  // What goes with a save that is done: recovery file, hold, list of recent files.
+  void FollowSave(const std::string& path, const std::string& oldFolder, const WriteReport& report);
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   ReadBack ReadBackFrom(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);

@@ -21,7 +21,6 @@
 namespace kev {
 namespace {
 
-constexpr int kTextOpenElsewhere = 360, kTextChangedElsewhere = 361, kTextReplaceOpenElsewhere = 362;
 constexpr std::string_view kExtension = ".kev";
 // The values of FILEFORMAT, and the kinds of file that stand for them in the chooser; the third kind, any
 // file, leaves the format as it is.
@@ -325,17 +324,28 @@ bool Designer::MayReplace(const std::string& path) {
 bool Designer::SaveTo(const std::string& path) {
   if (!MayReplace(path)) return false;
   host_.ShowStatus(Text(kTextStatusSaving));
+  // Made before the file is written: once it is, nothing may be in the way of saying so.
+  std::string written = path, title = FileNameOf(path);
+  const std::string oldFolder = TemplateFolder();
   WriteReport report;
+  const GuardedWork rest{kTextSavedNotAll, path};
+  const std::function<void()> follow = [&] { FollowSave(path, oldFolder, report); };
+  const std::function<void()> check = [&] { CheckSaved(path, oldFolder); };
   const bool done = Guarded([&] { report = IsEncoded() ? WriteEncoded(path) : WriteDocument(path); });
   if (!done || report.Failure) {
     host_.ShowStatus("");
     if (report.Failure) TellWriteFailure(*report.Failure);
     return false;
   }
-  const std::string oldFolder = TemplateFolder();
-  documentPath_ = path;
-  documentTitle_ = FileNameOf(path);
+  documentPath_.swap(written);
+  documentTitle_.swap(title);
   modified_ = false;
+  GuardedView(rest, follow, {});
+  GuardedView(rest, check, {});
+  return true;
+}
+
+void Designer::FollowSave(const std::string& path, const std::string& oldFolder, const WriteReport& report) {
   EndRecovery(path);
   HoldTemplate(StampOf(path), false);
   pictures_.SetTemplateFolder(FolderOf(path));
@@ -345,26 +355,22 @@ bool Designer::SaveTo(const std::string& path) {
   host_.ShowStatus("");
   TellUnnamedSymbologies(report);
   AddRecentFile();
-  CheckSaved(path, oldFolder);
-  return true;
 }
 
 // The file is there; whatever is found now only tells about it.
 void Designer::CheckSaved(const std::string& path, const std::string& oldFolder) {
-  GuardedView([&] {
-    ReadBack back = ReadBackFrom(path);
-    const bool same = back.Same();
-    const std::vector<Finding> missing = LostFiles(document_, oldFolder, FolderOf(path));
-    back.Findings.insert(back.Findings.end(), missing.begin(), missing.end());
-    if (back.Structure) {
-      host_.ShowStatus(Text(kTextReadBackDiffers));
-    } else if (!same) {
-      host_.ShowStatus(Text(kTextSavedWithFindings));
-    } else if (!missing.empty()) {
-      host_.ShowStatus(Text(kTextRelativeFilesMissing));
-    }
-    SetFindings(std::move(back.Findings));
-  });
+  ReadBack back = ReadBackFrom(path);
+  const bool same = back.Same();
+  const std::vector<Finding> missing = LostFiles(document_, oldFolder, FolderOf(path));
+  back.Findings.insert(back.Findings.end(), missing.begin(), missing.end());
+  if (back.Structure) {
+    host_.ShowStatus(Text(kTextReadBackDiffers));
+  } else if (!same) {
+    host_.ShowStatus(Text(kTextSavedWithFindings));
+  } else if (!missing.empty()) {
+    host_.ShowStatus(Text(kTextRelativeFilesMissing));
+  }
+  SetFindings(std::move(back.Findings));
 }
 
 ReadBack Designer::ReadBackFrom(const std::string& path) {

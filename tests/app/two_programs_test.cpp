@@ -13,8 +13,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr int kOpenElsewhere = 360, kChangedElsewhere = 361, kReplaceOpenElsewhere = 362;
-
 class TwoPrograms : public test::DesignerTest {
  protected:
   TwoPrograms() : file_(Made("a.kev", TemplateWith("{100;}A{\\n}\r\n"))) {}
@@ -38,7 +36,7 @@ TEST_F(TwoPrograms, TheSecondIsToldThatTheTemplateIsOpen) {
   EXPECT_THAT(host_.Messages, IsEmpty());
   const auto second = Start({file_});
   EXPECT_EQ(second->DocumentPath(), file_);
-  ExpectMessage(*second, kOpenElsewhere);
+  ExpectMessage(*second, kTextOpenElsewhere);
 }
 
 TEST_F(TwoPrograms, NobodyIsToldOfAProgramThatHasGoneOrOpenedAnotherFile) {
@@ -62,7 +60,7 @@ TEST_F(TwoPrograms, ASaveAsksBeforeItOverwritesWhatTheOtherHasSaved) {
   host_.Answers = {BoxAnswer::No};
   EXPECT_FALSE(first->Save());
   ASSERT_EQ(host_.Messages.size(), 1U);
-  EXPECT_TRUE(host_.Messages[0].Text.starts_with(first->Text(kChangedElsewhere)));
+  EXPECT_TRUE(host_.Messages[0].Text.starts_with(first->Text(kTextChangedElsewhere)));
   EXPECT_EQ(host_.Messages[0].Detail, file_);
   EXPECT_TRUE(host_.Messages[0].NoIsDefault);
   EXPECT_THAT(OnDisk(), HasSubstr("of the second"));
@@ -92,7 +90,7 @@ TEST_F(TwoPrograms, ANewNameAsksWhereAnotherProgramHasThatTemplateOpen) {
   const std::string before = OnDisk();
   EXPECT_FALSE(second->SaveAs());
   ASSERT_EQ(host_.Messages.size(), 1U);
-  EXPECT_TRUE(host_.Messages[0].Text.starts_with(second->Text(kReplaceOpenElsewhere)));
+  EXPECT_TRUE(host_.Messages[0].Text.starts_with(second->Text(kTextReplaceOpenElsewhere)));
   EXPECT_EQ(OnDisk(), before);
   host_.Answers = {BoxAnswer::Yes};
   EXPECT_TRUE(second->SaveAs());

@@ -52,7 +52,6 @@ void Say(Shared& shared, const Complaints& complaints) {
   std::strncpy(shared.Said, all.c_str(), sizeof shared.Said - 1);
 }
 
-// Allocations are many; the short form lets one in so many fail.
 constexpr std::int64_t kShortStep = 97;
 
 // In place of a call: nothing but what goes before the work.
@@ -67,6 +66,7 @@ struct Row {
 // What is run of all there is; nothing said means all.
 struct Wanted {
   bool IsShort = false;
+  std::int64_t MemoryStep = 1;
   std::string Scene, Row;
   std::int64_t Call = 0;
 };
@@ -106,7 +106,7 @@ Shared& SharedBlock() {
 }
 
 Campaign::Campaign(Wanted wanted) : wanted_(std::move(wanted)), shared_(SharedBlock()) {
-  const std::int64_t memoryStep = wanted_.IsShort ? kShortStep : 1;
+  const std::int64_t memoryStep = wanted_.MemoryStep;
   rows_ = {{"disk full", {kFileKinds, Manner::Once, ENOSPC}, 1},
            {"disk full for good", {kFileKinds, Manner::Onward, ENOSPC}, 1},
            {"killed at a call", {kFileKinds, Manner::Kill, 0}, 1},
@@ -234,12 +234,19 @@ bool Campaign::RunAll() {
 }  // namespace
 }  // namespace kev::faults
 
-// fault_campaign [--short] [SCENE [ROW CALL]]
+// fault_campaign [--short | --every N] [SCENE [ROW [CALL]]]
+// Allocations are thousands: the short form, or the number, lets only one in so many fail.
 int main(int argc, char** argv) {
   std::vector<std::string> arguments(argv + 1, argv + argc);
   kev::faults::Wanted wanted;
   wanted.IsShort = !arguments.empty() && arguments.front() == "--short";
-  if (wanted.IsShort) arguments.erase(arguments.begin());
+  if (wanted.IsShort) {
+    wanted.MemoryStep = kev::faults::kShortStep;
+    arguments.erase(arguments.begin());
+  } else if (arguments.size() > 1 && arguments.front() == "--every") {
+    wanted.MemoryStep = std::max(1LL, std::atoll(arguments[1].c_str()));
+    arguments.erase(arguments.begin(), arguments.begin() + 2);
+  }
   arguments.resize(3);
   wanted.Scene = arguments[0];
   wanted.Row = arguments[1];
