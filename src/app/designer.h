@@ -340,6 +340,7 @@ class Designer {
   bool SaveTo(const std::string& path);
   // Asks where somebody else's work would be overwritten.
   bool MayReplace(const std::string& path);
+  bool IsHeldHere(const std::string& path);
   // Behind a read or a save; tells where another running program has the file open.
   void HoldTemplate(const std::optional<FileStamp>& stamp, bool tell);
   // Whether FILEFORMAT asks for the packed form.

@@ -308,11 +308,21 @@ void Designer::TellUnnamedSymbologies(const WriteReport& report) {
     host_.ShowMessage({Text(kTextProgramTitle), symbology, {}, BoxIcon::Warning});
 }
 
+// The open document's own file under another name, or one of its recovery files.
+bool Designer::IsHeldHere(const std::string& path) {
+  std::error_code ignored;
+  const auto isSame = [&](const std::string& other) {
+    return !other.empty() && std::filesystem::equivalent(path, other, ignored);
+  };
+  return isSame(documentPath_) || isSame(surface_.TheRecovery().RecoveryFile()) ||
+         isSame(opened_.RecoveryFile());
+}
+
 bool Designer::MayReplace(const std::string& path) {
   int question = 0;
   if (path == documentPath_) {
     if (hold_.IsChanged(path)) question = kTextChangedElsewhere;
-  } else if (IsOpenElsewhere(path)) {
+  } else if (!IsHeldHere(path) && IsOpenElsewhere(path)) {
     question = kTextReplaceOpenElsewhere;
   }
   if (question == 0) return true;
