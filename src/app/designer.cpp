@@ -89,10 +89,6 @@ void Designer::ShowText(int number, BoxIcon icon, std::string detail) {
   host_.ShowMessage({Text(kTextProgramTitle), std::move(text), std::move(detail), icon});
 }
 
-CreationContext Designer::Creation() {
-  return {document_, attributes_, cursor_, measurer_, pictures_, ZoomFactor(), {}};
-}
-
 ReadServices Designer::Services(ReadProgress* progress) {
   return {measurer_, pictures_, settings_.DefaultPaperSize, document_.Page, progress};
 }

@@ -246,7 +246,6 @@ class Designer {
   QuickProperties& Quick() { return quick_; }
   Document& OpenDocument() { return document_; }
   const Document& OpenDocument() const { return document_; }
-  AttributeState& Attributes() { return attributes_; }
   DesignerOptions& Options() { return options_; }
   // What the font and colour tools last gave; what they give is stored here.
   LastUsed& Last() { return last_; }
@@ -299,7 +298,6 @@ class Designer {
 
   // A box under the program's title with one OK. `detail` is native bytes.
   void ShowText(int number, BoxIcon icon, std::string detail = {});
-  CreationContext Creation();
 
  private:
   // What a failed command gives back.
@@ -373,8 +371,6 @@ class Designer {
   StartInput input_;
   DesignerView* view_ = nullptr;
   Document document_;
-  AttributeState attributes_;
-  LayoutCursor cursor_;
   DesignerOptions options_;
   DesignerOptions optionsAsRead_;
   LastUsed last_;

@@ -163,8 +163,6 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std
 void Designer::Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept {
   ++generation_;
   document_ = std::move(outcome.Read);
-  attributes_ = std::move(outcome.Attributes);
-  cursor_ = {};
   documentPath_ = std::move(path);
   documentTitle_ = std::move(title);
   modified_ = false;

@@ -6,14 +6,6 @@
 #include "document/sections.h"
 
 namespace kev {
-namespace {
-
-bool IsBar(const ObjectRecord& record) {
-  return record.Kind == ObjectKind::Section || record.Kind == ObjectKind::Subsection;
-}
-
-}  // namespace
-
 SortedRows DeleteObject(Document& document, int row) {
   ObjectTable& objects = document.Objects;
   std::vector<int> cleared;
@@ -30,14 +22,6 @@ SortedRows DeleteObject(Document& document, int row) {
   for (const int each : cleared)
     objects.ClearRow(each);
   return DeriveGeometry(document);
-}
-
-bool CheckMovable(const ObjectTable& objects) {
-  if (objects.SelectionCount <= 1) return !IsBar(objects[objects.CurrentObject]);
-  for (int row = 1; row <= objects.LastScanned(); ++row) {
-    if (objects[row].Selected != kFalse && IsBar(objects[row])) return false;
-  }
-  return true;
 }
 
 }  // namespace kev

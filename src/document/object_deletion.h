@@ -11,8 +11,4 @@ namespace kev {
 // it; another subsection of the same name keeps its own. A free row is left alone.
 SortedRows DeleteObject(Document& document, int row);
 
-// Whether the selection holds objects alone, so that it can be cut, deleted or aligned: not when the current
-// row is a SECTION or SUBSECTION, nor, with several selected, when any of them is.
-bool CheckMovable(const ObjectTable& objects);
-
 }  // namespace kev

@@ -51,12 +51,6 @@ void ObjectTable::ClearRow(int row) {
   RowChanged(row);
 }
 
-void ObjectTable::Reset() {
-  for (int row = 1; row <= LastScanned(); ++row)
-    (*this)[row] = ObjectRecord{};
-  firstMaybeFree_ = 1;
-}
-
 void ObjectTable::Restart() {
   std::fill(rows_.begin(), rows_.end(), ObjectRecord{});
   ObjectCount = kFirstCount;

@@ -33,8 +33,6 @@ class ObjectTable {
   // there is none left, and then nothing has changed.
   int TakeFreeRow();
   void ClearRow(int row);
-  // Blanks rows 1 to ObjectCount. The bound itself stays.
-  void Reset();
   // As at start: every row blank and the bound at 50.
   void Restart();
 

@@ -13,10 +13,6 @@
 
 namespace kev {
 
-// How the grid is set up before its rows go in.
-inline constexpr int kSheetRowHeight = 12;       // points
-inline constexpr int kSheetCaptionWidth = 1900;  // twips
-
 enum class SheetSubject : std::uint8_t { Document, Object, Group };
 
 struct Sheet {

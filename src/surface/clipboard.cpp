@@ -193,7 +193,7 @@ void ShowPasted(PageWork& work, const std::vector<int>& rows) {
 
 }  // namespace
 
-bool CheckCopyable(PageWork& work, ClipboardUse use) {
+bool CheckMovable(PageWork& work, ClipboardUse use) {
   const ObjectTable& objects = work.document.Objects;
   const bool usable = work.pointer.MultiSelected ? IsGroupUsable(objects, use)
                                                  : MayBeUsed(objects[objects.CurrentObject], use);
@@ -202,7 +202,7 @@ bool CheckCopyable(PageWork& work, ClipboardUse use) {
 }
 
 void CopyObjects(PageWork& work, ClipboardTable& clipboard) {
-  if (!CheckCopyable(work, ClipboardUse::Take)) return;
+  if (!CheckMovable(work, ClipboardUse::Take)) return;
   ClipboardTable taken = TakenFrom(work);
   if (taken.Empty()) return;
   clipboard = std::move(taken);
@@ -210,7 +210,7 @@ void CopyObjects(PageWork& work, ClipboardTable& clipboard) {
 }
 
 void CutObjects(PageWork& work, ClipboardTable& clipboard) {
-  if (!CheckCopyable(work, ClipboardUse::Take)) return;
+  if (!CheckMovable(work, ClipboardUse::Take)) return;
   ClipboardTable taken = TakenFrom(work);
   if (taken.Empty()) return;
   DeleteSelected(work);
@@ -219,7 +219,7 @@ void CutObjects(PageWork& work, ClipboardTable& clipboard) {
 }
 
 std::optional<std::string> PasteObjects(PageWork& work, const ClipboardTable& clipboard) {
-  if (clipboard.Empty() || !CheckCopyable(work, ClipboardUse::Paste)) return std::nullopt;
+  if (clipboard.Empty() || !CheckMovable(work, ClipboardUse::Paste)) return std::nullopt;
   const int bar = work.pointer.HasPosition() ? SubsectionUnder(work, work.pointer.LastY) : 0;
   if (bar == 0) {
     work.services.ShowBox(kTextNoSubsectionHere, BoxIcon::Critical);

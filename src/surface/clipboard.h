@@ -24,7 +24,7 @@ enum class ClipboardUse : std::uint8_t { Take, Paste };
 
 // Whether the selection lets objects be cut, copied or pasted; tells where it does not. A bar is refused for
 // all three, an end bar for the first two.
-bool CheckCopyable(PageWork& work, ClipboardUse use);
+bool CheckMovable(PageWork& work, ClipboardUse use);
 
 // The clipboard holds the current object or the members of the group, and nothing that it held before. With
 // nothing selected, or a refusal, it stays. The document is not changed.

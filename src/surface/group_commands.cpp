@@ -104,7 +104,7 @@ void ChangeMembers(PageWork& work, const Change& change) {
 
 void AlignHorizontally(PageWork& work) {
   const std::vector<int> members = Members(work);
-  if (members.empty() || !CheckCopyable(work, ClipboardUse::Take)) return;
+  if (members.empty() || !CheckMovable(work, ClipboardUse::Take)) return;
   const std::int32_t top = RecordAt(work, TopmostOf(work, members)).AbsoluteY;
   for (const int row : members) {
     if (RecordAt(work, row).AbsoluteY <= std::int64_t{top} + kFarthestAligned) continue;

@@ -72,22 +72,5 @@ TEST(DeleteObject, OfAFreeRowChangesNothing) {
   EXPECT_EQ(Occupied(document), count);
 }
 
-TEST(CheckMovable, RefusesBarsAloneAndAmongOthers) {
-  Document document = Read("{1;}A{}\r\n{2;}B{}\r\n");
-  ObjectTable& objects = document.Objects;
-  const int bar = RowWith(document, "[HEADER]");
-  objects.CurrentObject = bar;
-  EXPECT_FALSE(CheckMovable(objects));
-  objects.CurrentObject = RowWith(document, "A");
-  EXPECT_TRUE(CheckMovable(objects));
-  objects[RowWith(document, "A")].Selected = kTrue;
-  objects[RowWith(document, "B")].Selected = kTrue;
-  objects.SelectionCount = 2;
-  EXPECT_TRUE(CheckMovable(objects));
-  objects[bar].Selected = kTrue;
-  objects.SelectionCount = 3;
-  EXPECT_FALSE(CheckMovable(objects));
-}
-
 }  // namespace
 }  // namespace kev

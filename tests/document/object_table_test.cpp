@@ -78,17 +78,6 @@ TEST(ObjectTable, RefusesRowsOutsideItsBounds) {
   EXPECT_THROW(table[-1], std::out_of_range);
 }
 
-TEST(ObjectTable, BlanksItsRowsOnAResetAndKeepsTheBound) {
-  ObjectTable table;
-  Occupy(table, 70);
-  EXPECT_EQ(table.ObjectCount, 70);
-  table.Reset();
-  EXPECT_EQ(table.ObjectCount, 70);
-  for (int row = 1; row <= 70; ++row)
-    EXPECT_EQ(table[row], ObjectRecord{}) << row;
-  EXPECT_EQ(table.TakeFreeRow(), 1);
-}
-
 TEST(ObjectTable, IsAsNewAfterARestart) {
   ObjectTable table;
   Occupy(table, 60);
