@@ -22,6 +22,7 @@
 #include "app/property_sheets.h"
 #include "app/qr_images.h"
 #include "app/quick_properties.h"
+#include "app/template_hold.h"
 #include "app/theme.h"
 #include "base/finding.h"
 #include "base/host.h"
@@ -336,6 +337,11 @@ class Designer {
   void Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept;
   void ShowAdopted(FoundInFile found);
   bool SaveTo(const std::string& path);
+  // Asks where somebody else's work would be overwritten.
+  bool MayReplace(const std::string& path);
+  bool IsHeldHere(const std::string& path);
+  // Behind a read or a save; tells where another running program has the file open.
+  void HoldTemplate(const std::optional<FileStamp>& stamp, bool tell);
   // Whether FILEFORMAT asks for the packed form.
   bool IsEncoded() const;
   WriteReport WriteEncoded(const std::string& path);
@@ -350,6 +356,8 @@ class Designer {
   TestRunWork TestWork();
   std::optional<std::string> ChooseTarget();
   std::optional<std::string> ChooseTarget(FileChoice choice);
+  // What goes with a save that is done: recovery file, hold, list of recent files.
+  void FollowSave(const std::string& path, const std::string& oldFolder, const WriteReport& report);
   void CheckSaved(const std::string& path, const std::string& oldFolder);
   SavedCheck CheckSavedFile(const std::string& path);
   void PictureArrived(const std::string& pictureFile, bool there);
@@ -366,6 +374,7 @@ class Designer {
   DesignerView* view_ = nullptr;
   Document document_;
   DesignerOptions options_;
+  DesignerOptions optionsAsRead_;
   LastUsed last_;
   UserSettings settings_;
   DesignerFolders folders_;
@@ -380,6 +389,7 @@ class Designer {
   std::vector<std::string> recent_;
   // The file of an earlier run that was opened where it lay.
   Recovery opened_;
+  TemplateHold hold_;
   std::vector<Finding> findings_;
   // Pictures that came while something else was under way, and whether they are there.
   std::vector<std::pair<std::string, bool>> arrivals_;

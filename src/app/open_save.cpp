@@ -85,15 +85,25 @@ bool Designer::OpenTemplate(const std::string& path, OpenedFrom from) {
     RefuseMissing(path, from);
     return false;
   }
+  // Before the read, so that no change behind it is missed.
+  const std::optional<FileStamp> stamp = StampOf(file);
   const Result<std::string> bytes = ReadPlainTemplate(file, folders_.TempFolder);
   if (!bytes) {
     TellUnreadable(path, bytes.Error().reason);
     return false;
   }
   if (checked && Refuse(file, *bytes)) return false;
-  if (ReadAndAdopt(AbsolutePath(file), *bytes)) return true;
-  NewTemplate();
-  return false;
+  if (!ReadAndAdopt(AbsolutePath(file), *bytes)) {
+    NewTemplate();
+    return false;
+  }
+  GuardedView([&] { HoldTemplate(stamp, true); });
+  return true;
+}
+
+void Designer::HoldTemplate(const std::optional<FileStamp>& stamp, bool tell) {
+  if (!hold_.Take(documentPath_, stamp) && tell)
+    ShowText(kTextOpenElsewhere, BoxIcon::Warning, documentPath_);
 }
 
 // An archive from which nothing can be had is no template.
@@ -140,6 +150,7 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std
   if (adopted) {
     surface_.TheRecovery().Delete();
     opened_.LeaveBehind();
+    hold_.Release();
     GuardedView([&] { ShowAdopted(std::move(found)); });
     AddRecentFile();
   } else {
@@ -304,20 +315,56 @@ void Designer::TellSampleFailure(const WriteReport& report) {
            report.SampleFailure->path + "\r\n" + ReasonInLanguage(texts_, report.SampleFailure->reason));
 }
 
+// The open document's own file under another name, or one of its recovery files.
+bool Designer::IsHeldHere(const std::string& path) {
+  std::error_code ignored;
+  const auto isSame = [&](const std::string& other) {
+    return !other.empty() && std::filesystem::equivalent(path, other, ignored);
+  };
+  return isSame(documentPath_) || isSame(surface_.TheRecovery().RecoveryFile()) ||
+         isSame(opened_.RecoveryFile());
+}
+
+bool Designer::MayReplace(const std::string& path) {
+  int question = 0;
+  if (path == documentPath_) {
+    if (hold_.IsChanged(path)) question = kTextChangedElsewhere;
+  } else if (!IsHeldHere(path) && IsOpenElsewhere(path)) {
+    question = kTextReplaceOpenElsewhere;
+  }
+  if (question == 0) return true;
+  const MessageBox box{Text(kTextProgramTitle), Text(question) + " ", path,
+                       BoxIcon::Question,       BoxButtons::YesNo,    true};
+  return host_.ShowMessage(box) == BoxAnswer::Yes;
+}
+
 bool Designer::SaveTo(const std::string& path) {
+  if (!MayReplace(path)) return false;
   host_.ShowStatus(Text(kTextStatusSaving));
+  // Made before the file is written: once it is, nothing may be in the way of saying so.
+  std::string written = path, title = FileNameOf(path);
+  const std::string oldFolder = TemplateFolder();
   WriteReport report;
+  const GuardedWork rest{kTextSavedNotAll, path};
+  const std::function<void()> follow = [&] { FollowSave(path, oldFolder, report); };
+  const std::function<void()> check = [&] { CheckSaved(path, oldFolder); };
   const bool done = Guarded([&] { report = IsEncoded() ? WriteEncoded(path) : WriteDocument(path); });
   if (!done || report.Failure) {
     host_.ShowStatus("");
     if (report.Failure) TellWriteFailure(*report.Failure);
     return false;
   }
-  const std::string oldFolder = TemplateFolder();
-  documentPath_ = path;
-  documentTitle_ = FileNameOf(path);
+  documentPath_.swap(written);
+  documentTitle_.swap(title);
   modified_ = false;
+  GuardedView(rest, follow, {});
+  GuardedView(rest, check, {});
+  return true;
+}
+
+void Designer::FollowSave(const std::string& path, const std::string& oldFolder, const WriteReport& report) {
   EndRecovery(path);
+  HoldTemplate(StampOf(path), false);
   pictures_.SetTemplateFolder(FolderOf(path));
   // Sample data that is named without a folder is looked for beside the template.
   if (TemplateFolder() != oldFolder) GuardedView([this] { quick_.UpdateQuickPanel(); });
@@ -326,25 +373,21 @@ bool Designer::SaveTo(const std::string& path) {
   TellUnnamedSymbologies(report);
   TellSampleFailure(report);
   AddRecentFile();
-  CheckSaved(path, oldFolder);
-  return true;
 }
 
 // The file is there; whatever is found now only tells about it.
 void Designer::CheckSaved(const std::string& path, const std::string& oldFolder) {
-  GuardedView([&] {
-    SavedCheck back = CheckSavedFile(path);
-    const std::vector<Finding> missing = LostFiles(document_, oldFolder, FolderOf(path));
-    back.Findings.insert(back.Findings.end(), missing.begin(), missing.end());
-    if (back.Structure) {
-      host_.ShowStatus(Text(kTextReadBackDiffers));
-    } else if (!back.Same) {
-      host_.ShowStatus(Text(kTextSavedWithFindings));
-    } else if (!missing.empty()) {
-      host_.ShowStatus(Text(kTextRelativeFilesMissing));
-    }
-    SetFindings(std::move(back.Findings));
-  });
+  SavedCheck back = CheckSavedFile(path);
+  const std::vector<Finding> missing = LostFiles(document_, oldFolder, FolderOf(path));
+  back.Findings.insert(back.Findings.end(), missing.begin(), missing.end());
+  if (back.Structure) {
+    host_.ShowStatus(Text(kTextReadBackDiffers));
+  } else if (!back.Same) {
+    host_.ShowStatus(Text(kTextSavedWithFindings));
+  } else if (!missing.empty()) {
+    host_.ShowStatus(Text(kTextRelativeFilesMissing));
+  }
+  SetFindings(std::move(back.Findings));
 }
 
 SavedCheck Designer::CheckSavedFile(const std::string& path) {

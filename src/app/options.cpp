@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "app/key_values.h"
+#include "base/descriptor.h"
 #include "base/files.h"
 #include "base/key_file.h"
 #include "base/text.h"
@@ -119,6 +120,27 @@ std::string Lines(const DesignerOptions& options, Written leftOut) {
   return text;
 }
 
+// The options of this run, with what it has not changed as another one has left it meanwhile.
+DesignerOptions Merged(DesignerOptions mine, const DesignerOptions& asRead, std::string_view now) {
+  const KeyFile keys(now);
+  const DesignerOptions theirs = ReadOptions(now);
+  const auto take = [&](auto member) {
+    if (mine.*member == asRead.*member) mine.*member = theirs.*member;
+  };
+  for (const OptionRow& row : kOptions) {
+    if (keys.Line(row.key) != 0) std::visit(take, row.member);
+  }
+  return mine;
+}
+
+// Nothing for what is neither.
+std::optional<bool> YesOrNo(std::string_view value) {
+  const std::string capitals = CodePage::Default().Upper(value);
+  if (capitals == "Y" || capitals == "YES" || capitals == "1") return true;
+  if (capitals == "N" || capitals == "NO" || capitals == "0") return false;
+  return std::nullopt;
+}
+
 // One more than the highest number does not fit and counts as 0.
 int SessionAfter(std::string_view bytes) {
   return std::max(1, ToInt32(NumericPrefix(KeyFile(bytes).Value("SESSID")) + 1));
@@ -159,6 +181,14 @@ std::optional<FileFailure> SaveOptions(const std::string& path, const DesignerOp
   return WriteWholeFile(path, OptionsText(options));
 }
 
+std::optional<FileFailure> SaveChangedOptions(const std::string& path, const DesignerOptions& options,
+                                              const DesignerOptions& asRead) {
+  // A folder that can't be held is written to all the same: then the last run to end wins.
+  const Descriptor hold = HoldFolder(FolderOf(path));
+  const Result<std::string> now = ReadWholeFile(path);
+  return SaveOptions(path, now ? Merged(options, asRead, *now) : options);
+}
+
 LastUsed LastUsedIn(const DesignerOptions& options) {
   const DesignerOptions& o = options;
   return {
@@ -192,6 +222,12 @@ UserSettings LoadUserSettings(const std::string& path) {
     settings.Page = known;
   } else if (!page.empty()) {
     settings.Unknown.push_back({"CODEPAGE", page});
+  }
+  const std::string remote = keys.Value("REMOTEPICTURES");
+  if (const std::optional<bool> allowed = YesOrNo(remote)) {
+    settings.RemotePictures = *allowed;
+  } else if (!remote.empty()) {
+    settings.Unknown.push_back({"REMOTEPICTURES", remote});
   }
   return settings;
 }

@@ -63,6 +63,10 @@ std::string OptionsText(const DesignerOptions& options);
 // Makes the file where it is missing, then reads it. A file that cannot be made or read gives the defaults.
 DesignerOptions LoadOptions(const std::string& path);
 std::optional<FileFailure> SaveOptions(const std::string& path, const DesignerOptions& options);
+// The same at the end of a run, beside others: what this run has not changed since it read them stays as the
+// file has it now. Runs that end at the same time wait for each other.
+std::optional<FileFailure> SaveChangedOptions(const std::string& path, const DesignerOptions& options,
+                                              const DesignerOptions& asRead);
 
 // What the next text begins with. The options know nothing of bold, and nothing that is chosen for a text box
 // outlives the run.
@@ -87,6 +91,7 @@ struct UserSettings {
   std::string DefaultEditor = "notepad";
   std::string DefaultPaperSize = "A4";
   const CodePage* Page = &CodePage::Default();
+  bool RemotePictures = true;  // whether pictures may be fetched
   // What stands in the file and means nothing, so that the default holds.
   std::vector<UnknownSetting> Unknown;
 };

@@ -87,6 +87,7 @@ PictureAnswer FolderPictures::LookRemote(const std::string& address) {
     return {std::string(kMissingPicture), std::nullopt};
   const std::string file = InTempFolder(folders_, pictureFile);
   if (FileExists(file)) return {pictureFile, ImageSizeOfFile(file)};
+  if (!remoteAllowed_) return {std::string(kMissingPicture), std::nullopt};
   if (fetches_->underWay.insert(pictureFile).second) {
     // The answer may come when this object is gone.
     host_.FetchPicture(address, file, [fetches = std::weak_ptr(fetches_), pictureFile](bool there) {

@@ -42,6 +42,8 @@ class FolderPictures final : public PictureSource {
   const std::string& TemplateFolder() const { return templateFolder_; }
   // Of the texts that Look is given.
   void SetPage(const CodePage& page) { page_ = &page; }
+  // Without it nothing is fetched; what an earlier run has fetched is shown all the same.
+  void AllowRemote(bool allowed) { remoteAllowed_ = allowed; }
   void OnArrival(Arrived arrived) { fetches_->arrived = std::move(arrived); }
 
   PictureAnswer Look(std::string_view path) override;
@@ -58,6 +60,7 @@ class FolderPictures final : public PictureSource {
   const DesignerFolders& folders_;
   const CodePage* page_ = &CodePage::Default();
   std::string templateFolder_;
+  bool remoteAllowed_ = true;
   std::shared_ptr<Fetches> fetches_ = std::make_shared<Fetches>();
 };
 

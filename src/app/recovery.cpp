@@ -12,6 +12,7 @@
 
 #include "base/code_page.h"
 #include "base/files.h"
+#include "base/folder.h"
 #include "base/reasons.h"
 #include "template/snapshot_text.h"
 
@@ -137,12 +138,9 @@ void Recovery::DeleteUnlessSavedTo(const std::string& path) {
 
 std::vector<std::string> RecoveryFilesIn(const std::string& folder) {
   std::vector<std::string> names;
-  std::error_code failed;
-  for (fs::directory_iterator at(folder, failed), end; !failed && at != end; at.increment(failed)) {
-    const std::string name = at->path().filename().string();
-    std::error_code ignored;
-    if (IsRecoveryName(name) && at->is_regular_file(ignored) && !IsHeld(at->path().string()))
-      names.push_back(name);
+  for (const std::string& name : NamesIn(folder)) {
+    const std::string path = PathIn(folder, name);
+    if (IsRecoveryName(name) && FileExists(path) && !IsHeld(path)) names.push_back(name);
   }
   std::sort(names.begin(), names.end());
   return names;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The first and the last steps of a run.
 #include <ctime>
-#include <filesystem>
 
 #include "app/designer.h"
 #include "app/message_texts.h"
 #include "base/files.h"
+#include "base/folder.h"
 #include "base/text_numbers.h"
 
 namespace kev {
@@ -18,14 +18,9 @@ bool IsSampleCopy(const std::string& name) {
 
 // All of them, whoever left them there.
 void DeleteSampleCopies(const std::string& folder) {
-  std::error_code ignored;
-  std::vector<std::string> copies;
-  for (std::filesystem::directory_iterator at(folder, ignored), end; !ignored && at != end;
-       at.increment(ignored)) {
-    if (IsSampleCopy(at->path().filename().string())) copies.push_back(at->path().string());
-  }
-  for (const std::string& copy : copies) {
-    if (FileExists(copy)) DeleteFileIfThere(copy);
+  for (const std::string& name : NamesIn(folder)) {
+    const std::string copy = JoinPath(folder, name);
+    if (IsSampleCopy(name) && FileExists(copy)) DeleteFileIfThere(copy);
   }
 }
 
@@ -66,11 +61,13 @@ void Designer::SplashLoad() {
   language_ = FindActiveLanguage(folders_);
   session_ = NextSession(InDataFolder(folders_, kSessionFile));
   options_ = LoadOptions(InDataFolder(folders_, kLastRunFile));
+  optionsAsRead_ = options_;
   optionsRead_ = true;
   last_ = LastUsedIn(options_);
   settings_ = LoadUserSettings(InDataFolder(folders_, kSettingsFile));
   document_.Page = settings_.Page;
   pictures_.SetPage(*document_.Page);
+  pictures_.AllowRemote(settings_.RemotePictures);
 }
 
 void Designer::AfterSplash() {
@@ -116,6 +113,7 @@ std::optional<FileFailure> Designer::ShutDownSilently() {
     surface_.TheRecovery().Delete();
   }
   opened_.LeaveBehind();
+  hold_.Release();
   qrImages_.End();
   std::optional<FileFailure> failure = WriteLastRunOptions();
   DeleteSampleCopies(folders_.DataFolder);
@@ -128,7 +126,8 @@ std::optional<FileFailure> Designer::WriteLastRunOptions() {
   // A run that ends while it starts must not replace the user's options by the defaults.
   if (!optionsRead_) return std::nullopt;
   KeepLastUsed(last_, options_);
-  std::optional<FileFailure> failure = SaveOptions(InDataFolder(folders_, kLastRunFile), options_);
+  std::optional<FileFailure> failure =
+      SaveChangedOptions(InDataFolder(folders_, kLastRunFile), options_, optionsAsRead_);
   // A folder that is missing altogether was told at the start.
   return FolderExists(folders_.DataFolder) ? failure : std::nullopt;
 }

@@ -7,8 +7,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <system_error>
+#include <thread>
 
 namespace kev {
 namespace {
@@ -56,6 +58,24 @@ int WriteAll(int descriptor, std::string_view bytes) {
 
 FileFailure FailureOfSystem(std::string path, int error) {
   return {std::move(path), std::error_code(error, std::generic_category()).message()};
+}
+
+// Whoever holds a lock for long does not rewrite a small file but hangs.
+int LockPatiently(const Descriptor& file) {
+  constexpr int kTries = 100;
+  constexpr auto kPause = std::chrono::milliseconds(10);
+  for (int tries = 0; ::flock(file.Number(), LOCK_EX | LOCK_NB) != 0; ++tries) {
+    if (errno != EWOULDBLOCK && errno != EINTR) return errno;
+    if (tries == kTries) return EWOULDBLOCK;
+    std::this_thread::sleep_for(kPause);
+  }
+  return 0;
+}
+
+Descriptor HoldFolder(const std::string& folder) {
+  Descriptor file(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!file || LockPatiently(file) != 0) return {};
+  return file;
 }
 
 Descriptor HoldFile(const std::string& path) {

@@ -35,6 +35,12 @@ class Descriptor {
 int WriteAll(int descriptor, std::string_view bytes);
 FileFailure FailureOfSystem(std::string path, int error);
 
+// 0, or the system's error number. Waits for other holders, but no longer than a second.
+int LockPatiently(const Descriptor& file);
+// Holds a folder against HoldFolder of others, so that one at a time changes what lies in it; waits as
+// LockPatiently does. Nothing where it can't be held.
+Descriptor HoldFolder(const std::string& folder);
+
 // Holds a file against HoldFile and IsHeld of every other holder, for as long as the result lives; a process
 // that ends in whatever way holds nothing any more. Nothing where another holds the file or it can't be
 // opened.

@@ -2,20 +2,18 @@
 #include "base/files.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
-#include <thread>
 
 #include "base/code_page.h"
 #include "base/descriptor.h"
+#include "base/folder.h"
 #include "base/reasons.h"
 #include "base/text.h"
 
@@ -57,12 +55,10 @@ std::optional<fs::path> FindIgnoringCase(const fs::path& folder, const std::stri
   std::error_code ignored;
   if (fs::exists(folder / name, ignored)) return folder / name;
   std::optional<fs::path> found;
-  for (fs::directory_iterator at(folder, ignored), end; !ignored && at != end; at.increment(ignored)) {
-    const fs::path& candidate = at->path();
+  for (const std::string& other : NamesIn(folder.string())) {
+    const fs::path candidate = folder / other;
     // The first in the order of names, so that the choice does not depend on the disk.
-    if (Utf8EqualsIgnoringCase(candidate.filename().string(), name) && (!found || candidate < *found)) {
-      found = candidate;
-    }
+    if (Utf8EqualsIgnoringCase(other, name) && (!found || candidate < *found)) found = candidate;
   }
   return found;
 }
@@ -86,18 +82,6 @@ Result<std::string> ReadFrom(const Descriptor& file, const std::string& path) {
   return bytes;
 }
 
-// Whoever holds a lock for long does not rewrite a small file but hangs.
-int Lock(const Descriptor& file) {
-  constexpr int kTries = 100;
-  constexpr auto kPause = std::chrono::milliseconds(10);
-  for (int tries = 0; ::flock(file.Number(), LOCK_EX | LOCK_NB) != 0; ++tries) {
-    if (errno != EWOULDBLOCK && errno != EINTR) return errno;
-    if (tries == kTries) return EWOULDBLOCK;
-    std::this_thread::sleep_for(kPause);
-  }
-  return 0;
-}
-
 }  // namespace
 
 Result<std::string> ReadWholeFile(const std::string& path) {
@@ -110,7 +94,7 @@ std::optional<FileFailure> RewriteLocked(const std::string& path,
                                          const std::function<std::string(std::string_view)>& change) {
   Descriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666));
   if (file.Number() < 0) return FailureOfSystem(path, errno);
-  if (const int error = Lock(file)) return FailureOfSystem(path, error);
+  if (const int error = LockPatiently(file)) return FailureOfSystem(path, error);
   const Result<std::string> bytes = ReadFrom(file, path);
   if (!bytes) return bytes.Error();
   const std::string changed = change(*bytes);
@@ -147,19 +131,19 @@ std::optional<FileFailure> WritePlainFile(const std::string& path, std::string_v
   return std::nullopt;
 }
 
+// These three take no memory: they are asked behind failures, and while objects end.
 bool FileExists(const std::string& path) {
-  std::error_code ignored;
-  return fs::is_regular_file(path, ignored);
+  struct stat status {};
+  return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 bool FolderExists(const std::string& path) {
-  std::error_code ignored;
-  return fs::is_directory(path, ignored);
+  struct stat status {};
+  return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 void DeleteFileIfThere(const std::string& path) {
-  std::error_code ignored;
-  fs::remove(path, ignored);
+  ::unlink(path.c_str());
 }
 
 std::string JoinPath(std::string_view folder, std::string_view name) {

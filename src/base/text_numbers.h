@@ -510,6 +510,14 @@ inline constexpr int kTextReasonPackedDamaged = 370;
 inline constexpr int kTextReasonPackedTooLarge = 371;
 inline constexpr int kTextReasonNotPacked = 372;
 
+// Two programs with one template
+inline constexpr int kTextOpenElsewhere = 360;
+inline constexpr int kTextChangedElsewhere = 361;
+inline constexpr int kTextReplaceOpenElsewhere = 362;
+
+// Behind a save that is done
+inline constexpr int kTextSavedNotAll = 363;
+
 // Recent files
 inline constexpr int kTextRecentNotStored = 373;
 

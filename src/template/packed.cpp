@@ -5,9 +5,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <memory>
 #include <utility>
 
+#include "base/descriptor.h"
 #include "base/files.h"
 #include "base/reasons.h"
 
@@ -34,8 +36,17 @@ using Archive = std::unique_ptr<zip_t, Discard>;
 using Member = std::unique_ptr<zip_file_t, Discard>;
 using Source = std::unique_ptr<zip_source_t, Discard>;
 
+// What the library for archives says of a failure is seldom its cause: whether memory or the disk were at an
+// end tells the system, whose number is set back before the library is called.
+FileFailure FailureOfLibrary(const char* otherwise) {
+  constexpr auto kOfDisk = std::to_array({EIO, EACCES, ENOSPC, EMFILE, ENFILE});
+  const int error = errno;
+  if (error == ENOMEM) return {{}, kReasonOutOfMemory};
+  if (std::find(kOfDisk.begin(), kOfDisk.end(), error) != kOfDisk.end()) return FailureOfSystem({}, error);
+  return {{}, otherwise};
+}
 FileFailure Damaged() {
-  return {{}, kReasonPackedDamaged};
+  return FailureOfLibrary(kReasonPackedDamaged);
 }
 FileFailure TooLarge() {
   return {{}, kReasonPackedTooLarge};
@@ -141,14 +152,16 @@ bool AsksForPacking(const DocumentSettings& settings) {
 }
 
 Result<std::string> PackedBytes(std::string_view plain, const std::string& memberName) {
+  errno = 0;
   std::optional<std::string> archive = ArchiveOf(plain, memberName);
-  if (!archive) return FileFailure{{}, kReasonNotPacked};
+  if (!archive) return FailureOfLibrary(kReasonNotPacked);
   archive->replace(0, kPackedStart.size(), kPackedStart);
   return std::move(*archive);
 }
 
 Result<std::string> UnpackedBytes(std::string_view packed) {
   const std::string archive = Restored(packed);
+  errno = 0;
   return FirstMember(Source(zip_source_buffer_create(archive.data(), archive.size(), 0, nullptr)));
 }
 
@@ -166,6 +179,7 @@ Result<WorkFile> UnpackTemplate(std::string& path, const std::string& tempFolder
   const Result<WorkFile> copy =
       WorkFile::Write(JoinPath(tempFolder, kUnpackingFolder), FileNameOf(path), Restored(*packed));
   if (!copy) return copy.Error();
+  errno = 0;
   const Result<std::string> plain =
       FirstMember(Source(zip_source_file_create(copy->Path().c_str(), 0, 0, nullptr)));
   if (!plain) return At(plain.Error(), path);

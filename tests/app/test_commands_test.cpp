@@ -129,6 +129,7 @@ TEST_F(ReportMenu, TheDataFileOpensInTheUsersEditor) {
   ASSERT_EQ(host_.Programs.size(), 1U);
   EXPECT_EQ(host_.Programs[0].Start.Program, "notepad");
   EXPECT_EQ(host_.Programs[0].Start.Arguments, Texts{data});
+  designer.reset();
   designer = Open("");
   designer->ShowDataFile();
   ExpectMessage(*designer, kTextNoSampleFile);
