@@ -27,6 +27,10 @@ std::string FirstOf(const Environment& environment, const std::array<std::string
 
 constexpr std::string_view kLanguageKey = "ACTIVELANG";
 
+bool IsLanguageLetter(char c) {
+  return c >= 'A' && c <= 'Z';
+}
+
 // The text with its first line of the key replaced; the line goes before all others where there is none,
 // since only the first lines of a file are looked at.
 std::string WithLanguage(std::string_view bytes, char letter) {
@@ -69,8 +73,9 @@ std::string ExecutableFolder() {
 
 char FindActiveLanguage(const DesignerFolders& folders) {
   for (const std::string& folder : {folders.DataFolder, folders.ProgramFolder}) {
-    const std::string letter = ReadKey(JoinPath(folder, kLanguageSwitch), kLanguageKey);
-    if (!letter.empty()) return CodePage::Default().Upper(letter.front());
+    const std::string value = ReadKey(JoinPath(folder, kLanguageSwitch), kLanguageKey);
+    const char letter = value.empty() ? '\0' : CodePage::Default().Upper(value.front());
+    if (IsLanguageLetter(letter)) return letter;
   }
   return 'E';
 }

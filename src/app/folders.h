@@ -28,8 +28,8 @@ DesignerFolders FindFolders(const Environment& environment, const std::string& p
 // The folder of the running executable, links resolved.
 std::string ExecutableFolder();
 
-// The letter of the language in force: `\activelang` in DataFolder, then the one beside the executable, then
-// "E".
+// The letter of the language in force, from the first file that gives one: `\activelang` in DataFolder, then
+// the one beside the executable; else "E".
 char FindActiveLanguage(const DesignerFolders& folders);
 // For the next start: into `\activelang` of DataFolder. Only its line changes; the others stay.
 std::optional<FileFailure> WriteActiveLanguage(const DesignerFolders& folders, char letter);

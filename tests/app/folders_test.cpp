@@ -5,8 +5,8 @@
 
 #include <map>
 
-#include "base/text_numbers.h"
 #include "base/files.h"
+#include "base/text_numbers.h"
 #include "support/run_tool.h"
 
 namespace kev {
@@ -57,6 +57,22 @@ TEST(Folders, TheLanguageChosenByTheUserOverridesTheInstalledOne) {
   EXPECT_EQ(FindActiveLanguage(folders), 'I');
   EXPECT_FALSE(WriteActiveLanguage(folders, 'P'));
   EXPECT_EQ(FindActiveLanguage(folders), 'P');
+}
+
+TEST(Folders, WhatIsNoLetterIsNoLanguage) {
+  const test::TemporaryFolder program, data;
+  DesignerFolders folders;
+  folders.ProgramFolder = (program / "");
+  folders.DataFolder = (data / "");
+  for (const std::string_view value :
+       {std::string_view("\0S", 2), std::string_view("1"), std::string_view("[E"), std::string_view("@"),
+        std::string_view("\xC9")}) {
+    test::WriteBytes(program / "activelang", "ACTIVELANG=" + std::string(value) + "\r\n");
+    EXPECT_EQ(FindActiveLanguage(folders), 'E') << value;
+  }
+  test::WriteBytes(data / "activelang", std::string("ACTIVELANG=\0P\r\n", 15));
+  test::WriteBytes(program / "activelang", "ACTIVELANG=z\r\n");
+  EXPECT_EQ(FindActiveLanguage(folders), 'Z');
 }
 
 class StoredLanguage : public testing::Test {

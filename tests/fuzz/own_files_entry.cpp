@@ -36,8 +36,9 @@ void CountRun(std::string_view bytes) {
 void ReadActiveLanguage(std::string_view bytes) {
   static_cast<void>(Scratch().Made("activelang", bytes));
   const DesignerFolders folders{Scratch().Path(), Scratch().Path(), Scratch().Path("nothing")};
-  // Any character may stand there; a language that nothing is known of has no texts.
-  static_cast<void>(FindActiveLanguage(folders));
+  // Any letter may stand there; a language that nothing is known of has no texts.
+  const char letter = FindActiveLanguage(folders);
+  Require(letter >= 'A' && letter <= 'Z');
   Require(!WriteActiveLanguage(folders, 'P') && FindActiveLanguage(folders) == 'P');
 }
 
