@@ -14,6 +14,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     arguments.emplace_back(fuzz::TakePart(rest, '\n'));
   const CommandLineParts parts = ParseCommandLine(arguments);
   Require(!(parts.Help && parts.Version));
+  if (parts.Help || parts.Version) {
+    const std::string_view printed = parts.Help ? HelpText() : VersionText();
+    Require(printed.ends_with('\n') && arguments.size() == 1 && parts.CommandLine.empty());
+  }
   Require(parts.CommandOptions.find('/') == std::string::npos);
   Require(parts.CommandLine.size() + parts.CommandOptions.size() <= size);
   const std::string path = ResolveTemplatePath(parts.CommandLine);

@@ -23,6 +23,15 @@ inline std::string_view TextOf(const std::uint8_t* data, std::size_t size) {
   return {reinterpret_cast<const char*>(data), size};
 }
 
+// True for one input of eight, whenever it comes. What costs much and seldom tells more is asked of those
+// only.
+inline bool IsOneOfEight(std::string_view bytes) {
+  std::uint32_t hash = 2166136261U;
+  for (const char c : bytes)
+    hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
+  return (hash >> 16) % 8 == 0;
+}
+
 // A folder of this process, gone with it. In memory where the system has such a place, so that readers of
 // files run as often as others.
 class ScratchFolder {

@@ -30,6 +30,19 @@ void CheckStart(const ProgramStart& start, const std::string& address) {
   Require(hasAddress);
 }
 
+// What the desktop's variables say is taken apart at each colon. Some of them are not set.
+void CheckVariables(std::string_view text) {
+  const DesktopSettings settings =
+      DesktopSettingsOf([text](std::string_view name) -> std::optional<std::string> {
+        if ((name.size() + text.size()) % 3 == 0) return std::nullopt;
+        return std::string(text);
+      });
+  for (const auto& list : {settings.ConfigFolders, settings.DataFolders, settings.Desktops}) {
+    for (const std::string& item : list)
+      Require(item.find(':') == std::string::npos);
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -43,11 +56,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static_cast<void>(Scratch().Made("mimeapps.list", choices));
   static_cast<void>(Scratch().Made("applications/mimeinfo.cache", choices));
   static_cast<void>(Scratch().Made("applications/a-viewer.desktop", entry));
-  const DesktopSettings settings{{Scratch().Path()}, {Scratch().Path()}, {}};
+  const DesktopSettings settings{{Scratch().Path()}, {Scratch().Path()}, {"own"}};
+  CheckVariables(choices);
   const ProgramStart editor = EditorStart(std::string(rest), "/a b");
   Require(!editor.Program.empty() && editor.Arguments.back() == "/a b");
   if (address.empty()) return 0;
   if (const auto start = HandlerOf(address, settings)) CheckStart(*start, address);
+  if (const auto start = TextHandlerOf(address, settings)) CheckStart(*start, address);
   if (const auto start = StartOfExec(entry, address)) CheckStart(*start, address);
   return 0;
 }

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as the list of recent files; the first line is a template that is opened then.
+// Any bytes as the list of recent files; the first line is a template that is opened then. The same bytes are
+// the head of that template, whose page becomes a picture.
 #include <algorithm>
 
 #include "app/recent_files.h"
+#include "base/key_file.h"
 #include "base/text.h"
+#include "document/settings.h"
 #include "fuzz_support.h"
 
 namespace {
@@ -21,6 +24,13 @@ void CheckPath(const DesignerFolders& folders, const std::string& path) {
   Require(!thumbnail || FolderOf(*thumbnail) == Scratch().Path("temp"));
 }
 
+void CheckLook(std::string_view head) {
+  const ThumbnailLook look = ThumbnailLookOf(ReadSettings(KeyFile(head), "A4"));
+  Require(look.Width > 0 && look.Height > 0);
+  Require(std::min(look.PixelWidth, look.PixelHeight) >= 90 &&
+          std::max(look.PixelWidth, look.PixelHeight) <= 360);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -30,6 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static_cast<void>(Scratch().Made("temp/lastfiles", rest));
   const DesignerFolders folders{Scratch().Path(), Scratch().Path(), Scratch().Path()};
 
+  CheckLook(rest);
   const std::vector<std::string> before = ReadRecentFiles(folders);
   Require(before.size() <= kMostRecent && RecentFilesThere(folders).size() <= kRecentInMenu);
   for (const std::string& path : before)

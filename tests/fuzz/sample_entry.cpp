@@ -18,6 +18,33 @@ void CheckMade(const std::string& text) {
   static_cast<void>(ReadTemplateBytes(text, {measurer, pictures}));
 }
 
+void CheckCode(const SampleCheck& check) {
+  const std::string code = SampleCode(check);
+  Require(code.empty() == (check.Fault == SampleFault::None));
+  const bool named = check.Fault == SampleFault::BadLine || check.Fault == SampleFault::TooLong;
+  Require(named == (code == "3:" + std::to_string(check.Line)));
+}
+
+// The fields that a head line names come back from one that is made of them.
+void CheckFields(std::string_view head) {
+  const std::vector<std::string> fields = FieldsOfHead(head);
+  std::string made = "[X:";
+  for (const std::string& field : fields)
+    made.append(field).append(",");
+  if (fields.empty() || !fields.back().ends_with(']')) Require(FieldsOfHead(made + ']') == fields);
+}
+
+void CheckOtherNames(std::string_view bytes) {
+  const std::string other = fuzz::Scratch().Made("data.txt", bytes);
+  Require(CheckSampleFile(other).Fault == SampleFault::WrongName);
+  Require(SurveySampleFile(other, CodePage::Default()).Check.Fault == SampleFault::WrongName);
+  Require(ReadRecordTypes(other, CodePage::Default()).empty());
+  const std::string missing = fuzz::Scratch().Path("nothing.kex");
+  Require(CheckSampleFile(missing).Fault == SampleFault::None);
+  Require(SurveySampleFile(missing, CodePage::Default()).Check.Fault == SampleFault::NotReadable);
+  Require(ReadRecordTypes(missing, CodePage::Default()).empty());
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -32,6 +59,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(ofText.Fault == ofFile.Fault && ofText.Line == ofFile.Line);
   Require(ofText.Fault == survey.Check.Fault && ofText.Line == survey.Check.Line);
   Require(survey.Records + survey.Pages + survey.Variables <= survey.Lines);
+  CheckCode(ofText);
+  CheckFields(bytes);
+  if (fuzz::IsOneOfEight(bytes)) CheckOtherNames(bytes);
   if (ofText.Fault != SampleFault::None) return 0;
 
   if (isVariables) {

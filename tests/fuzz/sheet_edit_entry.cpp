@@ -66,6 +66,19 @@ Document MakeDocument(ObjectKind kind) {
   return document;
 }
 
+// Sample data of each kind, for the row that names it.
+std::string SampleFolder() {
+  const fuzz::ScratchFolder& folder = fuzz::Scratch();
+  static_cast<void>(folder.Made("good.kex", "TEMPLATE=a.kev\n|A|1|\n"));
+  static_cast<void>(folder.Made("head.kex", "|A|1|\n"));
+  static_cast<void>(folder.Made("mark.kex", "\xEF\xBB\xBFTEMPLATE=a.kev\n"));
+  static_cast<void>(folder.Made("line.kex", "TEMPLATE=a.kev\n|A|1\n"));
+  static_cast<void>(folder.Made("long.kex", "TEMPLATE=a.kev\n" + std::string(300, '|') + "\n"));
+  static_cast<void>(folder.Made("line.ked", "TEMPLATE=a.kev\nA=1\n"));
+  static_cast<void>(folder.Made("name.txt", "TEMPLATE=a.kev\n"));
+  return folder.Path();
+}
+
 struct Page {
   Document document;
   PointerState pointer;
@@ -81,7 +94,8 @@ struct Page {
   Sheet Shown() const { return SheetOfSelection(document, false, place, {}); }
   SheetOutcome Apply(const Sheet& sheet, const std::vector<RowEdit>& edits) {
     PageWork page{document, pointer, surface, services, measurer, 1, DisplayFilter::All, {}};
-    SheetWork work{page, host, pictures, "/nowhere/", place};
+    static const std::string folder = SampleFolder();
+    SheetWork work{page, host, pictures, folder, place};
     return ApplySheetEdit(work, sheet, edits);
   }
 };
@@ -114,6 +128,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const SheetOutcome outcome =
       page.Apply(before, EditsOf(fuzz::TextOf(data + 1, size - 1), before.Rows.size()));
   Require(outcome.Shown == page.Shown());
+  const auto rows = static_cast<int>(before.Rows.size());
+  Require(ActionOf(before, 0) == SheetAction::None && ActionOf(before, rows + 1) == SheetAction::None);
+  for (int row = 1; row <= rows; ++row)
+    Require(ActionOf(before, row) == before.Rows[static_cast<std::size_t>(row) - 1].Action);
   Require(page.services.Pushes <= 1);
 
   page.services.Pushes = 0;
