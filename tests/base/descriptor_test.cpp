@@ -5,6 +5,7 @@
 
 #include <cerrno>
 
+#include "support/full_disk.h"
 #include "support/run_tool.h"
 
 namespace kev {
@@ -82,6 +83,37 @@ TEST_F(DescriptorTest, AFolderThatIsNotThereIsTold) {
   const auto file = NewHeldFile::Write(root_ / "none", "bytes");
   ASSERT_FALSE(file);
   EXPECT_EQ(file.Error().reason, "No such file or directory");
+}
+
+TEST_F(DescriptorTest, WhatDoesNotFitIsToldAndLeavesNothing) {
+  {
+    const test::FullDisk full(4096);
+    const auto file = NewHeldFile::Write(folder_, std::string(10000, 'x'));
+    ASSERT_FALSE(file);
+    EXPECT_EQ(file.Error().reason, "File too large");
+  }
+  EXPECT_TRUE(std::filesystem::is_empty(folder_));
+}
+
+// A folder of the system's own holds neither nameless files nor new ones.
+TEST_F(DescriptorTest, AFolderThatTakesNoFilesIsTold) {
+  const auto file = NewHeldFile::Write("/proc/self", "bytes");
+  ASSERT_FALSE(file);
+  EXPECT_EQ(file.Error().path, "/proc/self");
+}
+
+TEST_F(DescriptorTest, WhatIsNotOpenCannotBeLocked) {
+  EXPECT_EQ(LockPatiently(Descriptor()), EBADF);
+  EXPECT_FALSE(HoldFolder(root_ / "none"));
+}
+
+TEST_F(DescriptorTest, AHeldFolderIsNobodyElses) {
+  {
+    const Descriptor hold = HoldFolder(folder_);
+    ASSERT_TRUE(hold);
+    EXPECT_FALSE(HoldFolder(folder_));
+  }
+  EXPECT_TRUE(HoldFolder(folder_));
 }
 
 }  // namespace

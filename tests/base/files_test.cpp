@@ -3,13 +3,12 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 
+#include "support/full_disk.h"
 #include "support/run_tool.h"
 
 namespace kev {
@@ -127,23 +126,61 @@ TEST(WriteWholeFile, SaysWhyWhereItCannotWrite) {
   EXPECT_EQ(isFolder->reason, "Is a directory");
 }
 
-// The size limit of the process stands for a disk that is full.
+TEST(WriteWholeFile, LeavesNothingBehindUnderANameThatNoFileCanHave) {
+  const TemporaryFolder folder;
+  const auto failure = WriteWholeFile(folder / std::string(300, 'n'), "x");
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->reason, "File name too long");
+  EXPECT_THAT(NamesIn(folder / ""), IsEmpty());
+}
+
+TEST(WriteWholeFile, ReplacesALinkThatLeadsToItself) {
+  const TemporaryFolder folder;
+  fs::create_symlink("a", folder / "a");
+  EXPECT_FALSE(WriteWholeFile(folder / "a", "x"));
+  EXPECT_EQ(ReadBytes(folder / "a"), "x");
+  EXPECT_FALSE(fs::is_symlink(folder / "a"));
+}
+
 TEST(WriteWholeFile, LeavesTheOldFileWhereTheNewOneDoesNotFit) {
   const TemporaryFolder folder;
   WriteBytes(folder / "a", "the old file");
-  rlimit before{};
-  ::getrlimit(RLIMIT_FSIZE, &before);
-  const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit tight = before;
-  tight.rlim_cur = 4096;
-  ::setrlimit(RLIMIT_FSIZE, &tight);
-  const auto failure = WriteWholeFile(folder / "a", std::string(10000, 'x'));
-  ::setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, oldHandler);
+  std::optional<FileFailure> failure;
+  {
+    const test::FullDisk full(4096);
+    failure = WriteWholeFile(folder / "a", std::string(10000, 'x'));
+  }
   ASSERT_TRUE(failure);
   EXPECT_EQ(failure->reason, "File too large");
   EXPECT_EQ(ReadBytes(folder / "a"), "the old file");
   EXPECT_THAT(NamesIn(folder / ""), testing::ElementsAre("a"));
+}
+
+TEST(RewriteLocked, TellsOfWhatCannotBeReadOrDoesNotFit) {
+  const TemporaryFolder folder;
+  const auto longer = [](std::string_view) { return std::string(10000, 'x'); };
+  EXPECT_EQ(RewriteLocked(folder / "", longer)->reason, "Is a directory");
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(RewriteLocked(folder / "pipe", longer)->reason, "not a regular file");
+  const test::FullDisk full(4096);
+  EXPECT_EQ(RewriteLocked(folder / "a", longer)->reason, "File too large");
+}
+
+TEST(WritePlainFile, TellsOfWhatDoesNotFit) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(WritePlainFile(folder / "", "x")->reason, "Is a directory");
+  const test::FullDisk full(4096);
+  EXPECT_EQ(WritePlainFile(folder / "a", std::string(10000, 'x'))->reason, "File too large");
+}
+
+// Some files of the system are shorter than it says.
+TEST(ReadWholeFile, ReadsAsFarAsAFileGoes) {
+  const std::string shorter = "/sys/kernel/uevent_seqnum";
+  if (!FileExists(shorter)) GTEST_SKIP() << "no such file on this system";
+  const auto read = ReadWholeFile(shorter);
+  ASSERT_TRUE(read);
+  EXPECT_LT(read->size(), fs::file_size(shorter));
+  EXPECT_TRUE(read->ends_with('\n'));
 }
 
 TEST(JoinPath, PutsANameBelowAFolder) {
@@ -156,6 +193,39 @@ TEST(Paths, AreTakenApart) {
   EXPECT_EQ(FolderOf("/a/b/c.kev"), "/a/b");
   EXPECT_EQ(FileNameOf("/a/b/c.kev"), "c.kev");
   EXPECT_EQ(AbsolutePath("/a/./b/../c"), "/a/c");
+}
+
+// Goes into a folder, and back.
+class WorkingFolder {
+ public:
+  explicit WorkingFolder(const std::string& folder) : before_(fs::current_path()) {
+    fs::current_path(folder);
+  }
+  ~WorkingFolder() { fs::current_path(before_); }
+  WorkingFolder(const WorkingFolder&) = delete;
+  WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+ private:
+  fs::path before_;
+};
+
+TEST(Paths, StayAsTheyAreWhereTheWorkingFolderIsGone) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "gone");
+  const WorkingFolder inside(folder / "gone");
+  EXPECT_EQ(AbsolutePath("a/../b"), fs::current_path() / "b");
+  fs::remove(folder / "gone");
+  EXPECT_EQ(AbsolutePath("a/../b"), "a/../b");
+}
+
+TEST(FindFile, LooksInTheWorkingFolderWhereNoneIsNamed) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "Sub");
+  WriteBytes(folder / "Sub/A.png", "x");
+  const WorkingFolder inside(folder / "");
+  const auto found = FindFile("sub\\a.PNG", {});
+  ASSERT_TRUE(found);
+  EXPECT_EQ(AbsolutePath(*found), fs::current_path() / "Sub/A.png");
 }
 
 TEST(FindFile, TakesBothSeparatorsAndEitherCase) {
@@ -204,6 +274,15 @@ TEST(FindFile, ChoosesTheFirstNameWhereOnlyTheCaseDiffers) {
   WriteBytes(folder / "B.png", "x");
   EXPECT_EQ(FileNameOf(*FindFile("B.PNG", folder / "")), "B.png");
   EXPECT_EQ(FileNameOf(*FindFile("b.png", folder / "")), "b.png");
+}
+
+TEST(FindFile, ChoosesTheFirstNameInWhateverOrderTheyWereMade) {
+  for (const std::string order : {"AB Ab aB", "aB Ab AB", "Ab AB aB", "aB AB Ab"}) {
+    const TemporaryFolder folder;
+    for (const std::size_t at : {0U, 3U, 6U})
+      WriteBytes(folder / order.substr(at, 2), "x");
+    EXPECT_EQ(FileNameOf(*FindFile("ab", folder / "")), "AB") << order;
+  }
 }
 
 }  // namespace

@@ -119,6 +119,17 @@ TEST_F(LineReaderTest, OpensRegularFilesAlone) {
   EXPECT_EQ(LineReader::Open(pipe).Error().reason, "not a regular file");
 }
 
+// The beginning of a process's memory is a file that opens and can't be read.
+TEST_F(LineReaderTest, EndsWhereReadingFailsAndTellsWhy) {
+  Result<LineReader> reader = LineReader::Open("/proc/self/mem");
+  ASSERT_TRUE(reader);
+  EXPECT_FALSE(reader->Next());
+  ASSERT_TRUE(reader->Failure());
+  EXPECT_EQ(reader->Failure()->reason, "Input/output error");
+  EXPECT_FALSE(reader->Next());
+  EXPECT_EQ(reader->Number(), 0U);
+}
+
 TEST_F(LineReaderTest, LeavesNoFileOpen) {
   test::WriteBytes(path_, "a\nb\n");
   const auto open = [] { return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {}); };
