@@ -339,7 +339,9 @@ TEST(Reader, NotesAPositionOnAColumnThatIsNotThere) {
   EXPECT_EQ(outcome.Findings[0].Kind, FindingKind::DanglingColumn);
   EXPECT_EQ(outcome.Findings[0].Text, "$Gone");
   EXPECT_EQ(outcome.Findings[0].Line, 4U);
+  EXPECT_EQ(outcome.Read.Objects[outcome.Findings[0].Row].X2Value, "$Gone + 5");
   EXPECT_EQ(outcome.Findings[1].Text, "$B");
+  EXPECT_EQ(outcome.Read.Objects[outcome.Findings[1].Row].XValue, "$B");
 }
 
 TEST(Reader, MakesBarCodesAndQrCodesOfTextByTheSymbology) {
