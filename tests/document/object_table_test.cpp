@@ -86,6 +86,7 @@ TEST(ObjectTable, IsAsNewAfterARestart) {
   EXPECT_EQ(table.ObjectCount, 50);
   EXPECT_EQ(table.CurrentObject, 0);
   EXPECT_EQ(table[55], ObjectRecord{});
+  EXPECT_EQ(table.TakeFreeRow(), 1) << "from the first row on";
 }
 
 struct KindRow {
