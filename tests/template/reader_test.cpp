@@ -332,6 +332,18 @@ TEST(Reader, NotesNoBlockThatStaysACommandBesideOtherDelimiters) {
   EXPECT_TRUE(ReadText("Open=<\r\nClose=>\r\n[HEADER]\r\n<b=y;0>\r\n<100;>a <b> c<0>\r\n").Findings.empty());
 }
 
+TEST(Reader, TellsThatABandStandsAtTheBeginningOfItsLine) {
+  const ReadOutcome outcome = ReadText("[HEADER]\r\n{100;}A{} {200;}B{}\r\n[DATA]\r\n");
+  std::vector<std::uint32_t> lines;
+  for (int row = 1; row <= outcome.Read.Objects.LastScanned(); ++row) {
+    if (outcome.Read.Objects[row].Kind != ObjectKind::Subsection) continue;
+    const SourcePlace& place = outcome.Places.at(static_cast<std::size_t>(row));
+    lines.push_back(place.Line);
+    EXPECT_EQ(place.Column, 1U) << place.Line;
+  }
+  EXPECT_THAT(lines, ElementsAre(1U, 3U));
+}
+
 TEST(Reader, NotesAPositionOnAColumnThatIsNotThere) {
   const ReadOutcome outcome =
       ReadText("$A=100\r\n[HEADER]\r\n{Box=$A,,2,3}\r\n{Line=$a + 5,$Gone + 5}\r\n{$B}A{}\r\n");
