@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <string>
 #include <utility>
 
@@ -39,22 +38,42 @@ constexpr std::int32_t YOf(std::uint64_t place) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(place >> 32) ^ 0x80000000U);
 }
 
-// Each layout writes the keys of all rows, and nearly all numbers have six digits.
-char* AppendKeyPart(char* at, char* end, std::int64_t part) {
-  if (part < 100000 || part > 999999) return std::to_chars(at, end, part).ptr;
-  auto digits = static_cast<std::uint32_t>(part);
-  for (int place = 5; place >= 0; --place, digits /= 10)
-    at[place] = static_cast<char>('0' + digits % 10);
+constexpr bool HasSixDigits(std::int64_t part) {
+  return part >= 100000 && part <= 999999;
+}
+
+constexpr auto kPairsOfDigits = [] {
+  std::array<char, 200> pairs{};
+  for (std::size_t n = 0; n < 100; ++n) {
+    pairs[2 * n] = static_cast<char>('0' + n / 10);
+    pairs[2 * n + 1] = static_cast<char>('0' + n % 10);
+  }
+  return pairs;
+}();
+
+char* PutSixDigits(char* at, std::int64_t part) {
+  auto rest = static_cast<std::uint32_t>(part);
+  for (int place = 4; place >= 0; place -= 2, rest /= 100)
+    std::copy_n(&kPairsOfDigits[rest % 100 * std::size_t{2}], 2, at + place);
   return at + 6;
 }
 
+// Each layout writes the keys of all rows, and nearly all numbers have six digits.
 void StoreKey(std::string& key, std::int32_t y, std::int32_t x, int row) {
-  std::array<char, 64> digits;
-  char* end = digits.data();
-  for (const std::int64_t part : {std::int64_t{y}, std::int64_t{x}, std::int64_t{row}})
-    end = AppendKeyPart(end, digits.data() + digits.size(), part + kKeyOffset);
-  key.assign(digits.data(), std::min(static_cast<std::size_t>(end - digits.data()), kSortKeyLength));
+  const std::array<std::int64_t, 3> parts = {y + kKeyOffset, x + kKeyOffset, row + kKeyOffset};
+  if (std::all_of(parts.begin(), parts.end(), HasSixDigits)) {
+    key.resize(kSortKeyLength);
+    char* at = key.data();
+    for (const std::int64_t part : parts)
+      at = PutSixDigits(at, part);
+    return;
+  }
+  key.clear();
+  for (const std::int64_t part : parts)
+    key += std::to_string(part);
+  key.resize(std::min(key.size(), kSortKeyLength));
 }
+static_assert(kSortKeyLength == 3 * 6);
 
 // Most objects of a page stand on a few positions. Remembers those that were met last.
 class KnownPositions {
