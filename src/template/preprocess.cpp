@@ -65,8 +65,7 @@ void PreprocessLine(std::string& result, std::string_view line, char open, char 
   std::optional<Block> before;
   constexpr std::size_t kNone = std::string_view::npos;
   std::size_t begin = kNone;
-  for (std::size_t at = 0; at < line.size(); ++at) {
-    if (line[at] != open && line[at] != close) continue;
+  for (std::size_t at = 0; (at = FindEither(line, at, open, close)) < line.size(); ++at) {
     if (line[at] == close && begin != kNone) {
       if (before) Disarm(result, line, *before, begin, page);
       before = {begin, at};

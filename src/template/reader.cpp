@@ -321,8 +321,7 @@ void TemplateReader::ScanContent(std::string_view line, std::size_t removed) {
   std::size_t blockColumn = 1;
   for (std::size_t at = 0; at < line.size(); ++at) {
     const std::size_t begin = at;
-    while (at < line.size() && line[at] != open && line[at] != close)
-      ++at;
+    at = FindEither(line, at, open, close);
     const std::string_view run = line.substr(begin, at - begin);
     if (inBlock_)
       commandBuffer_ += run;
