@@ -61,8 +61,9 @@ int ReaderState::Add(const NewObject& object) {
 void ReaderState::NoteDanglingColumns(const ObjectRecord& record, int row) {
   for (const std::string_view position :
        {std::string_view(record.XValue), std::string_view(record.X2Value)}) {
+    if (!position.starts_with('$')) continue;
     const std::string_view name = NthToken(position, 1, kBlank);
-    if (!name.starts_with('$') || document.Columns.Find(name, *document.Page) != 0) continue;
+    if (document.Columns.Find(name, *document.Page) != 0) continue;
     const std::size_t before = findings.size();
     Note(FindingKind::DanglingColumn, name);
     if (findings.size() > before) findings.back().Row = row;
@@ -320,8 +321,7 @@ void TemplateReader::ScanContent(std::string_view line, std::size_t removed) {
   std::size_t blockColumn = 1;
   for (std::size_t at = 0; at < line.size(); ++at) {
     const std::size_t begin = at;
-    while (at < line.size() && line[at] != open && line[at] != close)
-      ++at;
+    at = FindEither(line, at, open, close);
     const std::string_view run = line.substr(begin, at - begin);
     if (inBlock_)
       commandBuffer_ += run;
