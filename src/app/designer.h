@@ -329,6 +329,8 @@ class Designer {
   void TellMissingFolders();
   void TellUnknownSettings();
   std::optional<FileFailure> WriteLastRunOptions();
+  // What is to be read of a template; nothing where it was refused and that was told.
+  std::optional<std::string> BytesToOpen(const std::string& path, const std::string& file, OpenedFrom from);
   void RefuseMissing(const std::string& path, OpenedFrom from);
   void TellReadFailure(const std::string& path, const std::string& reason);
   bool Refuse(const std::string& path, std::string_view bytes);
@@ -339,7 +341,8 @@ class Designer {
   bool SaveTo(const std::string& path);
   // Asks where somebody else's work would be overwritten.
   bool MayReplace(const std::string& path);
-  bool IsHeldHere(const std::string& path);
+  bool IsOwnFile(const std::string& path) const;
+  bool IsOwnRecovery(const std::string& path);
   // Behind a read or a save; tells where another running program has the file open.
   void HoldTemplate(const std::optional<FileStamp>& stamp, bool tell);
   // Whether FILEFORMAT asks for the packed form.

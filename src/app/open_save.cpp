@@ -78,27 +78,40 @@ std::vector<Finding> LostFiles(const Document& document, const std::string& oldF
 }  // namespace
 
 bool Designer::OpenTemplate(const std::string& path, OpenedFrom from) {
-  const std::string file = FindFile(path, {}).value_or(path);
-  const bool checked = from != OpenedFrom::Start || !command_.SkipsChecks();
-  std::error_code ignored;
-  if (checked && !std::filesystem::exists(file, ignored)) {
-    RefuseMissing(path, from);
-    return false;
-  }
-  // Before the read, so that no change behind it is missed.
-  const std::optional<FileStamp> stamp = StampOf(file);
-  const Result<std::string> bytes = ReadPlainTemplate(file, folders_.TempFolder);
-  if (!bytes) {
-    TellUnreadable(path, bytes.Error().reason);
-    return false;
-  }
-  if (checked && Refuse(file, *bytes)) return false;
+  std::string file;
+  std::optional<FileStamp> stamp;
+  std::optional<std::string> bytes;
+  // A file of any size is taken up here, which memory may not have room for.
+  const auto look = [&] {
+    file = FindFile(path, {}).value_or(path);
+    // Before the read, so that no change behind it is missed.
+    stamp = StampOf(file);
+    bytes = BytesToOpen(path, file, from);
+  };
+  if (!GuardedView({kTextReadFailed, path}, look, {}) || !bytes) return false;
   if (!ReadAndAdopt(AbsolutePath(file), *bytes)) {
     NewTemplate();
     return false;
   }
   GuardedView([&] { HoldTemplate(stamp, true); });
   return true;
+}
+
+std::optional<std::string> Designer::BytesToOpen(const std::string& path, const std::string& file,
+                                                 OpenedFrom from) {
+  const bool checked = from != OpenedFrom::Start || !command_.SkipsChecks();
+  std::error_code ignored;
+  if (checked && !std::filesystem::exists(file, ignored)) {
+    RefuseMissing(path, from);
+    return std::nullopt;
+  }
+  Result<std::string> bytes = ReadPlainTemplate(file, folders_.TempFolder);
+  if (!bytes) {
+    TellUnreadable(path, bytes.Error().reason);
+    return std::nullopt;
+  }
+  if (checked && Refuse(file, *bytes)) return std::nullopt;
+  return std::move(*bytes);
 }
 
 void Designer::HoldTemplate(const std::optional<FileStamp>& stamp, bool tell) {
@@ -315,21 +328,26 @@ void Designer::TellSampleFailure(const WriteReport& report) {
            report.SampleFailure->path + "\r\n" + ReasonInLanguage(texts_, report.SampleFailure->reason));
 }
 
-// The open document's own file under another name, or one of its recovery files.
-bool Designer::IsHeldHere(const std::string& path) {
+// Also where a link leads to it.
+bool Designer::IsOwnFile(const std::string& path) const {
+  std::error_code ignored;
+  return !documentPath_.empty() &&
+         (path == documentPath_ || std::filesystem::equivalent(path, documentPath_, ignored));
+}
+
+bool Designer::IsOwnRecovery(const std::string& path) {
   std::error_code ignored;
   const auto isSame = [&](const std::string& other) {
     return !other.empty() && std::filesystem::equivalent(path, other, ignored);
   };
-  return isSame(documentPath_) || isSame(surface_.TheRecovery().RecoveryFile()) ||
-         isSame(opened_.RecoveryFile());
+  return isSame(surface_.TheRecovery().RecoveryFile()) || isSame(opened_.RecoveryFile());
 }
 
 bool Designer::MayReplace(const std::string& path) {
   int question = 0;
-  if (path == documentPath_) {
+  if (IsOwnFile(path)) {
     if (hold_.IsChanged(path)) question = kTextChangedElsewhere;
-  } else if (!IsHeldHere(path) && IsOpenElsewhere(path)) {
+  } else if (!IsOwnRecovery(path) && IsOpenElsewhere(path)) {
     question = kTextReplaceOpenElsewhere;
   }
   if (question == 0) return true;
@@ -363,8 +381,9 @@ bool Designer::SaveTo(const std::string& path) {
 }
 
 void Designer::FollowSave(const std::string& path, const std::string& oldFolder, const WriteReport& report) {
-  EndRecovery(path);
+  // At once, so that a change by somebody else is not taken for what was written here.
   HoldTemplate(StampOf(path), false);
+  EndRecovery(path);
   pictures_.SetTemplateFolder(FolderOf(path));
   // Sample data that is named without a folder is looked for beside the template.
   if (TemplateFolder() != oldFolder) GuardedView([this] { quick_.UpdateQuickPanel(); });

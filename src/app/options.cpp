@@ -186,6 +186,8 @@ std::optional<FileFailure> SaveChangedOptions(const std::string& path, const Des
   // A folder that can't be held is written to all the same: then the last run to end wins.
   const Descriptor hold = HoldFolder(FolderOf(path));
   const Result<std::string> now = ReadWholeFile(path);
+  // What can't be read can't be kept either, and may be more than this run has ever seen of it.
+  if (!now && FileExists(path)) return now.Error();
   return SaveOptions(path, now ? Merged(options, asRead, *now) : options);
 }
 

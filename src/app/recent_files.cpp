@@ -30,6 +30,15 @@ std::string ListText(const std::vector<std::string>& paths) {
   return text;
 }
 
+std::vector<std::string> PathsIn(std::string_view rest) {
+  std::vector<std::string> paths;
+  for (std::size_t line = 0; line < kMostRecent && !rest.empty(); ++line) {
+    const std::string_view path = TakeLine(rest);
+    if (!path.empty()) paths.push_back(AbsolutePath(path));
+  }
+  return paths;
+}
+
 std::vector<std::string> WithOnTop(std::vector<std::string> paths, const std::string& path) {
   std::erase(paths, path);
   paths.insert(paths.begin(), path);
@@ -40,14 +49,8 @@ std::vector<std::string> WithOnTop(std::vector<std::string> paths, const std::st
 }  // namespace
 
 std::vector<std::string> ReadRecentFiles(const DesignerFolders& folders) {
-  std::vector<std::string> paths;
   const Result<std::string> bytes = ReadWholeFile(InDataFolder(folders, kRecentFile));
-  std::string_view rest = bytes ? std::string_view(*bytes) : std::string_view();
-  for (std::size_t line = 0; line < kMostRecent && !rest.empty(); ++line) {
-    const std::string_view path = TakeLine(rest);
-    if (!path.empty()) paths.push_back(AbsolutePath(path));
-  }
-  return paths;
+  return bytes ? PathsIn(*bytes) : std::vector<std::string>();
 }
 
 std::vector<std::string> RecentFilesThere(const DesignerFolders& folders) {
@@ -59,10 +62,17 @@ std::vector<std::string> RecentFilesThere(const DesignerFolders& folders) {
 
 std::optional<FileFailure> AddToRecentFiles(const DesignerFolders& folders, const std::string& path) {
   if (path.find_first_of("\r\n") != std::string::npos) return std::nullopt;
+  const std::string list = InDataFolder(folders, kRecentFile);
   std::optional<FileFailure> failure;
   const auto add = [&](std::string_view) {
-    const std::vector<std::string> paths = WithOnTop(ReadRecentFiles(folders), AbsolutePath(path));
-    failure = WriteWholeFile(InDataFolder(folders, kRecentFile), ListText(paths));
+    const Result<std::string> bytes = ReadWholeFile(list);
+    // A list that can't be read now must not become one of a single template.
+    if (!bytes && FileExists(list)) {
+      failure = bytes.Error();
+    } else {
+      const std::string_view before = bytes ? std::string_view(*bytes) : std::string_view();
+      failure = WriteWholeFile(list, ListText(WithOnTop(PathsIn(before), AbsolutePath(path))));
+    }
     return std::string();
   };
   const std::optional<FileFailure> locked = RewriteLocked(InDataFolder(folders, kRecentLock), add);

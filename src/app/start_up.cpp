@@ -71,11 +71,16 @@ void Designer::SplashLoad() {
 }
 
 void Designer::AfterSplash() {
-  sheets_.Start();
-  TellMissingFolders();
-  TellUnknownSettings();
-  RefreshRecentMenu();
-  if (!OfferRecovered()) DecideTemplate();
+  // Each on its own, so that a document stands there behind all of it.
+  GuardedView([this] {
+    sheets_.Start();
+    TellMissingFolders();
+    TellUnknownSettings();
+    RefreshRecentMenu();
+  });
+  bool recovered = false;
+  GuardedView([&] { recovered = OfferRecovered(); });
+  if (!recovered) DecideTemplate();
   const bool isFresh = documentPath_.empty() && !modified_;
   if (isFresh && options_.ShowWelcome == 1) ShowWelcome();
 }
@@ -103,7 +108,8 @@ void Designer::ShutDown() {
   // The user was asked: nothing is left to recover.
   modified_ = false;
   if (const auto failure = ShutDownSilently())
-    ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
+    ShowText(kTextWriteFailed, BoxIcon::Critical,
+             failure->path + "\r\n" + ReasonInLanguage(texts_, failure->reason));
 }
 
 std::optional<FileFailure> Designer::ShutDownSilently() {
@@ -134,7 +140,8 @@ std::optional<FileFailure> Designer::WriteLastRunOptions() {
 
 bool Designer::ChooseLanguage(char letter) {
   if (const auto failure = WriteActiveLanguage(folders_, letter)) {
-    ShowText(kTextWriteFailed, BoxIcon::Critical, failure->path + "\r\n" + failure->reason);
+    ShowText(kTextWriteFailed, BoxIcon::Critical,
+             failure->path + "\r\n" + ReasonInLanguage(texts_, failure->reason));
     return false;
   }
   ShowText(kTextLanguageAtNextStart, BoxIcon::Information);

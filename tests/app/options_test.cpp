@@ -130,6 +130,15 @@ TEST_F(OptionsFile, AFailedWriteLeavesTheOldOne) {
   EXPECT_TRUE(FolderExists(Path()));
 }
 
+TEST_F(OptionsFile, WhatCannotBeReadAtTheEndIsNotReplaced) {
+  EXPECT_FALSE(SaveOptions(Path(), DesignerOptions()));
+  std::filesystem::resize_file(Path(), kLargestFile + 1);
+  DesignerOptions changed;
+  changed.PropTop = 77;
+  EXPECT_TRUE(SaveChangedOptions(Path(), changed, DesignerOptions()));
+  EXPECT_EQ(std::filesystem::file_size(Path()), kLargestFile + 1);
+}
+
 TEST(Options, PanelsOffTheScreenAreMovedIn) {
   const PanelArea screen{0, 0, 20000, 15000};
   PanelArea right{30000, 16000, 3000, 2000};

@@ -104,6 +104,18 @@ TEST_F(RecentFiles, TheListIsReplacedAsAWhole) {
   EXPECT_EQ(test::ReadBytes(home_ / "old"), "/a.kev\r\n");
 }
 
+TEST_F(RecentFiles, AListThatCannotBeReadNowIsNotReplaced) {
+  Add("/a.kev");
+  const std::string list = home_ / "data/Kev/temp/lastfiles";
+  std::filesystem::resize_file(list, kLargestFile + 1);
+  const std::optional<FileFailure> failure = AddToRecentFiles(folders_, "/b.kev");
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->path, list);
+  EXPECT_EQ(std::filesystem::file_size(list), kLargestFile + 1);
+  std::filesystem::resize_file(list, std::string("/a.kev\r\n").size());
+  EXPECT_EQ(Listed(), Paths({"/a.kev"}));
+}
+
 TEST_F(RecentFiles, SeveralRunsAtOnceLoseNothing) {
   std::vector<std::thread> runs;
   for (int run = 0; run < 5; ++run)

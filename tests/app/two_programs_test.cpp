@@ -74,6 +74,24 @@ TEST_F(TwoPrograms, ASaveAsksBeforeItOverwritesWhatTheOtherHasSaved) {
   EXPECT_THAT(host_.Messages, IsEmpty());
 }
 
+TEST_F(TwoPrograms, ALinkToTheOwnFileAsksAsTheFileDoes) {
+  const auto first = Start({file_});
+  const auto second = Start({file_});
+  Edit(*second, "of the second");
+  EXPECT_TRUE(second->Save());
+  host_.Messages.clear();
+  std::filesystem::create_symlink(file_, Work("link.kev"));
+  host_.FilesToSave = {Work("link.kev"), Work("link.kev")};
+  host_.Answers = {BoxAnswer::No};
+  EXPECT_FALSE(first->SaveAs());
+  ASSERT_EQ(host_.Messages.size(), 1U);
+  EXPECT_TRUE(host_.Messages[0].Text.starts_with(first->Text(kTextChangedElsewhere)));
+  EXPECT_THAT(OnDisk(), HasSubstr("of the second"));
+  host_.Answers = {BoxAnswer::Yes};
+  EXPECT_TRUE(first->SaveAs());
+  EXPECT_TRUE(std::filesystem::is_symlink(Work("link.kev")));
+}
+
 TEST_F(TwoPrograms, AFileThatHasGoneIsWrittenWithoutAQuestion) {
   const auto designer = Start({file_});
   std::filesystem::remove(file_);

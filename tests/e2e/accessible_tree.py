@@ -1,8 +1,11 @@
 # SPDX-License-Identifier: MIT
 """The tree that a program shows to assistive technology, read from outside of its process."""
+import atexit
 import os
+import shutil
 import subprocess
 import sys
+import tempfile
 import time
 
 import gi
@@ -18,11 +21,15 @@ LAYOUT = {Atspi.Role.FILLER, Atspi.Role.PANEL, Atspi.Role.VIEWPORT, Atspi.Role.S
 
 
 def in_own_session(script):
-    """Runs the script once more on a message bus of its own, with the accessibility bus beside it."""
+    """Runs the script once more on a message bus of its own, with the accessibility bus beside it.
+
+    That one's socket lies in the folder of the session; in the user's own, two runs at once would share it."""
     if os.environ.get("KEV_TEST_BUS"):
+        atexit.register(shutil.rmtree, os.environ["XDG_RUNTIME_DIR"], ignore_errors=True)
         return subprocess.Popen(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"],
                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    environment = dict(os.environ, KEV_TEST_BUS="1", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", NO_AT_BRIDGE="1")
+    environment = dict(os.environ, KEV_TEST_BUS="1", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", NO_AT_BRIDGE="1",
+                       XDG_RUNTIME_DIR=tempfile.mkdtemp(prefix="kev-bus-"))
     os.execvpe("dbus-run-session", ["dbus-run-session", "--", sys.executable, script, *sys.argv[1:]], environment)
 
 

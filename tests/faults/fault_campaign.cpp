@@ -135,7 +135,7 @@ void Campaign::Act(const Scene& scene, const Plan& plan, std::int64_t at) {
   faults.How = plan.How;
   faults.Error = plan.Error;
   faults.At = at;
-  std::strncpy(faults.Folder, home_.Path("").c_str(), sizeof faults.Folder - 1);
+  std::strncpy(faults.Folder, scene.Folder(home_).c_str(), sizeof faults.Folder - 1);
   kev_faults_use(&faults);
   faults.Armed = 1;
   run.Done = scene.Work(run);

@@ -88,8 +88,8 @@ bool Fails(Kind kind, File file) {
   return Judge(kind, file) == Verdict::Fail;
 }
 
-bool MemoryFails() {
-  return Counts(kMemory) && Count(kMemory) == Verdict::Fail;
+bool MemoryFails(std::size_t size) {
+  return Counts(kMemory) && size >= control->Least && Count(kMemory) == Verdict::Fail;
 }
 
 template <typename Function>
@@ -255,13 +255,13 @@ int flock(int file, int how) noexcept {
 }
 
 void* malloc(std::size_t size) noexcept {
-  return MemoryFails() ? nullptr : __libc_malloc(size);
+  return MemoryFails(size) ? nullptr : __libc_malloc(size);
 }
 void* calloc(std::size_t count, std::size_t size) noexcept {
-  return MemoryFails() ? nullptr : __libc_calloc(count, size);
+  return MemoryFails(count * size) ? nullptr : __libc_calloc(count, size);
 }
 void* realloc(void* old, std::size_t size) noexcept {
-  return MemoryFails() ? nullptr : __libc_realloc(old, size);
+  return MemoryFails(size) ? nullptr : __libc_realloc(old, size);
 }
 
 }  // extern "C"

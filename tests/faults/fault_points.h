@@ -42,6 +42,7 @@ struct Control {
   std::int64_t Failed;  // those that were made to fail
   std::uint32_t Last;   // the kind of the call that failed first
   char Folder[256];     // calls on files outside do not count; empty counts all
+  std::uint64_t Least;  // allocations of fewer bytes do not count
 };
 
 // The control of this process: a block of its own, or the file that KEV_FAULTS names when the process starts.

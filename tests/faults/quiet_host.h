@@ -64,6 +64,7 @@ class QuietHost final : public Host {
 class QuietView final : public DesignerView {
  public:
   bool Recovers = false;  // the first file that is offered
+  bool Paints = true;     // the picture of a template for the list of recent ones
   std::vector<std::string> Offered;
   bool Taken = false;  // and it could be had
 
@@ -72,7 +73,7 @@ class QuietView final : public DesignerView {
   void PageShown() override {}
   void ShowZoom(std::string_view) override {}
   void FindingsChanged() override {}
-  std::string PaintThumbnail(const ThumbnailLook&) override { return "a bitmap"; }
+  std::string PaintThumbnail(const ThumbnailLook&) override { return Paints ? "a bitmap" : ""; }
   void ShowRecoverDialog(RecoverDialog& dialog) override {
     {
       const Pause pause;

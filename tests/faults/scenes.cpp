@@ -135,14 +135,14 @@ class SaveEncodedScene final : public SaveScene {
   }
 };
 
-class OpenEncodedScene final : public Scene {
+constexpr const char* kOther = "work/other.kev";
+
+// Another template takes the place of the open one.
+class OpenScene : public Scene {
  public:
-  std::string Name() const override { return "unpack"; }
-  void Furnish(const Home& home) const override {
-    const std::string plain = test::ReadBytes(std::string(KEV_EXAMPLES_DIR) + "/letter.kev");
-    test::WriteBytes(home.Path("work/packed.kev"), *PackedBytes(plain, "packed.kev"));
-  }
-  void Prepare(Run& run, const Home& home) const override { run.Target = home.Path("work/packed.kev"); }
+  std::string Name() const override { return "open"; }
+  void Furnish(const Home& home) const override { test::WriteBytes(home.Path(kOther), Letter()); }
+  void Prepare(Run& run, const Home& home) const override { run.Target = home.Path(kOther); }
   bool Work(Run& run) const override {
     bool opened = false;
     run.Program->GuardedView([&] { opened = run.Program->OpenTemplate(run.Target); });
@@ -151,14 +151,81 @@ class OpenEncodedScene final : public Scene {
   Complaints CheckMemory(const Run& run, const Ending& ending) const override {
     Complaints complaints = Scene::CheckMemory(run, ending);
     const std::string& title = run.Program->DocumentTitle();
-    if (run.Done != (title == "packed.kev")) complaints.push_back("the open document is " + title);
+    if (run.Done != (title == "other.kev")) complaints.push_back("the open document is " + title);
     if (title == "invoice.kev" && !run.IsAsBefore()) complaints.push_back("the document has changed");
     return complaints;
   }
   Complaints CheckDisk(const Ending&, const Home::All& now, const Home::All& old,
                        const Home::All&) const override {
-    const bool isOld = BytesIn(now, "work/packed.kev") == BytesIn(old, "work/packed.kev");
-    return isOld ? Complaints{} : Complaints{"the packed template has changed"};
+    const bool isOld = BytesIn(now, kOther) == BytesIn(old, kOther);
+    return isOld ? Complaints{} : Complaints{"the template that is opened has changed"};
+  }
+
+ protected:
+  static std::string Letter() { return test::ReadBytes(std::string(KEV_EXAMPLES_DIR) + "/letter.kev"); }
+};
+
+class OpenEncodedScene final : public OpenScene {
+ public:
+  std::string Name() const override { return "unpack"; }
+  void Furnish(const Home& home) const override {
+    test::WriteBytes(home.Path(kOther), *PackedBytes(Letter(), "other.kev"));
+  }
+};
+
+// The list of recent templates; opening itself meets no fault but of memory.
+class RecentScene : public OpenScene {
+ public:
+  std::string Name() const override { return "recent list"; }
+  std::string Folder(const Home& home) const override { return home.Path("data/Kev/temp/"); }
+  void Prepare(Run& run, const Home& home) const override {
+    OpenScene::Prepare(run, home);
+    run.View.Paints = false;
+  }
+  Complaints CheckMemory(const Run& run, const Ending& ending) const override {
+    Complaints complaints = OpenScene::CheckMemory(run, ending);
+    if (!run.Done && ending.Failed != kMemory) complaints.push_back("the template was not opened");
+    // Both the list and the picture are told, or are there.
+    const bool isLocked = ending.Failed == kLock || ending.Failed == kClose || ending.Failed == kRemove;
+    if (run.Done && CanTell(ending) && !isLocked && !IsStored(run) && !IsTold(run, ending))
+      complaints.push_back("nothing tells that it is not among the recent ones");
+    return complaints;
+  }
+  Complaints CheckDisk(const Ending& ending, const Home::All& now, const Home::All& old,
+                       const Home::All& good) const override {
+    Complaints complaints = OpenScene::CheckDisk(ending, now, old, good);
+    for (const std::string& name : Stored(now, good)) {
+      const std::string bytes = BytesIn(now, name);
+      if (bytes != BytesIn(old, name) && bytes != BytesIn(good, name))
+        complaints.push_back(name + " is neither the old nor the new one");
+    }
+    return complaints;
+  }
+
+ private:
+  virtual bool IsStored(const Run& run) const {
+    const std::vector<std::string> list = ReadRecentFiles(run.Program->Folders());
+    return !list.empty() && list.front() == run.Target;
+  }
+  static std::vector<std::string> Stored(const Home::All& now, const Home::All& good) {
+    std::vector<std::string> names;
+    for (const Home::All* files : {&now, &good})
+      for (const auto& [name, bytes] : *files)
+        if (name.starts_with("data/Kev/temp/") && name.find("/.kev") == std::string::npos)
+          names.push_back(name);
+    return names;
+  }
+};
+
+class ThumbnailScene final : public RecentScene {
+ public:
+  std::string Name() const override { return "thumbnail"; }
+  void Prepare(Run& run, const Home& home) const override { OpenScene::Prepare(run, home); }
+
+ private:
+  bool IsStored(const Run& run) const override {
+    const auto file = ThumbnailPath(run.Program->Folders(), run.Target);
+    return file && FileExists(*file);
   }
 };
 
@@ -251,6 +318,57 @@ class RecoverScene : public Scene {
   bool toPlace_;
 };
 
+// Whatever fails, a document stands behind the start.
+class StartScene : public Scene {
+ public:
+  std::string Name() const override { return "start"; }
+  bool StartsItself() const override { return true; }
+  bool Work(Run& run) const override {
+    run.Program->GuardedView([&] { run.Start(); });
+    return run.Program->DocumentTitle() == "invoice.kev";
+  }
+  Complaints CheckMemory(const Run& run, const Ending& ending) const override {
+    Complaints complaints = Scene::CheckMemory(run, ending);
+    if (CanTell(ending) && run.Program->OpenDocument().Objects.LastScanned() == 0)
+      complaints.push_back("there is no document");
+    return complaints;
+  }
+  Complaints CheckDisk(const Ending&, const Home::All& now, const Home::All& old,
+                       const Home::All&) const override {
+    const bool isOld = BytesIn(now, kTemplate) == BytesIn(old, kTemplate);
+    return isOld ? Complaints{} : Complaints{"the template has changed"};
+  }
+};
+
+// The counter of the runs.
+class SessionScene final : public StartScene {
+ public:
+  std::string Name() const override { return "session counter"; }
+  std::string Folder(const Home& home) const override { return home.Path(kCounter); }
+  void Furnish(const Home& home) const override {
+    // One digit more than before, for a write in parts.
+    test::WriteBytes(home.Path(kCounter), "SESSID=99\r\n");
+  }
+  Complaints CheckMemory(const Run& run, const Ending& ending) const override {
+    Complaints complaints = StartScene::CheckMemory(run, ending);
+    if (!run.Done && ending.Failed != kMemory) complaints.push_back("the template was not opened");
+    if (ending.Failed != kMemory && run.Program->SessionNumber() < 1)
+      complaints.push_back("the run has no number");
+    return complaints;
+  }
+  Complaints CheckDisk(const Ending& ending, const Home::All& now, const Home::All& old,
+                       const Home::All& good) const override {
+    Complaints complaints = StartScene::CheckDisk(ending, now, old, good);
+    const std::string bytes = BytesIn(now, kCounter);
+    if (bytes != BytesIn(old, kCounter) && bytes != BytesIn(good, kCounter))
+      complaints.push_back("the counter is " + bytes);
+    return complaints;
+  }
+
+ private:
+  static constexpr const char* kCounter = "data/Kev/SN.DAT";
+};
+
 }  // namespace
 
 Run::Run(const Home& home, std::vector<std::string> arguments) {
@@ -335,7 +453,12 @@ std::vector<std::unique_ptr<Scene>> AllScenes() {
   std::vector<std::unique_ptr<Scene>> scenes;
   scenes.push_back(std::make_unique<SaveScene>());
   scenes.push_back(std::make_unique<SaveEncodedScene>());
+  scenes.push_back(std::make_unique<OpenScene>());
   scenes.push_back(std::make_unique<OpenEncodedScene>());
+  scenes.push_back(std::make_unique<RecentScene>());
+  scenes.push_back(std::make_unique<ThumbnailScene>());
+  scenes.push_back(std::make_unique<StartScene>());
+  scenes.push_back(std::make_unique<SessionScene>());
   scenes.push_back(std::make_unique<PushScene>());
   scenes.push_back(std::make_unique<OptionsScene>());
   scenes.push_back(std::make_unique<RecoverScene>(true));

@@ -61,6 +61,8 @@ class Scene {
   virtual std::string Name() const = 0;
   // Whether Work is the start itself.
   virtual bool StartsItself() const { return false; }
+  // Where calls on files count: a folder, or what a path begins with.
+  virtual std::string Folder(const Home& home) const { return home.Path(""); }
   // Files beside those of the home.
   virtual void Furnish(const Home&) const {}
   virtual std::vector<std::string> Arguments(const Home& home) const { return {home.Template()}; }
