@@ -10,6 +10,7 @@
 
 #include "platform/forms/kav_edit01.h"
 #include "platform/forms/kavsplash.h"
+#include "platform/page_strips.h"
 #include "platform/qt_measurer.h"
 #include "support/sample_template.h"
 
@@ -46,6 +47,12 @@ class Window {
   static void Settle() {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
+  }
+  // Nothing is left that would be done sooner or later without the user.
+  void Rest() {
+    Settle();
+    while (!StripsAhead::Of(Page()).IsDone())
+      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }
 
  private:

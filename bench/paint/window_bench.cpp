@@ -161,6 +161,9 @@ void ScrollPageInWindow(benchmark::State& state) {
   QScrollBar& bar = *window.Page().verticalScrollBar();
   bool back = false;
   for ([[maybe_unused]] auto run : state) {
+    state.PauseTiming();
+    window.Rest();
+    state.ResumeTiming();
     bar.triggerAction((back = !back) ? QAbstractSlider::SliderPageStepAdd
                                      : QAbstractSlider::SliderPageStepSub);
     Window::Settle();

@@ -92,12 +92,16 @@ const QString& ImageCache::PathOf(std::string_view file) {
 }
 
 std::shared_ptr<const ImageCache::Entry> ImageCache::Find(std::string_view file) {
+  // A name that was looked up since the last redraw leads to what was there then: a paint asks nothing of the
+  // system.
+  const bool isLookedUp = paths_.contains(std::string(file));
   const QString& path = PathOf(file);
   if (path.isEmpty()) return nullptr;
+  const auto* known = entries_.object(path);
+  if (known != nullptr && isLookedUp) return *known;
   const std::optional<FileStamp> stamp = StampOf(ToNative(path));
   if (!stamp) return nullptr;
-  if (const auto* known = entries_.object(path))
-    if ((*known)->stamp == *stamp) return *known;
+  if (known != nullptr && (*known)->stamp == *stamp) return *known;
   auto entry = std::make_shared<Entry>();
   entry->stamp = *stamp;
   if (IsSvgFile(QFileInfo(path)))

@@ -33,7 +33,7 @@ class ImageCache {
 
   // The names lead elsewhere from now on; what was read is kept by its path.
   void SetResolver(ImageResolver resolver);
-  // Looks the names up again, since files come and go between two redraws.
+  // Looks names and files up again, which come and go between two redraws; no paint does so by itself.
   void Forget();
   // Stretched into the rectangle of the painter's own units; a file that cannot be had paints nothing.
   void Paint(QPainter& painter, std::string_view file, const QRectF& target,

@@ -11,6 +11,7 @@
 
 #include "platform/focus_edges.h"
 #include "platform/page_accessible.h"
+#include "platform/page_strips.h"
 
 namespace kev {
 namespace {
@@ -21,10 +22,6 @@ constexpr double kRoomBehind = 2000;  // canvas units that can be scrolled to be
 constexpr int kWheelStep = 120;
 const QColor kDeskColour(222, 224, 228);
 const QColor kEdgeColour(188, 191, 197);
-
-int WholePixels(double units) {
-  return static_cast<int>(std::min(std::ceil(units / kUnitsPerPixel), 1e8));
-}
 
 int RoundedPixel(double pixels) {
   return static_cast<int>(std::lround(std::clamp(pixels, -1e8, 1e8)));
@@ -39,6 +36,11 @@ void SetRange(QScrollBar* bar, double canvas, int view) {
   bar->setSingleStep(std::max(1, view * 4 / 100));
 }
 
+// In pixels of the viewport. The desk is whole pixels wide, whatever the canvas begins with.
+QPoint PageCorner(const PageCanvas& canvas, const DisplayList& list) {
+  return canvas.ToViewport(list.Canvas().topLeft()).toPoint();
+}
+
 }  // namespace
 
 PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent) : QAbstractScrollArea(parent), list_(list) {
@@ -49,6 +51,8 @@ PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent) : QAbstractScro
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   new FocusEdges(*this);
+  new StripsAhead(
+      list_, *viewport(), [this] { return viewport()->rect().translated(-PageCorner(*this, list_)); }, this);
   FitWindow();
 }
 
@@ -59,6 +63,7 @@ PageCanvas::~PageCanvas() {
 }
 
 void PageCanvas::ShowList() {
+  StripsAhead::Of(*this).Forget();
   FitWindow();
   viewport()->update();
 }
@@ -130,28 +135,29 @@ void PageCanvas::MoveOverlays() {
     MoveOverlay(overlay, area);
 }
 
+// Beside the page alone: the page itself is opaque.
 void PageCanvas::PaintDesk(QPainter& painter, const QRectF& exposed, const QRectF& page) const {
+  const QRegion beside = QRegion(exposed.toRect()) - page.toRect();
+  if (beside.isEmpty()) return;
+  painter.save();
+  painter.setClipRegion(beside, Qt::IntersectClip);
   painter.fillRect(exposed, kDeskColour);
-  for (int i = kShadow; i > 0; --i) {
-    const QRectF shadow = page.adjusted(2 - i, 2 - i, i, i);
-    if (!page.contains(exposed)) painter.fillRect(shadow & exposed, QColor(0, 0, 0, 7));
-  }
+  for (int i = kShadow; i > 0; --i)
+    painter.fillRect(page.adjusted(2 - i, 2 - i, i, i) & exposed, QColor(0, 0, 0, 7));
   painter.fillRect(page.adjusted(-1, -1, 1, 1) & exposed, kEdgeColour);
-  painter.fillRect(page & exposed, Qt::white);
+  painter.restore();
 }
 
 void PageCanvas::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
-  const QRectF canvas = list_.Canvas();
-  const QRectF page(ToViewport(canvas.topLeft()),
-                    QSizeF(WholePixels(canvas.width()), WholePixels(canvas.height())));
+  StripsAhead& strips = StripsAhead::Of(*this);
+  const QRect page(PageCorner(*this, list_), strips.Strips().PageSize());
   for (const QRect& rect : event->region()) {
-    const QRectF exposed(rect);
     painter.save();
     painter.setClipRect(rect);
-    PaintDesk(painter, exposed, page);
-    painter.translate(exposed.topLeft());
-    list_.Paint(painter, QRectF(ToCanvas(exposed.topLeft()), exposed.size() * kUnitsPerPixel));
+    PaintDesk(painter, rect, page);
+    painter.translate(page.topLeft());
+    strips.Paint(painter, rect.translated(-page.topLeft()));
     painter.restore();
   }
 }

@@ -230,6 +230,10 @@ TEST_F(DisplayListTest, ImagesAreStretchedAndReadAgainWhenTheyChange) {
   QImage blue(5, 5, QImage::Format_RGB32);
   blue.fill(0xFF0000FF);
   ASSERT_TRUE(blue.save(path));
+  // A paint by itself looks at no file that was found before.
+  EXPECT_EQ(Painted().pixel(20, 20), kRed);
+  list_.ClearCanvas();
+  list_.PaintImage("LOGO.PNG", 150, 150, 300, 450);
   EXPECT_EQ(Painted().pixel(20, 20), 0xFF0000FF);
 }
 

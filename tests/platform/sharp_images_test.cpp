@@ -105,6 +105,7 @@ TEST_F(SharpImages, AreReadAgainWhenTheyWereMadeAnewWithTheSameSizeAndTime) {
   EXPECT_TRUE(Colours(Painted()).contains(0xFF000000));
   MakeBoard(7, qRgb(255, 0, 0));
   std::filesystem::last_write_time(File(), time);
+  images_.Forget();
   EXPECT_TRUE(Colours(Painted()).contains(0xFFFF0000));
 }
 
