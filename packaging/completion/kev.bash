@@ -28,12 +28,14 @@ _kev() {
 _kevtool_options() {
   case $1 in
     '') echo --help -h --version ;;
+    check) echo --help -h --strict --json ;;
+    diff) echo --help -h --json --image ;;
     dump) echo --help -h --geometry ;;
     rewrite) echo --help -h --comments ;;
     sample) echo --help -h --json ;;
     new) echo --help -h --kex --ked ;;
     barcode) echo --help -h --lines ;;
-    render) echo --help -h --zoom --scale --filter --grid ;;
+    render) echo --help -h --out-dir --format --zoom --scale --filter --grid ;;
     *) echo --help -h ;;
   esac
 }
@@ -60,12 +62,15 @@ _kevtool() {
     new:--kex) _kev_files "$word" '[kK][eE][xX]'; return ;;
     new:--ked) _kev_files "$word" '[kK][eE][dD]'; return ;;
     render:--filter) COMPREPLY=($(compgen -W 'all ebeu print' -- "$word")); return ;;
+    render:--format) COMPREPLY=($(compgen -W 'png pdf svg' -- "$word")); return ;;
+    render:--out-dir) _kev_files "$word"; return ;;
     render:--zoom | render:--scale) return ;;
+    diff:--image) _kev_files "$word" png; return ;;
   esac
   if [[ $word == -* ]]; then
     COMPREPLY=($(compgen -W "$(_kevtool_options "$command")" -- "$word"))
   elif [ -z "$command" ]; then
-    COMPREPLY=($(compgen -W 'check dump rewrite eval pack unpack sample new barcode render' -- "$word"))
+    COMPREPLY=($(compgen -W 'check dump rewrite eval pack unpack sample new barcode diff render' -- "$word"))
   else
     _kevtool_files "$command" "$word"
   fi
