@@ -102,7 +102,7 @@ const std::vector<InFile>& Table() {
       {"ColourBeyondTheBasic", Layout("{C=16;5;}Total{\\n}\r\n"), ValueOutOfRange, 3, 1, "16", Object::Label},
       {"NameOfAColour", Layout("{C=red;5;}Total{\\n}\r\n"), ValueOutOfRange, 3, 1, "C=red", Object::Label},
       {"PositionWithoutNumber", Layout("{Box=left,,9,9}\r\n"), ValueOutOfRange, 3, 1, "left", Object::Box},
-      {"StepFromAColumn", "$A=1\r\n[HEADER]\r\n{$A +}Total{\\n}\r\n", ValueOutOfRange, 3, 6, "$A +",
+      {"StepFromAColumn", "$A=1\r\n[HEADER]\r\n{$A +}Total{\\n}\r\n", ValueOutOfRange, 3, 7, "$A +",
        Object::Label},
   };
   return rows;
