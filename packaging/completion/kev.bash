@@ -28,7 +28,7 @@ _kev() {
 _kevtool_options() {
   case $1 in
     '') echo --help -h --version ;;
-    check) echo --help -h --strict --json ;;
+    check) echo --help -h --json --strict ;;
     diff) echo --help -h --json --image ;;
     dump) echo --help -h --geometry ;;
     rewrite) echo --help -h --comments ;;
@@ -61,11 +61,11 @@ _kevtool() {
   case $command:$before in
     new:--kex) _kev_files "$word" '[kK][eE][xX]'; return ;;
     new:--ked) _kev_files "$word" '[kK][eE][dD]'; return ;;
-    render:--filter) COMPREPLY=($(compgen -W 'all ebeu print' -- "$word")); return ;;
     render:--format) COMPREPLY=($(compgen -W 'png pdf svg' -- "$word")); return ;;
     render:--out-dir) _kev_files "$word"; return ;;
-    render:--zoom | render:--scale) return ;;
     diff:--image) _kev_files "$word" png; return ;;
+    render:--filter) COMPREPLY=($(compgen -W 'all ebeu print' -- "$word")); return ;;
+    render:--zoom | render:--scale) return ;;
   esac
   if [[ $word == -* ]]; then
     COMPREPLY=($(compgen -W "$(_kevtool_options "$command")" -- "$word"))

@@ -21,13 +21,13 @@ complete -c kevtool -n '__fish_seen_subcommand_from check dump rewrite eval pack
     -k -a '(__fish_complete_suffix .kev)'
 complete -c kevtool -n '__fish_seen_subcommand_from sample' -k -a '(__fish_complete_suffix .kex)'
 complete -c kevtool -n '__fish_seen_subcommand_from sample' -k -a '(__fish_complete_suffix .ked)'
-complete -c kevtool -n '__fish_seen_subcommand_from check' -l strict -d 'Fail too where a rewrite would change a byte'
-complete -c kevtool -n '__fish_seen_subcommand_from check diff' -l json -d 'As JSON'
-complete -c kevtool -n '__fish_seen_subcommand_from diff' -l image -r -k -a '(__fish_complete_suffix .png)' \
-    -d 'Paint both pages with the differences framed'
 complete -c kevtool -n '__fish_seen_subcommand_from dump' -l geometry -d 'After the geometry was derived'
 complete -c kevtool -n '__fish_seen_subcommand_from rewrite' -l comments -d 'Write the comment behind each vertical step'
-complete -c kevtool -n '__fish_seen_subcommand_from sample' -l json -d 'As JSON'
+complete -c kevtool -n '__fish_seen_subcommand_from sample diff' -l json -d 'As JSON'
+complete -c kevtool -n '__fish_seen_subcommand_from check' -l json -d 'A JSON object for each template'
+complete -c kevtool -n '__fish_seen_subcommand_from check' -l strict -d 'Fail too where a rewrite would change a byte'
+complete -c kevtool -n '__fish_seen_subcommand_from diff' -l image -r -k -a '(__fish_complete_suffix .png)' \
+    -d 'Paint both pages with the differences framed'
 complete -c kevtool -n '__fish_seen_subcommand_from new' -l kex -r -k -a '(__fish_complete_suffix .kex)' \
     -d 'Records: one subsection for each type'
 complete -c kevtool -n '__fish_seen_subcommand_from new' -l ked -r -k -a '(__fish_complete_suffix .ked)' \

@@ -310,6 +310,12 @@ void DisplayList::Keep(const QRectF& bounds, decltype(Primitive::shape) shape) {
     stripes_[stripe].push_back(index);
 }
 
+bool DisplayList::HoldsTextsAlone() const {
+  return std::all_of(primitives_.begin(), primitives_.end(), [](const Primitive& primitive) {
+    return std::holds_alternative<Text>(primitive.shape);
+  });
+}
+
 void DisplayList::ClearCanvas() {
   primitives_.clear();
   stripes_.clear();

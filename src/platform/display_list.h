@@ -46,6 +46,7 @@ class DisplayList final : public SurfaceOps {
   // Nothing stands above the page until a layer is set. The layer outlives the list.
   void SetWidgetLayer(WidgetLayer* layer) { layer_ = layer; }
   std::size_t Count() const { return primitives_.size(); }
+  bool HoldsTextsAlone() const;
   // How many primitives a paint of the region looks at.
   std::size_t CountNear(const QRectF& region) const { return Near(region).size(); }
 

@@ -135,14 +135,17 @@ void LayerWidget::paintEvent(QPaintEvent*) {
   }
 }
 
-// Away from where it was painted it is being dragged: it covers what is below it without hiding it.
+// Away from where it was painted it is being dragged: it covers what is below it without hiding it. At rest
+// the page shows the same text in the same place, and painted twice it would look bold.
 void LayerWidget::PaintPanel(QPainter& painter) {
   const QRectF area = QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin);
   const bool dragged = place_.topLeft() != paintedAt_.topLeft();
   if (dragged) painter.fillRect(area, QColor(255, 255, 255, 150));
-  painter.save();
-  list_.Paint(painter, Grown(paintedAt_.normalized(), kMargin));
-  painter.restore();
+  if (dragged || !list_.HoldsTextsAlone()) {
+    painter.save();
+    list_.Paint(painter, Grown(paintedAt_.normalized(), kMargin));
+    painter.restore();
+  }
   QColor tint = kAccent;
   tint.setAlpha(dragged ? 30 : 16);
   painter.fillRect(area, tint);

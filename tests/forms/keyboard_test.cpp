@@ -140,6 +140,19 @@ TEST_F(KeyboardTest, F6GoesThroughThePartsOfTheWindow) {
   EXPECT_NE(QApplication::focusWidget(), first);
 }
 
+TEST_F(KeyboardTest, AnOpenMenuKeepsTheKeyboard) {
+  FocusPage();
+  const QWidget* before = QApplication::focusWidget();
+  QMenu menu;
+  menu.addAction(QStringLiteral("Entry"));
+  menu.popup(QPoint(10, 10));
+  ASSERT_EQ(QApplication::activePopupWidget(), &menu);
+  QTest::keyClick(&walk.Window(), Qt::Key_F6);
+  EXPECT_TRUE(menu.isVisible());
+  menu.close();
+  EXPECT_EQ(QApplication::focusWidget(), before);
+}
+
 TEST_F(KeyboardTest, ThePageShowsThatTheKeyboardIsOnItAndNotThatThePointerIs) {
   const auto edges = [this] {
     const auto found = Page().findChildren<QWidget*>(QStringLiteral("focusedge"));

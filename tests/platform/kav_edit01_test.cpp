@@ -656,7 +656,7 @@ TEST_F(KavEdit01Test, FindingsAreListedWithTheirLines) {
 
 // A page that is longer than the window, with something wrong at its top, at its end and in its head.
 constexpr const char* kOddTemplate =
-    "Nonsense=1\r\n[HEADER]\r\n{Other=1;}First{\\n}\r\n[DATA]\r\n{Spacing=12000;\\n}\r\n"
+    "Nonsense=1\r\n[HEADER]\r\n{Other=1;}{100;}First{\\n}\r\n[DATA]\r\n{Spacing=12000;\\n}\r\n"
     "{$Gone;}Last{\\n}\r\n[FOOTER]\r\n";
 
 TEST_F(KavEdit01Test, AFindingLeadsToItsObject) {
@@ -667,7 +667,7 @@ TEST_F(KavEdit01Test, AFindingLeadsToItsObject) {
   auto& list = Find<QTreeWidget>("findingslist");
   ASSERT_EQ(list.topLevelItemCount(), 3);
   EXPECT_TRUE(list.topLevelItem(0)->text(0).endsWith(QStringLiteral(" 1:1")));
-  EXPECT_TRUE(list.topLevelItem(2)->text(0).endsWith(QStringLiteral(" 6:8")));
+  EXPECT_TRUE(list.topLevelItem(2)->text(0).endsWith(QStringLiteral(" 6:9")));
   const ObjectTable& objects = designer->OpenDocument().Objects;
   const auto click = [&](int n) {
     const QRect item = list.visualItemRect(list.topLevelItem(n));

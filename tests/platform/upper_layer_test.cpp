@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/layer_widget.h"
 #include "platform/print_qt.h"
 
@@ -16,6 +18,16 @@ class UpperLayerTest : public testing::Test {
   QString ShownText(const char* name) {
     auto* widget = dynamic_cast<LayerWidget*>(canvas_.findChild<QWidget*>(QString::fromLatin1(name)));
     return widget == nullptr ? QStringLiteral("no such widget") : widget->Text();
+  }
+
+  // The darkest pixel of a widget, from 0 to 255.
+  int Darkest(const char* name) {
+    const QImage picture = canvas_.findChild<QWidget*>(QString::fromLatin1(name))->grab().toImage();
+    int darkest = 255;
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x)
+        darkest = std::min(darkest, picture.pixelColor(x, y).lightness());
+    return darkest;
   }
 
   FontCache fonts_{*CodePage::Find("windows-1251")};
@@ -44,6 +56,24 @@ TEST_F(UpperLayerTest, ALineIsHadFromTwoPixelsBesideIt) {
   }
   EXPECT_EQ(layer_.At({1469, 300}, kAnything).Source, PointerSource::Page);
   EXPECT_EQ(layer_.At({1531, 300}, kAnything).Source, PointerSource::Page);
+}
+
+TEST_F(UpperLayerTest, ATextIsPaintedOnceUntilItIsDraggedAway) {
+  layer_.PlaceWidget("lblob(1)", 1500, 300, 1500, 300);
+  SurfaceOps& panel = layer_.SurfaceOf("lblob(1)");
+  panel.SetForeground(0);
+  panel.PrintText(1500, 300, "Total");
+  layer_.ShowWidget("lblob(1)", true);
+  EXPECT_GT(Darkest("lblob(1)"), 100);
+  layer_.PlaceWidget("lblob(1)", 1800, 300, 1500, 300);
+  EXPECT_LT(Darkest("lblob(1)"), 100);
+}
+
+TEST_F(UpperLayerTest, ThePanelsOfABoxAreAlwaysPainted) {
+  layer_.PlaceWidget("lblob(1)", 1500, 300, 1500, 300);
+  layer_.SurfaceOf("lblob(1)").DrawRectColour(1500, 300, 3000, 600, 0, true);
+  layer_.ShowWidget("lblob(1)", true);
+  EXPECT_LT(Darkest("lblob(1)"), 100);
 }
 
 TEST_F(UpperLayerTest, GuidesLetThePointerThrough) {

@@ -63,6 +63,7 @@ FindingsDock::FindingsDock(const LanguageTexts& texts, QWidget* parent)
   list_->setUniformRowHeights(true);
   list_->setAlternatingRowColors(true);
   list_->setFrameShape(QFrame::NoFrame);
+  list_->setStyleSheet(QStringLiteral("QTreeWidget::item { padding: 2px 8px; }"));
   list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   nothing_->setObjectName(QStringLiteral("nofindings"));
   nothing_->setAlignment(Qt::AlignCenter);

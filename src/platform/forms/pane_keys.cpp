@@ -32,6 +32,8 @@ PaneKeys::PaneKeys(QWidget& window, Panes panes) : QObject(&window), panes_(std:
 }
 
 void PaneKeys::Go(int step) {
+  // A menu that is open keeps the keyboard.
+  if (QApplication::activePopupWidget() != nullptr) return;
   const QList<QWidget*> panes = panes_();
   QWidget* focused = QApplication::focusWidget();
   qsizetype at = step > 0 ? -1 : panes.size();
