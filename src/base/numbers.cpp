@@ -33,7 +33,7 @@ std::optional<int> PlainWhole(std::string_view text) {
 
 // A position that names its column has no number in front.
 bool BeginsNoNumber(char first) {
-  return !IsDigit(first) && std::string_view("+-. ").find(first) == std::string_view::npos;
+  return !IsDigit(first) && first != '+' && first != '-' && first != '.' && first != ' ';
 }
 
 // Collects the characters of the number, so that from_chars sees neither blanks nor a leading plus.

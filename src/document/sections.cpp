@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <set>
 #include <stdexcept>
 
@@ -10,6 +11,7 @@
 #include "base/reasons.h"
 #include "document/band_layout.h"
 #include "document/kind_defaults.h"
+#include "document/row_view.h"
 
 namespace kev {
 namespace {
@@ -22,8 +24,8 @@ std::int64_t BodyTop(const ObjectRecord& bar) {
 // same.
 class BodyIndex {
  public:
-  explicit BodyIndex(const Document& document) {
-    const std::vector<Edge> edges = EdgesOf(document);
+  explicit BodyIndex(RowView rows) {
+    const std::vector<Edge> edges = EdgesOf(rows);
     std::set<int> open;
     for (std::size_t at = 0; at < edges.size();) {
       const std::int64_t y = edges[at].y;
@@ -33,16 +35,15 @@ class BodyIndex {
         else
           open.erase(edges[at].row);
       }
+      stretches_.back().end = y;
       stretches_.push_back({y, open.empty() ? 0 : *open.rbegin()});
     }
   }
 
-  // The last row whose body holds y, 0 if none does.
-  int LastHolding(std::int64_t y) const {
-    const auto below =
-        std::upper_bound(stretches_.begin(), stretches_.end(), y,
-                         [](std::int64_t place, const Stretch& other) { return place < other.from; });
-    return below == stretches_.begin() ? 0 : std::prev(below)->row;
+  // The last row whose body holds y, 0 if none does. Most rows lie where the row before them lies.
+  int LastHolding(std::int64_t y) {
+    if (y < last_.from || y >= last_.end) last_ = StretchAt(y);
+    return last_.row;
   }
 
  private:
@@ -54,22 +55,32 @@ class BodyIndex {
   struct Stretch {
     std::int64_t from;
     int row;
+    std::int64_t end = std::numeric_limits<std::int64_t>::max();
   };
 
-  static std::vector<Edge> EdgesOf(const Document& document) {
+  static std::vector<Edge> EdgesOf(RowView rows) {
     std::vector<Edge> edges;
-    for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-      const ObjectRecord& bar = document.Objects[row];
+    for (std::size_t row = 1; row < rows.size(); ++row) {
+      const ObjectRecord& bar = *rows[row];
       // A body that ends above its top holds nothing.
       if (bar.Kind != ObjectKind::Subsection || bar.EndsAt < 0) continue;
-      edges.push_back({BodyTop(bar), row, true});
-      edges.push_back({BodyTop(bar) + bar.EndsAt + 1, row, false});
+      edges.push_back({BodyTop(bar), static_cast<int>(row), true});
+      edges.push_back({BodyTop(bar) + bar.EndsAt + 1, static_cast<int>(row), false});
     }
     std::sort(edges.begin(), edges.end(), [](const Edge& a, const Edge& b) { return a.y < b.y; });
     return edges;
   }
 
-  std::vector<Stretch> stretches_;
+  Stretch StretchAt(std::int64_t y) const {
+    const auto below =
+        std::upper_bound(stretches_.begin(), stretches_.end(), y,
+                         [](std::int64_t place, const Stretch& other) { return place < other.from; });
+    return *std::prev(below);
+  }
+
+  // Everything above the first body is a stretch as well.
+  std::vector<Stretch> stretches_{{std::numeric_limits<std::int64_t>::min(), 0}};
+  Stretch last_{0, 0, 0};
 };
 
 // Of bars that share a name the one whose body holds y, else the first.
@@ -88,15 +99,14 @@ std::size_t At(int row) {
   return static_cast<std::size_t>(row);
 }
 
-BandLayout PresentLayout(const Document& document) {
+BandLayout PresentLayout(RowView rows) {
   BandLayout layout;
   // A bar may name an end row that nobody has used yet.
   layout.AbsoluteY.resize(ObjectTable::kLastRow + 1);
   layout.SectionCursorY.resize(ObjectTable::kLastRow + 1);
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    const ObjectRecord& record = document.Objects[row];
-    layout.AbsoluteY[At(row)] = record.AbsoluteY;
-    layout.SectionCursorY[At(row)] = record.SectionCursorY;
+  for (std::size_t row = 1; row < rows.size(); ++row) {
+    layout.AbsoluteY[row] = rows[row]->AbsoluteY;
+    layout.SectionCursorY[row] = rows[row]->SectionCursorY;
   }
   return layout;
 }
@@ -107,10 +117,10 @@ std::int32_t& PlaceOfEnd(BandLayout& layout, int row) {
   return layout.AbsoluteY[At(row)];
 }
 
-void LayOutBars(BandLayout& layout, const Document& document, const SortedRows& sorted) {
+void LayOutBars(BandLayout& layout, RowView rows, const SortedRows& sorted) {
   std::int64_t running = 0;
   for (const int row : sorted.Rows) {
-    const ObjectRecord& bar = document.Objects[row];
+    const ObjectRecord& bar = *rows[At(row)];
     if (bar.Kind != ObjectKind::Section && bar.Kind != ObjectKind::Subsection) continue;
     layout.AbsoluteY[At(row)] = Fit32(running);
     if (bar.EndRow != 0) PlaceOfEnd(layout, bar.EndRow) = Fit32(running + kBarHeight + bar.EndsAt);
@@ -118,26 +128,73 @@ void LayOutBars(BandLayout& layout, const Document& document, const SortedRows& 
   }
 }
 
-}  // namespace
+using Rows = std::span<ObjectRecord* const>;
 
-void AssignObjects(Document& document) {
-  const BodyIndex bodies(document);
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    ObjectRecord& record = document.Objects[row];
+void Assign(Document& document, Rows rows) {
+  BodyIndex bodies(rows);
+  for (ObjectRecord* const each : rows.subspan(1)) {
+    ObjectRecord& record = *each;
     if (record.Kind == ObjectKind::None || IsBand(record.Kind) || record.KeepOwner != 0) continue;
     const int owner = bodies.LastHolding(record.AbsoluteY);
     if (owner == 0) continue;
-    const ObjectRecord& bar = document.Objects[owner];
-    record.OwnerName = bar.SectionName;
+    const ObjectRecord& bar = *rows[At(owner)];
+    if (record.OwnerName != bar.SectionName) record.OwnerName = bar.SectionName;
     record.Y = Fit32(record.AbsoluteY - BodyTop(bar));
   }
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    const ObjectRecord& bar = document.Objects[row];
-    if (bar.Kind != ObjectKind::Subsection || bar.EndRow == 0) continue;
-    ObjectRecord& end = document.Objects[bar.EndRow];
-    end.OwnerName = bar.SectionName;
-    end.Y = bar.EndsAt;
+  for (const ObjectRecord* const bar : rows.subspan(1)) {
+    if (bar->Kind != ObjectKind::Subsection || bar->EndRow == 0) continue;
+    ObjectRecord& end = document.Objects[bar->EndRow];
+    end.OwnerName = bar->SectionName;
+    end.Y = bar->EndsAt;
   }
+}
+
+std::vector<int> OwnersOf(const Document& document, RowView rows, const BandLayout& layout) {
+  std::unordered_map<std::string_view, std::vector<int>> byName;
+  for (std::size_t row = 1; row < rows.size(); ++row) {
+    if (rows[row]->Kind == ObjectKind::Subsection)
+      byName[rows[row]->SectionName].push_back(static_cast<int>(row));
+  }
+  std::vector<int> owners(ObjectTable::kLastRow + 1);
+  // Most rows follow one of the same owner.
+  auto bars = byName.end();
+  for (std::size_t row = 1; row < rows.size(); ++row) {
+    const ObjectRecord& record = *rows[row];
+    if (record.Kind == ObjectKind::None || IsBand(record.Kind)) continue;
+    if (bars == byName.end() || bars->first != record.OwnerName) bars = byName.find(record.OwnerName);
+    if (bars == byName.end()) continue;
+    owners[row] = BarHolding(bars->second, layout.AbsoluteY[row], document,
+                             [&](int bar) { return layout.AbsoluteY[At(bar)]; });
+  }
+  return owners;
+}
+
+BandLayout LayOut(const Document& document, RowView rows, const SortedRows& sorted) {
+  BandLayout layout = PresentLayout(rows);
+  // Owners are found before the bars move, while bodies and objects still lie where they were.
+  const std::vector<int> owners = OwnersOf(document, rows, layout);
+  LayOutBars(layout, rows, sorted);
+  for (const int row : sorted.Rows) {
+    const int owner = owners[At(row)];
+    if (owner == 0) continue;
+    const std::int64_t top = std::int64_t{layout.AbsoluteY[At(owner)]} + kBarHeight;
+    layout.AbsoluteY[At(row)] = Fit32(top + rows[At(row)]->Y);
+    layout.SectionCursorY[At(owner)] = std::min(layout.SectionCursorY[At(owner)], rows[At(owner)]->EndsAt);
+  }
+  return layout;
+}
+
+void Store(Rows rows, const SortedRows& sorted, const BandLayout& layout) {
+  for (const int row : sorted.Rows) {
+    rows[At(row)]->AbsoluteY = layout.AbsoluteY[At(row)];
+    rows[At(row)]->SectionCursorY = layout.SectionCursorY[At(row)];
+  }
+}
+
+}  // namespace
+
+void AssignObjects(Document& document) {
+  Assign(document, RowsOf(document.Objects));
 }
 
 OwnerIndex::OwnerIndex(const Document& document) : document_(document) {
@@ -162,47 +219,15 @@ int OwnerIndex::OwnerOf(int row) const {
 }
 
 std::vector<int> OwnersIn(const Document& document, const BandLayout& layout) {
-  std::unordered_map<std::string_view, std::vector<int>> byName;
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    const ObjectRecord& bar = document.Objects[row];
-    if (bar.Kind == ObjectKind::Subsection) byName[bar.SectionName].push_back(row);
-  }
-  std::vector<int> owners(ObjectTable::kLastRow + 1);
-  // Most rows follow one of the same owner.
-  auto bars = byName.end();
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    const ObjectRecord& record = document.Objects[row];
-    if (record.Kind == ObjectKind::None || IsBand(record.Kind)) continue;
-    if (bars == byName.end() || bars->first != record.OwnerName) bars = byName.find(record.OwnerName);
-    if (bars == byName.end()) continue;
-    owners[At(row)] = BarHolding(bars->second, layout.AbsoluteY[At(row)], document,
-                                 [&](int bar) { return layout.AbsoluteY[At(bar)]; });
-  }
-  return owners;
+  return OwnersOf(document, RowsOf(document.Objects), layout);
 }
 
 BandLayout LayOutBands(const Document& document, const SortedRows& sorted) {
-  BandLayout layout = PresentLayout(document);
-  // Owners are found before the bars move, while bodies and objects still lie where they were.
-  const std::vector<int> owners = OwnersIn(document, layout);
-  LayOutBars(layout, document, sorted);
-  for (const int row : sorted.Rows) {
-    const int owner = owners[At(row)];
-    if (owner == 0) continue;
-    const std::int64_t top = std::int64_t{layout.AbsoluteY[At(owner)]} + kBarHeight;
-    layout.AbsoluteY[At(row)] = Fit32(top + document.Objects[row].Y);
-    layout.SectionCursorY[At(owner)] =
-        std::min(layout.SectionCursorY[At(owner)], document.Objects[owner].EndsAt);
-  }
-  return layout;
+  return LayOut(document, RowsOf(document.Objects), sorted);
 }
 
 void StoreLayout(Document& document, const SortedRows& sorted, const BandLayout& layout) {
-  for (const int row : sorted.Rows) {
-    ObjectRecord& record = document.Objects[row];
-    record.AbsoluteY = layout.AbsoluteY[At(row)];
-    record.SectionCursorY = layout.SectionCursorY[At(row)];
-  }
+  Store(RowsOf(document.Objects), sorted, layout);
 }
 
 void NormaliseSubsections(Document& document, const SortedRows& sorted) {
@@ -210,9 +235,10 @@ void NormaliseSubsections(Document& document, const SortedRows& sorted) {
 }
 
 SortedRows DeriveGeometry(Document& document) {
-  AssignObjects(document);
-  SortedRows sorted = SetSortKeys(document);
-  NormaliseSubsections(document, sorted);
+  const auto rows = RowsOf(document.Objects);
+  Assign(document, rows);
+  SortedRows sorted = SetSortKeys(document, rows);
+  Store(rows, sorted, LayOut(document, rows, sorted));
   return sorted;
 }
 

@@ -3,13 +3,13 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <string>
 #include <utility>
 
 #include "base/numbers.h"
 #include "document/band_layout.h"
 #include "document/position.h"
+#include "document/row_view.h"
 
 namespace kev {
 namespace {
@@ -19,50 +19,140 @@ constexpr std::int64_t kKeyOffset = 200000;
 constexpr std::int32_t kEndBarX = 799999;
 
 struct Entry {
-  std::int32_t y;
-  std::int32_t x;
+  std::uint64_t place;  // Y, then X
   int row;
 
   auto operator<=>(const Entry&) const = default;
 };
 
-void StoreKey(std::string& key, const Entry& entry) {
-  std::array<char, 64> digits;
-  char* end = digits.data();
-  for (const std::int32_t part : {entry.y, entry.x, std::int32_t{entry.row}})
-    end = std::to_chars(end, digits.data() + digits.size(), part + kKeyOffset).ptr;
-  key.assign(digits.data(), std::min(static_cast<std::size_t>(end - digits.data()), kSortKeyLength));
+// Numbers that compare as the signed ones do.
+constexpr std::uint32_t InOrder(std::int32_t value) {
+  return static_cast<std::uint32_t>(value) ^ 0x80000000U;
 }
+
+constexpr std::uint64_t PlaceOf(std::int32_t y, std::int32_t x) {
+  return std::uint64_t{InOrder(y)} << 32 | InOrder(x);
+}
+
+constexpr std::int32_t YOf(std::uint64_t place) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(place >> 32) ^ 0x80000000U);
+}
+
+constexpr bool HasSixDigits(std::int64_t part) {
+  return part >= 100000 && part <= 999999;
+}
+
+constexpr auto kPairsOfDigits = [] {
+  std::array<char, 200> pairs{};
+  for (std::size_t n = 0; n < 100; ++n) {
+    pairs[2 * n] = static_cast<char>('0' + n / 10);
+    pairs[2 * n + 1] = static_cast<char>('0' + n % 10);
+  }
+  return pairs;
+}();
+
+char* PutSixDigits(char* at, std::int64_t part) {
+  auto rest = static_cast<std::uint32_t>(part);
+  for (int place = 4; place >= 0; place -= 2, rest /= 100)
+    std::copy_n(&kPairsOfDigits[rest % 100 * std::size_t{2}], 2, at + place);
+  return at + 6;
+}
+
+// Each layout writes the keys of all rows, and nearly all numbers have six digits.
+void StoreKey(std::string& key, std::int32_t y, std::int32_t x, int row) {
+  const std::array<std::int64_t, 3> parts = {y + kKeyOffset, x + kKeyOffset, row + kKeyOffset};
+  if (std::all_of(parts.begin(), parts.end(), HasSixDigits)) {
+    key.resize(kSortKeyLength);
+    char* at = key.data();
+    for (const std::int64_t part : parts)
+      at = PutSixDigits(at, part);
+    return;
+  }
+  key.clear();
+  for (const std::int64_t part : parts)
+    key += std::to_string(part);
+  key.resize(std::min(key.size(), kSortKeyLength));
+}
+static_assert(kSortKeyLength == 3 * 6);
+
+// Most objects of a page stand on a few positions. Remembers those that were met last.
+class KnownPositions {
+ public:
+  explicit KnownPositions(const Document& document) : document_(document) {}
+
+  std::int32_t Of(std::string_view text) {
+    if (text.empty()) return 0;
+    Known& known = known_[SlotOf(text)];
+    if (known.text != text) known = {text, ToInt32(PositionOrZero(text, document_.Columns, *document_.Page))};
+    return known.place;
+  }
+
+ private:
+  static constexpr std::size_t kSlots = 128;
+  struct Known {
+    std::string_view text;
+    std::int32_t place = 0;
+  };
+
+  static std::size_t SlotOf(std::string_view text) {
+    std::size_t sum = 0;
+    for (const char c : text)
+      sum = sum * 31 + static_cast<unsigned char>(c);
+    return (sum ^ sum >> 7) % kSlots;
+  }
+
+  const Document& document_;
+  std::array<Known, kSlots> known_{};
+};
 
 struct Occupied {
   std::vector<Entry> entries;
   std::int32_t bottomMost = 0;
 };
 
-Occupied OccupiedRows(const Document& document) {
+// Tells `keep` the place of each row.
+template <typename Keep>
+Occupied OccupiedRows(const Document& document, RowView rows, const Keep& keep) {
   Occupied occupied;
-  occupied.entries.reserve(static_cast<std::size_t>(document.Objects.LastScanned()));
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    const ObjectRecord& record = document.Objects[row];
+  occupied.entries.reserve(rows.size());
+  KnownPositions positions(document);
+  for (std::size_t row = 1; row < rows.size(); ++row) {
+    const ObjectRecord& record = *rows[row];
     if (record.Kind == ObjectKind::None) continue;
-    const std::int32_t x = record.Kind == ObjectKind::EndOfSubsection
-                               ? kEndBarX
-                               : ToInt32(PositionOrZero(record.XValue, document.Columns, *document.Page));
-    occupied.entries.push_back({record.AbsoluteY, x, row});
+    const std::int32_t x =
+        record.Kind == ObjectKind::EndOfSubsection ? kEndBarX : positions.Of(record.XValue);
+    occupied.entries.push_back({PlaceOf(record.AbsoluteY, x), static_cast<int>(row)});
     const std::int32_t bottom = Fit32(std::int64_t{record.AbsoluteY} + record.Height);
     occupied.bottomMost = std::max(occupied.bottomMost, bottom);
+    keep(row, x);
   }
   return occupied;
 }
 
+// Rows stand almost in their order, as a file holds them and edits leave them, so that few steps put each in
+// its place. Where it takes more, they are sorted as any others.
+void Sort(std::vector<Entry>& entries) {
+  constexpr std::size_t kStepsEach = 16;
+  std::size_t steps = 0;
+  for (std::size_t next = 1; next < entries.size(); ++next) {
+    const Entry entry = entries[next];
+    std::size_t at = next;
+    for (; at > 0 && entry < entries[at - 1]; --at)
+      entries[at] = entries[at - 1];
+    entries[at] = entry;
+    steps += next - at;
+    if (steps > kStepsEach * entries.size()) return std::sort(entries.begin(), entries.end());
+  }
+}
+
 SortedRows Sorted(Occupied occupied) {
   std::vector<Entry>& entries = occupied.entries;
-  std::sort(entries.begin(), entries.end());
+  Sort(entries);
   SortedRows sorted;
   sorted.Rows.reserve(entries.size());
   for (const Entry& entry : entries)
     sorted.Rows.push_back(entry.row);
-  sorted.SmallestY = entries.empty() ? 0 : entries.front().y;
+  sorted.SmallestY = entries.empty() ? 0 : YOf(entries.front().place);
   sorted.BottomMost = occupied.bottomMost;
   return sorted;
 }
@@ -70,14 +160,18 @@ SortedRows Sorted(Occupied occupied) {
 }  // namespace
 
 SortedRows SortRows(const Document& document) {
-  return Sorted(OccupiedRows(document));
+  return Sorted(OccupiedRows(document, RowsOf(document.Objects), [](std::size_t, std::int32_t) {}));
+}
+
+SortedRows SetSortKeys(const Document& document, std::span<ObjectRecord* const> rows) {
+  const auto store = [&](std::size_t row, std::int32_t x) {
+    StoreKey(rows[row]->SortKey, rows[row]->AbsoluteY, x, static_cast<int>(row));
+  };
+  return Sorted(OccupiedRows(document, rows, store));
 }
 
 SortedRows SetSortKeys(Document& document) {
-  Occupied occupied = OccupiedRows(document);
-  for (const Entry& entry : occupied.entries)
-    StoreKey(document.Objects[entry.row].SortKey, entry);
-  return Sorted(std::move(occupied));
+  return SetSortKeys(document, RowsOf(document.Objects));
 }
 
 }  // namespace kev

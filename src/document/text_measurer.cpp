@@ -17,6 +17,8 @@ bool NameHolds(std::string_view font, std::string_view part) {
 }
 
 const FontMetricsRow& MetricsOf(const FontSpec& font) {
+  // Most texts have it, and it holds none of the names below.
+  if (font.Name == "Arial") return font.Bold ? kSansBoldMetrics : kSansMetrics;
   if (NameHolds(font.Name, "courier") || NameHolds(font.Name, "mono") || NameHolds(font.Name, "consol")) {
     return kMonoMetrics;
   }

@@ -5,7 +5,6 @@
 #include <initializer_list>
 #include <limits>
 #include <optional>
-#include <unordered_map>
 #include <utility>
 
 #include "base/holds_number.h"
@@ -18,15 +17,43 @@
 namespace kev {
 namespace {
 
+// The rows of the directives by their keys: a template holds thousands. Rows of the same slot follow one
+// another.
+class DirectiveIndex {
+ public:
+  constexpr DirectiveIndex() {
+    for (const DirectiveRow& row : kDirectives) {
+      std::size_t slot = SlotOf(row.key);
+      while (rows_[slot] != nullptr)
+        slot = (slot + 1) % kSlots;
+      rows_[slot] = &row;
+    }
+  }
+
+  constexpr const DirectiveRow* Find(std::string_view key) const {
+    if (key.empty()) return nullptr;
+    for (std::size_t slot = SlotOf(key); rows_[slot] != nullptr; slot = (slot + 1) % kSlots)
+      if (rows_[slot]->key == key) return rows_[slot];
+    return nullptr;
+  }
+
+ private:
+  static constexpr std::size_t kSlots = 256;
+  static_assert(kDirectives.size() < kSlots / 2);
+
+  static constexpr std::size_t SlotOf(std::string_view key) {
+    return (key.size() * 37 + static_cast<unsigned char>(key.front()) * std::size_t{5} +
+            static_cast<unsigned char>(key.back())) %
+           kSlots;
+  }
+
+  std::array<const DirectiveRow*, kSlots> rows_{};
+};
+
+constexpr DirectiveIndex kDirectiveIndex;
+
 const DirectiveRow* FindDirective(std::string_view key) {
-  static const auto index = [] {
-    std::unordered_map<std::string_view, const DirectiveRow*> map;
-    for (const DirectiveRow& row : kDirectives)
-      map.emplace(row.key, &row);
-    return map;
-  }();
-  const auto found = index.find(key);
-  return found == index.end() ? nullptr : found->second;
+  return kDirectiveIndex.Find(key);
 }
 
 constexpr double kLargest32 = std::numeric_limits<std::int32_t>::max();
@@ -64,13 +91,12 @@ constexpr auto kYesStores = std::to_array<std::pair<Action, Flag AttributeState:
 // One item of a block: its key, and the value behind the first "=".
 class Item {
  public:
-  Item(ReaderState& state, std::string_view text) : state_(state) {
+  Item(ReaderState& state, std::string_view text, bool mayHoldDisarmed) : state_(state) {
     const std::size_t equals = text.find('=');
     name_ = Trim(text.substr(0, equals));
     key_ = state.document.Page->Upper(name_);
     if (equals != std::string_view::npos) value_ = text.substr(equals + 1);
-    if (value_.find('\1') != std::string_view::npos || value_.find('\2') != std::string_view::npos)
-      RestoreDelimiters();
+    if (mayHoldDisarmed) RestoreDelimiters();
   }
   // The value may lie in the item itself.
   Item(const Item&) = delete;
@@ -431,9 +457,11 @@ bool LooksLikeCommands(std::string_view block, const CodePage& page) {
 
 void ApplyCommands(ReaderState& state, std::string_view block) {
   CheckTokenCount(block, ';');
+  const bool mayHoldDisarmed =
+      block.find('\1') != std::string_view::npos || block.find('\2') != std::string_view::npos;
   std::optional<std::string_view> rest = block;
   while (rest)
-    Item(state, TakeToken(rest, ';')).Apply();
+    Item(state, TakeToken(rest, ';'), mayHoldDisarmed).Apply();
 }
 
 }  // namespace kev

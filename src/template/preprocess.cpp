@@ -19,7 +19,6 @@ constexpr auto kPositionKeys = std::to_array<std::string_view>(
 struct Block {
   std::size_t open;
   std::size_t close;
-  bool hasPosition;
 };
 
 bool IsPositionLike(std::string_view item, const CodePage& page) {
@@ -27,12 +26,13 @@ bool IsPositionLike(std::string_view item, const CodePage& page) {
   if (name.empty()) return false;
   const char first = name.front();
   if (first == '$' || first == '-' || first == '+' || (first >= '0' && first <= '9')) return true;
-  return std::any_of(kPositionKeys.begin(), kPositionKeys.end(),
-                     [&](std::string_view key) { return page.EqualsIgnoringCase(name, key); });
+  const char capital = page.Upper(first);
+  return std::any_of(kPositionKeys.begin(), kPositionKeys.end(), [&](std::string_view key) {
+    return key.front() == capital && page.EqualsIgnoringCase(name, key);
+  });
 }
 
 bool HasPosition(std::string_view block, const CodePage& page) {
-  CheckTokenCount(block, ';');
   std::optional<std::string_view> rest = block;
   while (rest) {
     if (IsPositionLike(TakeToken(rest, ';'), page)) return true;
@@ -40,10 +40,17 @@ bool HasPosition(std::string_view block, const CodePage& page) {
   return false;
 }
 
+std::string_view TextOf(const Block& block, std::string_view line) {
+  return line.substr(block.open + 1, block.close - block.open - 1);
+}
+
 // What is judged once it is known where the next block begins.
-void Disarm(std::string& result, std::string_view line, const Block& block, std::size_t next) {
-  if (block.hasPosition) return;
+void Disarm(std::string& result, std::string_view line, const Block& block, std::size_t next,
+            const CodePage& page) {
   const bool textBehind = !Trim(line.substr(block.close + 1, next - block.close - 1)).empty();
+  const bool hasBraces = line[block.open] == '{' && line[block.close] == '}';
+  // Most blocks stand alone, and whatever they hold, nothing about them changes.
+  if ((!textBehind && hasBraces) || HasPosition(TextOf(block, line), page)) return;
   // A block that stays a command gets back braces, whatever the document's own characters are.
   result[block.open] = textBehind ? kDisarmedOpen : '{';
   result[block.close] = textBehind ? kDisarmedClose : '}';
@@ -58,17 +65,17 @@ void PreprocessLine(std::string& result, std::string_view line, char open, char 
   std::optional<Block> before;
   constexpr std::size_t kNone = std::string_view::npos;
   std::size_t begin = kNone;
-  for (std::size_t at = 0; at < line.size(); ++at) {
-    if (line[at] != open && line[at] != close) continue;
+  for (std::size_t at = 0; (at = FindEither(line, at, open, close)) < line.size(); ++at) {
     if (line[at] == close && begin != kNone) {
-      if (before) Disarm(result, line, *before, begin);
-      before = {begin, at, HasPosition(line.substr(begin + 1, at - begin - 1), page)};
+      if (before) Disarm(result, line, *before, begin, page);
+      before = {begin, at};
+      CheckTokenCount(TextOf(*before, line), ';');
       begin = kNone;
     } else if (line[at] == open) {
       begin = at;
     }
   }
-  if (before) Disarm(result, line, *before, line.size());
+  if (before) Disarm(result, line, *before, line.size(), page);
 }
 
 std::string PreprocessLine(std::string_view line, char open, char close, const CodePage& page) {

@@ -67,13 +67,12 @@ int ReaderState::Add(const NewObject& object) {
 void ReaderState::NotePositions(const ObjectRecord& record, int row) {
   for (const std::string_view position :
        {std::string_view(record.XValue), std::string_view(record.X2Value)}) {
+    if (HoldsNumber(position)) continue;
     const std::string_view name = NthToken(position, 1, kBlank);
     if (name.empty()) continue;
     const bool isColumn = name.starts_with('$');
     const bool isUnknown = isColumn && document.Columns.Find(name, *document.Page) == 0;
-    const bool hasValue = isColumn ? EvaluatePosition(position, document.Columns, *document.Page).has_value()
-                                   : HoldsNumber(position);
-    if (hasValue && !isUnknown) continue;
+    if (isColumn && !isUnknown && EvaluatePosition(position, document.Columns, *document.Page)) continue;
     const std::size_t before = findings.size();
     if (isUnknown)
       Note(FindingKind::DanglingColumn, name);
@@ -357,8 +356,7 @@ void TemplateReader::ScanContent(std::string_view line, std::size_t removed) {
   std::size_t blockColumn = 1;
   for (std::size_t at = 0; at < line.size(); ++at) {
     const std::size_t begin = at;
-    while (at < line.size() && line[at] != open && line[at] != close)
-      ++at;
+    at = FindEither(line, at, open, close);
     const std::string_view run = line.substr(begin, at - begin);
     if (inBlock_)
       commandBuffer_ += run;

@@ -41,6 +41,15 @@ bool LooksLikeCommands(std::string_view block, const CodePage& page);
 // Prepares a line into a text that is used again for each.
 void PreprocessLine(std::string& result, std::string_view line, char open, char close, const CodePage& page);
 
+// Where the next of two characters stands, from `from` on; the size of the text where there is none.
+inline std::size_t FindEither(std::string_view text, std::size_t from, char one, char other) {
+  const char* at = text.data() + from;
+  const char* const end = text.data() + text.size();
+  while (at != end && *at != one && *at != other)
+    ++at;
+  return static_cast<std::size_t>(at - text.data());
+}
+
 // Applies the text of one command block.
 void ApplyCommands(ReaderState& state, std::string_view block);
 

@@ -42,6 +42,27 @@ TEST_F(Sections, OwnTheObjectsInTheirBodyBothEndsIncluded) {
   }
 }
 
+// Each object is looked for beginning with the body of the one before it.
+TEST_F(Sections, OwnTheirObjectsInWhateverOrderTheRowsStand) {
+  PutSubsection(document, "[A]", 0, 600);
+  PutSubsection(document, "[B]", 2000, 600);
+  PutSubsection(document, "[C]", 4000, 600);
+  struct Row {
+    std::int32_t absoluteY;
+    std::string_view owner;
+  };
+  const Row rows[] = {{4500, "C]"}, {500, "A]"},   {1500, "old"}, {1600, "old"}, {2500, "B]"},
+                      {2600, "B]"}, {-900, "old"}, {9000, "old"}, {4400, "C]"},  {2400, "B]"}};
+  std::vector<int> boxes;
+  for (const Row& row : rows) {
+    boxes.push_back(PutBox(document, row.absoluteY));
+    at(boxes.back()).OwnerName = "old";
+  }
+  AssignObjects(document);
+  for (std::size_t n = 0; n < boxes.size(); ++n)
+    EXPECT_EQ(at(boxes[n]).OwnerName, rows[n].owner) << rows[n].absoluteY;
+}
+
 TEST_F(Sections, GiveAnObjectToTheLaterRowWhereBodiesOverlap) {
   PutSubsection(document, "[LATE]", 500, 1000);
   PutSubsection(document, "[EARLY]", 0, 1000);

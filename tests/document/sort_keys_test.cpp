@@ -85,6 +85,35 @@ TEST(SortedRows, TellTheTopmostAndTheBottommostPlace) {
   EXPECT_EQ(sorted.BottomMost, 4980);
 }
 
+// Few steps put rows in order that are almost so; these are far from it.
+TEST(SortedRows, AreInOrderHoweverTheRowsLie) {
+  Document document;
+  constexpr int kRows = 400;
+  for (int n = 0; n < kRows; ++n)
+    PutBox(document, 1000 - n / 2 * 7, std::to_string(n % 2 == 0 ? 50 : -50));
+  const std::vector<int> rows = SetSortKeys(document).Rows;
+  ASSERT_EQ(rows.size(), std::size_t{kRows});
+  for (std::size_t n = 0; n < rows.size(); ++n)
+    EXPECT_EQ(rows[n], kRows - static_cast<int>(n)) << n;
+}
+
+TEST(SortKeys, AreThoseOfTheirOwnPositionAmongAnyOthers) {
+  Document document;
+  document.Columns[1] = {"$Col_01", 2400, ""};
+  const auto positionOf = [](int n) {
+    return (n % 3 == 0 ? "$Col_01 + " : "") + std::to_string(n * 37 % 1000 + 1);
+  };
+  constexpr int kRows = 700;
+  for (int n = 0; n < kRows; ++n)
+    PutBox(document, 0, positionOf(n));
+  SetSortKeys(document);
+  for (int n = 0; n < kRows; ++n) {
+    const int x = (n % 3 == 0 ? 2400 : 0) + n * 37 % 1000 + 1;
+    const std::string key = "200000" + std::to_string(200000 + x) + std::to_string(200000 + n + 1);
+    EXPECT_EQ(document.Objects[n + 1].SortKey, key) << positionOf(n);
+  }
+}
+
 TEST(SortedRows, OfAnEmptyTableAreNone) {
   Document document;
   const SortedRows sorted = SetSortKeys(document);
