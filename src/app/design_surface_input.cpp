@@ -5,6 +5,7 @@
 
 #include "app/design_surface.h"
 #include "app/designer.h"
+#include "surface/group_keys.h"
 #include "surface/object_description.h"
 #include "surface/selection.h"
 
@@ -82,6 +83,15 @@ bool DesignSurface::KeyDown(int code, int shift, std::string_view text) {
     return taken;
   }
   if (Busy()) return false;
+  if (const GroupKey key = GroupKeyOf(Work(), code, shift); key != GroupKey::None) {
+    CommitOpenEdits();
+    return designer_.GuardedView([&] {
+      PageWork work = Work();
+      ApplyGroupKey(work, key);
+      const int current = work.document.Objects.CurrentObject;
+      if (current != 0) designer_.ShowArea(DescribeObject(work, current).Area);
+    });
+  }
   switch (EffectOfKey(Work(), code, shift)) {
     case KeyEffect::Nothing:
       return false;

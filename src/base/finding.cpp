@@ -19,7 +19,7 @@ constexpr std::array<KindWords, kFindingKinds> kWords = {{
     {FindingKind::LateKey, "late-key", "key past line 100 is ignored"},
     {FindingKind::RepeatedKey, "repeated-key", "key is repeated"},
     {FindingKind::DanglingColumn, "unknown-column", "unknown column"},
-    {FindingKind::ValueOutOfRange, "out-of-range", "number is out of range"},
+    {FindingKind::ValueOutOfRange, "out-of-range", "value does not fit"},
     {FindingKind::WillNotComeBack, "not-saved", "will not come back after saving"},
     {FindingKind::MissingFile, "missing-file", "file is not there"},
     {FindingKind::ValueChanges, "value-changes", "value changes on saving"},

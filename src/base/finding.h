@@ -16,7 +16,7 @@ enum class FindingKind : std::uint8_t {
   LateKey,          // a head key past line 100
   RepeatedKey,      // a head key that stands a second time
   DanglingColumn,   // a position that names no column
-  ValueOutOfRange,  // a number that does not fit its field
+  ValueOutOfRange,  // a value that means nothing where it stands, or does not fit its field
   WillNotComeBack,  // a form that saving cannot keep
   MissingFile,      // a file that the template names is not there
   // What a saved file gives back otherwise than the page shows it.

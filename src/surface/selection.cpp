@@ -6,6 +6,7 @@
 #include "base/text_numbers.h"
 #include "document/kind_defaults.h"
 #include "document/sections.h"
+#include "surface/group_keys.h"
 #include "surface/overlay.h"
 #include "surface/press_rules.h"
 
@@ -21,15 +22,6 @@ void ShowOne(PageWork& work, int row) {
   PlaceHandles(work, row);
   ShowHandles(work, std::as_const(work.document).Objects[row].Handles);
   ShowOverlay(work, row);
-}
-
-void ToggleInGroup(PageWork& work, int row) {
-  ObjectRecord& record = work.document.Objects[row];
-  record.Selected = ToFlag(record.Selected != kTrue);
-  work.document.Objects.CurrentObject = row;
-  HideHandles(work);
-  HideOverlay(work);
-  work.services.FullRepaint();
 }
 
 // The bar between whose head and end the canvas place lies, 0 where there is none.

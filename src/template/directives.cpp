@@ -2,10 +2,12 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <initializer_list>
 #include <limits>
 #include <optional>
 #include <utility>
 
+#include "base/holds_number.h"
 #include "base/numbers.h"
 #include "base/take_token.h"
 #include "base/text.h"
@@ -56,6 +58,7 @@ const DirectiveRow* FindDirective(std::string_view key) {
 
 constexpr double kLargest32 = std::numeric_limits<std::int32_t>::max();
 constexpr double kLargest16 = std::numeric_limits<std::int16_t>::max();
+constexpr double kBrightest = 255, kLastBasicColour = 15;
 
 constexpr auto kTextStores = std::to_array<std::pair<Action, std::string AttributeState::*>>({
     {Action::Format, &AttributeState::AttrFormat},
@@ -115,6 +118,9 @@ class Item {
   bool StoreYes(Action action);
   void SetSymbology(int symbology);
   void NoteIfAbove(double largest, std::string_view number);
+  void NoteOutside(double smallest, double largest, std::string_view number);
+  void NoteUnlessNumber(std::string_view text);
+  void NoteUnlessIn(std::initializer_list<std::string_view> words);
   void ApplyMovement(const DirectiveRow& row);
   void ApplyCreation(const DirectiveRow& row);
   void ApplyUnknown();
@@ -167,6 +173,7 @@ bool Item::StoreNumber(Action action) {
   for (const NumberStore& row : kNumberStores) {
     if (row.action != action) continue;
     NoteIfAbove(row.largest, value_);
+    NoteUnlessNumber(value_);
     attributes().*row.member = NumericPrefix(value_);
     return true;
   }
@@ -177,6 +184,7 @@ bool Item::StoreYes(Action action) {
   for (const auto& [stored, member] : kYesStores) {
     if (stored != action) continue;
     attributes().*member = ToFlag(IsYes(value_));
+    NoteUnlessIn({"Y", "YES", "1", "N", "NO", "0"});
     // The writer never switches trimming off, so blanks around a text are gone after a save.
     if (action == Action::Trim && !IsYes(value_)) state_.Note(FindingKind::WillNotComeBack, name_);
     return true;
@@ -244,6 +252,24 @@ void Item::NoteIfAbove(double largest, std::string_view number) {
   if (std::abs(NumericPrefix(number)) > largest) state_.Note(FindingKind::ValueOutOfRange, number);
 }
 
+void Item::NoteOutside(double smallest, double largest, std::string_view number) {
+  NoteUnlessNumber(number);
+  const double value = NumericPrefix(number);
+  if (value < smallest || value > largest) state_.Note(FindingKind::ValueOutOfRange, number);
+}
+
+// What is left out is no mistake.
+void Item::NoteUnlessNumber(std::string_view text) {
+  if (!Trim(text).empty() && !HoldsNumber(text))
+    state_.Note(FindingKind::ValueOutOfRange, std::string(name_).append("=").append(value_));
+}
+
+void Item::NoteUnlessIn(std::initializer_list<std::string_view> words) {
+  const std::string capitals = state_.document.Page->Upper(Trim(value_));
+  if (!capitals.empty() && std::find(words.begin(), words.end(), capitals) == words.end())
+    state_.Note(FindingKind::ValueOutOfRange, std::string(name_).append("=").append(value_));
+}
+
 void Item::ApplyMovement(const DirectiveRow& row) {
   switch (row.action) {
     case Action::SubsectionHeight:
@@ -256,6 +282,7 @@ void Item::ApplyMovement(const DirectiveRow& row) {
       return MoveToTop(FormatNumber(NumericPrefix(Part(2))));
     case Action::Spacing:
       NoteIfAbove(kLargest32, value_);
+      NoteUnlessNumber(value_);
       attributes().SpacingNow = Int32Of(value_);
       return;
     case Action::NewLine:
@@ -329,8 +356,10 @@ void Item::BeginShape(NewObject& object, ObjectKind kind) {
 }
 
 void Item::NoteNumbers(const NewObject& object) {
-  NoteIfAbove(kLargest32, object.y);
-  NoteIfAbove(kLargest32, object.height);
+  for (const std::string_view number : {std::string_view(object.y), std::string_view(object.height)}) {
+    NoteIfAbove(kLargest32, number);
+    NoteUnlessNumber(number);
+  }
   if (object.kind != ObjectKind::Line) NoteIfAbove(kLargest32, object.widthOrEndX);
 }
 
@@ -384,14 +413,17 @@ void Item::StepBack() {
 void Item::SetColour() {
   Colour& colour = attributes().AttrColor;
   const bool isIndex = value_.find(',') == std::string::npos;
-  for (std::size_t n = 1; n <= 3; ++n)
-    NoteIfAbove(kLargest16, Part(n));
+  if (isIndex) NoteOutside(0, kLastBasicColour, value_);
+  // A green or blue of -1 makes the red the number of a basic colour.
+  for (std::size_t n = 1; n <= 3 && !isIndex; ++n)
+    NoteOutside(n == 1 ? 0 : -1, kBrightest, Part(n));
   colour = isIndex ? Colour{Int16Of(value_), -1, -1}
                    : Colour{Int16Of(Part(1)), Int16Of(Part(2)), Int16Of(Part(3))};
 }
 
 void Item::SetAlign() {
   const std::string align = state_.document.Page->Upper(value_);
+  NoteUnlessIn({"L", "R", "C"});
   attributes().AttrAlign = align == "R" || align == "C" ? align : "L";
 }
 

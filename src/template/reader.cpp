@@ -3,13 +3,18 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
 #include "base/files.h"
+#include "base/holds_number.h"
 #include "base/numbers.h"
 #include "base/reasons.h"
 #include "base/text.h"
+#include "document/papers.h"
+#include "document/position.h"
+#include "document/setting_check.h"
 #include "template/scanner.h"
 #include "template/skeleton.h"
 
@@ -52,20 +57,27 @@ int ReaderState::Add(const NewObject& object) {
   if (places.size() <= static_cast<std::size_t>(row)) places.resize(static_cast<std::size_t>(row) + 1);
   places[static_cast<std::size_t>(row)] = {static_cast<std::uint32_t>(line),
                                            static_cast<std::uint32_t>(column), cursor.OpenSubsection};
-  NoteDanglingColumns(std::as_const(document).Objects[row], row);
+  NotePositions(std::as_const(document).Objects[row], row);
   textBytes += TextBytes(document.Objects[row]);
   if (textBytes > kMostTextBytes) throw std::out_of_range(kReasonTextsTooLarge);
   return row;
 }
 
-void ReaderState::NoteDanglingColumns(const ObjectRecord& record, int row) {
+// Positions that count as 0, though they were meant to be something else.
+void ReaderState::NotePositions(const ObjectRecord& record, int row) {
   for (const std::string_view position :
        {std::string_view(record.XValue), std::string_view(record.X2Value)}) {
-    if (!position.starts_with('$')) continue;
+    if (HoldsNumber(position)) continue;
     const std::string_view name = NthToken(position, 1, kBlank);
-    if (document.Columns.Find(name, *document.Page) != 0) continue;
+    if (name.empty()) continue;
+    const bool isColumn = name.starts_with('$');
+    const bool isUnknown = isColumn && document.Columns.Find(name, *document.Page) == 0;
+    if (isColumn && !isUnknown && EvaluatePosition(position, document.Columns, *document.Page)) continue;
     const std::size_t before = findings.size();
-    Note(FindingKind::DanglingColumn, name);
+    if (isUnknown)
+      Note(FindingKind::DanglingColumn, name);
+    else
+      Note(FindingKind::ValueOutOfRange, position);
     if (findings.size() > before) findings.back().Row = row;
   }
 }
@@ -106,14 +118,15 @@ std::string_view WithoutLeadingTabs(std::string_view line) {
   return line;
 }
 
-bool IsHeadKey(std::string_view capitals) {
+const SettingRow* FindHeadKey(const std::string& capitals) {
   static const auto keys = [] {
-    std::unordered_set<std::string> all;
+    std::unordered_map<std::string, const SettingRow*> all;
     for (const SettingRow& row : SettingRows())
-      all.insert(CodePage::Default().Upper(row.key));
+      all.emplace(CodePage::Default().Upper(row.key), &row);
     return all;
   }();
-  return keys.contains(std::string(capitals));
+  const auto found = keys.find(capitals);
+  return found == keys.end() ? nullptr : found->second;
 }
 
 class TemplateReader {
@@ -129,6 +142,8 @@ class TemplateReader {
   void ReadHead();
   void CheckHead(const KeyFile& keys);
   void CheckHeadLine(std::string_view line, const KeyFile& keys, bool inHead);
+  void CheckHeadValue(const SettingRow& row, std::string_view value);
+  void CheckColumn(std::string_view line);
   void CheckDelimiters(const KeyFile& keys);
   bool ReadPreamble();
   void AddColumn(std::string_view line);
@@ -157,6 +172,7 @@ class TemplateReader {
   std::string prepared_;  // the line as it is scanned
   std::string textBuffer_;
   std::string commandBuffer_;
+  std::unordered_set<std::string> columns_;  // the names so far, in capitals
   bool inBlock_ = false;
   bool textIsFlushed_ = false;
   bool hasText_ = false;  // the buffer holds more than blanks
@@ -221,20 +237,39 @@ void TemplateReader::CheckHead(const KeyFile& keys) {
 
 void TemplateReader::CheckHeadLine(std::string_view line, const KeyFile& keys, bool inHead) {
   const std::string_view visible = Trim(WithoutLeadingTabs(line));
-  if (visible.empty() || visible.starts_with('[') || (inHead && visible.starts_with('$'))) return;
+  if (visible.empty() || visible.starts_with('[')) return;
+  if (inHead && visible.starts_with('$')) return CheckColumn(visible);
   const std::size_t equals = line.starts_with('#') ? std::string_view::npos : line.find('=');
   if (equals == std::string_view::npos) {
     if (inHead && visible != kGeneratedLine) state_.Note(FindingKind::LostText, visible);
     return;
   }
   const std::string key = page_.Upper(line.substr(0, equals));
-  if (!IsHeadKey(key)) {
+  const SettingRow* row = FindHeadKey(key);
+  if (row == nullptr) {
     if (inHead) state_.Note(FindingKind::UnknownKey, Trim(line.substr(0, equals)));
   } else if (state_.line > KeyFile::kLinesLookedAt) {
     state_.Note(FindingKind::LateKey, line);
   } else if (keys.Line(key) != state_.line) {
     state_.Note(FindingKind::RepeatedKey, key);
+  } else {
+    CheckHeadValue(*row, Trim(line.substr(equals + 1)));
   }
+}
+
+void TemplateReader::CheckHeadValue(const SettingRow& row, std::string_view value) {
+  bool means = SettingIsUnderstood(row.id, value, page_);
+  // The name of a paper that nobody knows gives way to the usual paper, unless the size stands beside it.
+  if (row.id == Setting::PAPERSIZE && !value.empty())
+    means = page_.EqualsIgnoringCase(document_.Settings[row.id], value) || LookupPaper(value).has_value();
+  if (!means) state_.Note(FindingKind::ValueOutOfRange, std::string(row.key).append("=").append(value));
+}
+
+// Positions take the first column of a name.
+void TemplateReader::CheckColumn(std::string_view line) {
+  const std::string_view name = Trim(NthToken(line, 1, '='));
+  if (!columns_.insert(page_.Upper(name)).second) state_.Note(FindingKind::RepeatedKey, name);
+  if (!HoldsNumber(NthToken(line, 2, '='))) state_.Note(FindingKind::ValueOutOfRange, line);
 }
 
 std::string_view TemplateReader::NextLine() {

@@ -28,7 +28,7 @@ struct ReaderState {
   void Note(FindingKind kind, std::string_view text);
   // Creates a row; a row of any kind but a page break ends the memory of one.
   int Add(const NewObject& object);
-  void NoteDanglingColumns(const ObjectRecord& record, int row);
+  void NotePositions(const ObjectRecord& record, int row);
 };
 
 // Where a finding belongs to an object: the first that stands at its place or behind it in the same

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <set>
 
 #include "app/designer_fixture.h"
@@ -79,6 +80,30 @@ const std::vector<InFile>& Table() {
        Object::Box},
       {"InAnotherBody", Layout("{\\n}\r\n{Box=1,900,20,20}\r\n[DATA]\r\n{Spacing=2000;\\n}\r\n"),
        MovesSubsection, 4, 1, "BOX: [DATA]", Object::Box},
+      {"NoNumberOfCopies", " Copies=two\r\n[HEADER]\r\n", ValueOutOfRange, 1, 2, "Copies=two", Object::None},
+      {"NoNumberOfTwips", "LM=left\r\n[HEADER]\r\n", ValueOutOfRange, 1, 1, "LM=left", Object::None},
+      {"NeitherYesNorNo", "EBEU=maybe\r\n[HEADER]\r\n", ValueOutOfRange, 1, 1, "EBEU=maybe", Object::None},
+      {"LinktipsOfOne", "Linktips=1\r\n[HEADER]\r\n", ValueOutOfRange, 1, 1, "Linktips=1", Object::None},
+      {"WordOfOrientation", "Orientation=Portrait\r\n[HEADER]\r\n", ValueOutOfRange, 1, 1,
+       "Orientation=Portrait", Object::None},
+      {"DelimiterOfTwo", "Open=<<\r\n[HEADER]\r\n", ValueOutOfRange, 1, 1, "Open=<<", Object::None},
+      {"PaperOfNobody", "papersize=Foolscap\r\n[HEADER]\r\n", ValueOutOfRange, 1, 1, "PAPERSIZE=Foolscap",
+       Object::None},
+      {"ColumnWithoutNumber", "$A=wide\r\n[HEADER]\r\n", ValueOutOfRange, 1, 1, "$A=wide", Object::None},
+      {"ColumnTwice", "$A=1\r\n $a=2\r\n[HEADER]\r\n", RepeatedKey, 2, 2, "$a", Object::None},
+      {"SizeOfNoNumber", Layout("{5;S=big}Total{\\n}\r\n"), ValueOutOfRange, 3, 1, "S=big", Object::Label},
+      {"HeightOfNoNumber", Layout("{Box=1,,9,high}\r\n"), ValueOutOfRange, 3, 1, "Box=1,,9,high",
+       Object::Box},
+      {"BoldOrNot", Layout("{5;b=on}Total{\\n}\r\n"), ValueOutOfRange, 3, 1, "b=on", Object::Label},
+      {"AlignedToNothing", Layout("{5;a=middle}Total{\\n}\r\n"), ValueOutOfRange, 3, 1, "a=middle",
+       Object::Label},
+      {"ColourTooBright", Layout("{C=300,0,0;5;}Total{\\n}\r\n"), ValueOutOfRange, 3, 1, "300",
+       Object::Label},
+      {"ColourBeyondTheBasic", Layout("{C=16;5;}Total{\\n}\r\n"), ValueOutOfRange, 3, 1, "16", Object::Label},
+      {"NameOfAColour", Layout("{C=red;5;}Total{\\n}\r\n"), ValueOutOfRange, 3, 1, "C=red", Object::Label},
+      {"PositionWithoutNumber", Layout("{Box=left,,9,9}\r\n"), ValueOutOfRange, 3, 1, "left", Object::Box},
+      {"StepFromAColumn", "$A=1\r\n[HEADER]\r\n{$A +}Total{\\n}\r\n", ValueOutOfRange, 3, 7, "$A +",
+       Object::Label},
   };
   return rows;
 }
@@ -223,6 +248,33 @@ TEST(FirstDifferenceTest, NamesTheLineAndBothForms) {
   EXPECT_EQ(at("a\r\nb", "a\r\n"), "2:1: \"b\" -> (end)");
   EXPECT_EQ(at("a\nb\n", "a\r\nb\r\n"), "1:2: \"a\", its end");
   EXPECT_EQ(at("", "a"), "1:1: (end) -> \"a\"");
+}
+
+TEST(Findings, AreNoneOfValuesThatMeanSomething) {
+  const std::string text =
+      "Copies=2\r\nLM=1 440\r\nEBEU=yes\r\nOrientation=2\r\nZoomToOpen=50%\r\nPAPERSIZE=a4, 210 x 297 mm\r\n"
+      "ALWAYSFIT=No\r\nPDFFROMPS=1\r\nKEXVER=4\r\n$A=-20.5\r\n$B=9\r\n[HEADER]\r\n"
+      "  {DEF}\r\n  {b=Yes;u=1;i=n;a=c;S=12;C=15}\r\n  {$A + 30} Total{}\r\n  {C=255,0,-1}\r\n  "
+      "{Box=9,,90,90}\r\n";
+  ReadOutcome outcome = test::ReadText(text);
+  EXPECT_THAT(outcome.Findings, testing::IsEmpty());
+}
+
+TEST(Findings, AreNoneOfAnUnknownPaperBesideItsSize) {
+  ReadOutcome outcome = test::ReadText("PAPERSIZE=Card\r\nPAGEWIDTH=2000\r\nPAGELENGHT=3000\r\n[HEADER]\r\n");
+  EXPECT_THAT(outcome.Findings, testing::IsEmpty());
+}
+
+TEST(Findings, AreNoneOfTheExamples) {
+  for (const auto& entry : std::filesystem::directory_iterator(KEV_EXAMPLES_DIR)) {
+    if (entry.path().extension() != ".kev") continue;
+    const std::string text = test::ReadBytes(entry.path().string());
+    ReadOutcome outcome = test::ReadText(text);
+    const CheckedTemplate checked = CheckRead(outcome, text, BuiltInMeasurer());
+    for (const Finding& finding : checked.Findings)
+      ADD_FAILURE() << entry.path().filename() << ':' << finding.Line << ": " << FindingText(finding.Kind)
+                    << ": " << finding.Text;
+  }
 }
 
 TEST(Findings, HaveEachANameOfTheirOwn) {

@@ -174,7 +174,8 @@ TEST(Documents, TheDefaultsOfTheUserSettingsAreThoseOfTheCode) {
   const UserSettings settings;
   const std::vector<Row> expected = {{"`DEFAULT_EDITOR`", Code(settings.DefaultEditor)},
                                      {"`DEFAULT_PAPERSIZE`", Code(settings.DefaultPaperSize)},
-                                     {"`CODEPAGE`", Code(settings.Page->Name())}};
+                                     {"`CODEPAGE`", Code(settings.Page->Name())},
+                                     {"`REMOTEPICTURES`", Code(settings.RemotePictures ? "Y" : "N")}};
   ASSERT_EQ(table.size(), expected.size());
   for (std::size_t at = 0; at < table.size(); ++at) {
     EXPECT_EQ(table[at].at(0), expected[at][0]);
