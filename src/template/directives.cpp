@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <initializer_list>
 #include <limits>
 #include <optional>
@@ -22,18 +23,19 @@ namespace {
 class DirectiveIndex {
  public:
   constexpr DirectiveIndex() {
-    for (const DirectiveRow& row : kDirectives) {
-      std::size_t slot = SlotOf(row.key);
-      while (rows_[slot] != nullptr)
+    for (std::size_t row = 0; row < kDirectives.size(); ++row) {
+      std::size_t slot = SlotOf(kDirectives[row].key);
+      while (rows_[slot] != 0)
         slot = (slot + 1) % kSlots;
-      rows_[slot] = &row;
+      rows_[slot] = static_cast<std::uint8_t>(row + 1);
     }
   }
 
-  constexpr const DirectiveRow* Find(std::string_view key) const {
+  const DirectiveRow* Find(std::string_view key) const {
     if (key.empty()) return nullptr;
-    for (std::size_t slot = SlotOf(key); rows_[slot] != nullptr; slot = (slot + 1) % kSlots)
-      if (rows_[slot]->key == key) return rows_[slot];
+    for (std::size_t slot = SlotOf(key); rows_[slot] != 0; slot = (slot + 1) % kSlots)
+      if (kDirectives[rows_[slot] - std::size_t{1}].key == key)
+        return &kDirectives[rows_[slot] - std::size_t{1}];
     return nullptr;
   }
 
@@ -47,7 +49,7 @@ class DirectiveIndex {
            kSlots;
   }
 
-  std::array<const DirectiveRow*, kSlots> rows_{};
+  std::array<std::uint8_t, kSlots> rows_{};  // counted from 1; 0 is an empty slot
 };
 
 constexpr DirectiveIndex kDirectiveIndex;
