@@ -84,10 +84,10 @@ PictureAnswer FolderPictures::Look(std::string_view path) {
 PictureAnswer FolderPictures::LookRemote(const std::string& address) {
   const std::string pictureFile = CacheNameOf(address);
   if (!IsUsableCacheName(std::string_view(pictureFile).substr(kCacheFolder.size())))
-    return {std::string(kMissingPicture), std::nullopt};
+    return {std::string(kMissingPicture), std::nullopt, true};
   const std::string file = InTempFolder(folders_, pictureFile);
-  if (FileExists(file)) return {pictureFile, ImageSizeOfFile(file)};
-  if (!remoteAllowed_) return {std::string(kMissingPicture), std::nullopt};
+  if (FileExists(file)) return {pictureFile, ImageSizeOfFile(file), true};
+  if (!remoteAllowed_) return {std::string(kMissingPicture), std::nullopt, true};
   if (fetches_->underWay.insert(pictureFile).second) {
     // The answer may come when this object is gone.
     host_.FetchPicture(address, file, [fetches = std::weak_ptr(fetches_), pictureFile](bool there) {
@@ -97,7 +97,7 @@ PictureAnswer FolderPictures::LookRemote(const std::string& address) {
       }
     });
   }
-  return {pictureFile, std::nullopt};
+  return {pictureFile, std::nullopt, true};
 }
 
 }  // namespace kev

@@ -20,6 +20,8 @@ struct PictureAnswer {
   std::string File;
   // The picture's own size in twips; nothing while there is no picture.
   std::optional<TextExtent> Size;
+  // The path is an address, whose picture need not be there yet and may never be fetched.
+  bool Remote = false;
 };
 
 inline constexpr std::string_view kMissingPicture = "\\dashes.bmp";

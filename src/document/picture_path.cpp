@@ -10,12 +10,11 @@ bool FitsTemplate(std::string_view path, const DocumentSettings& settings) {
   return path.find_first_of(std::string_view(reserved, sizeof reserved)) == std::string_view::npos;
 }
 
-// A picture of the data has no file yet, and one that is fetched need not be there yet.
+// A picture of the data has no file yet; that of an address is the viewer's to fetch, whatever is fetched here.
 bool CanBeShown(std::string_view path, PictureSource& pictures) {
   if (path.empty() || path.starts_with('@') || path.starts_with('$')) return true;
   const PictureAnswer answer = pictures.Look(path);
-  const bool fetched = answer.File != path && answer.File != kMissingPicture;
-  return fetched || answer.Size.has_value();
+  return answer.Remote || answer.Size.has_value();
 }
 
 }  // namespace

@@ -45,9 +45,9 @@ void DrawGrid(PaintContext& context, double gridStep, double pageWidth, const So
 }  // namespace
 
 PageSize PageSizeOf(const DocumentSettings& settings) {
-  const auto paper = LookupPaper(settings[Setting::PAPERSIZE]);
-  if (!paper) return {settings.Number(Setting::PAGEWIDTH), settings.Number(Setting::PAGELENGHT)};
-  const PageSize upright{static_cast<double>(paper->Width), static_cast<double>(paper->Length)};
+  PageSize upright{settings.Number(Setting::PAGEWIDTH), settings.Number(Setting::PAGELENGHT)};
+  if (const auto paper = LookupPaper(settings[Setting::PAPERSIZE]))
+    upright = {static_cast<double>(paper->Width), static_cast<double>(paper->Length)};
   return settings[Setting::Orientation].starts_with('1') ? upright : PageSize{upright.Height, upright.Width};
 }
 

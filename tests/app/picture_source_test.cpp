@@ -154,6 +154,18 @@ TEST_F(Pictures, ACachedPictureIsUsed) {
   EXPECT_TRUE(host_.Fetches.empty());
 }
 
+// The viewer may fetch what is not fetched here: such an address can still be chosen.
+TEST_F(Pictures, AnAddressIsRemoteThoughItIsNotFetched) {
+  for (const char* path : {"https://example.org/x/logo.gif", "http://example.org/", "http://example.org/shop/"})
+    EXPECT_TRUE(source_.Look(path).Remote) << path;
+  source_.AllowRemote(false);
+  const PictureAnswer answer = source_.Look("https://example.org/x/other.gif");
+  EXPECT_TRUE(answer.Remote);
+  EXPECT_EQ(answer.File, kMissingPicture);
+  for (const char* path : {"logo.png", "", "@logo", "file:///etc/passwd", "gopher://example.org/a.png"})
+    EXPECT_FALSE(source_.Look(path).Remote) << path;
+}
+
 TEST_F(Pictures, TheCacheNameHoldsPlainCharactersOnly) {
   EXPECT_EQ(CacheNameOf("http://h/a b\\c\xE9;.png"), "\\Cache\\a_b_c__.png");
   EXPECT_EQ(CacheNameOf("name-1_2.png"), "\\Cache\\name-1_2.png");

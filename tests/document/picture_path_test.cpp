@@ -9,7 +9,8 @@ namespace {
 class Shelf final : public PictureSource {
  public:
   PictureAnswer Look(std::string_view path) override {
-    if (path == "http://host/far.png") return {"\\Cache\\far.png", std::nullopt};
+    if (path == "http://host/far.png") return {"\\Cache\\far.png", std::nullopt, true};
+    if (path == "http://host/off.png") return {std::string(kMissingPicture), std::nullopt, true};
     if (path == "broken.png") return {std::string(path), std::nullopt};
     if (path.find("good.png") == std::string_view::npos) return {std::string(kMissingPicture), std::nullopt};
     return {std::string(path), TextExtent{1500, 750}};
@@ -33,7 +34,7 @@ class PicturePath : public testing::Test {
 };
 
 TEST_F(PicturePath, MayBeEmptyAValueAnAddressOrAPicture) {
-  for (const char* path : {"", "@photo", "$photo", "http://host/far.png", "/a/good.png"})
+  for (const char* path : {"", "@photo", "$photo", "http://host/far.png", "http://host/off.png", "/a/good.png"})
     EXPECT_TRUE(May(path)) << path;
 }
 

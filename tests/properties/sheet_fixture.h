@@ -79,7 +79,7 @@ class ListedPictures final : public PictureSource {
   PictureAnswer Look(std::string_view path) override {
     const auto found = Pictures.find(path);
     if (found != Pictures.end()) return {std::string(path), found->second};
-    if (path.starts_with("https://")) return {"\\Cache\\fetched.png", std::nullopt};
+    if (path.starts_with("https://")) return {"\\Cache\\fetched.png", std::nullopt, true};
     if (path.ends_with(".txt")) return {std::string(path), std::nullopt};
     return {std::string(kMissingPicture), std::nullopt};
   }

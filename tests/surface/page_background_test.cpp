@@ -73,7 +73,13 @@ TEST_F(PageBackgroundTest, PaperIsTurnedByTheOrientation) {
   EXPECT_LT(upright.Width, upright.Height);
   settings[Setting::Orientation] = "2";
   EXPECT_EQ(PageSizeOf(settings), (PageSize{upright.Height, upright.Width}));
+}
+
+TEST_F(PageBackgroundTest, NumbersWithoutAPaperAreTurnedLikeOne) {
+  document_.Settings[Setting::Orientation] = "1 - Portrait";
   EXPECT_EQ(PageSizeOf(document_.Settings), (PageSize{10000, 14000}));
+  document_.Settings[Setting::Orientation] = "2 - Landscape";
+  EXPECT_EQ(PageSizeOf(document_.Settings), (PageSize{14000, 10000}));
 }
 
 TEST_F(PageBackgroundTest, WholePageIsClearedThenGroundedThenPainted) {
