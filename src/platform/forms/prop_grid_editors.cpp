@@ -196,9 +196,11 @@ void PaintButton(QPainter& painter, const QStyleOptionViewItem& option, bool ena
 void PropGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
   QStyleOptionViewItem plain = option;
-  // The caption carries the mark of the current row; the value stays easy to read.
+  // The caption carries the mark of the current row; the value stays easy to read: on one line, which is cut at
+  // a letter, where a caption is parted at a blank.
   if (index.column() == PropGridModel::kValue) {
     plain.state &= ~QStyle::State_Selected;
+    plain.features &= ~QStyleOptionViewItem::WrapText;
     painter->fillRect(option.rect, option.palette.base());
   }
   const PropertyRow& row = ModelOf(index).RowAt(index);
