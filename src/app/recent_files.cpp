@@ -17,7 +17,7 @@ constexpr std::string_view kThumbnailEnding = ".bmp";
 constexpr std::size_t kLongestFileName = 255;
 
 // A4, for a paper without a size.
-constexpr PageSize kUsualPaper = {11906, 16838};
+constexpr PageSize kUsualPaper = {11900, 16840};
 // Pixels of the longer side.
 constexpr double kThumbnailSide = 360;
 // No paper is so narrow that its picture would be a line.

@@ -60,7 +60,7 @@ void WelcomeRun::Finish() {
       designer_.AskAndOpen(files_[static_cast<std::size_t>(chosen_)]);
       return;
     case Next::New:
-      designer_.AskAndNew();
+      designer_.NewFromData();
       return;
     case Next::OpenOther:
       designer_.ChooseAndOpen();

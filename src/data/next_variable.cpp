@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "base/files.h"
 #include "base/text.h"
 #include "data/sample_records.h"
+#include "data/sample_values.h"
 
 namespace kev {
 namespace {
@@ -30,15 +30,6 @@ SampleForm SampleFormOf(std::string_view path) {
   return SampleForm::None;
 }
 
-std::vector<std::string> VariablesIn(std::string_view bytes) {
-  std::vector<std::string> names;
-  while (!bytes.empty()) {
-    const std::string_view line = Trim(TakeLine(bytes));
-    if (line.starts_with('@')) names.emplace_back(Trim(NthToken(line, 1, '=')));
-  }
-  return names;
-}
-
 std::optional<std::string> FirstUnused(const Document& document, std::string_view ownerName,
                                        const std::vector<std::string>& names) {
   const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
@@ -57,9 +48,14 @@ NextVariable FindNextVariable(const Document& document, int ownerRow, const std:
     case SampleForm::Variables:
       break;
   }
-  const Result<std::string> bytes = ReadWholeFile(samplePath);
-  if (!bytes) return {std::nullopt, true};
-  return {FirstUnused(document, bar.SectionName, VariablesIn(*bytes))};
+  NextVariable next;
+  next.FileMissing = !ForEachSampleLine(samplePath, [&](std::string_view line) {
+    if (!line.starts_with('@')) return true;
+    const std::string_view name = Trim(NthToken(line, 1, '='));
+    if (!IsShown(document, bar.SectionName, name)) next.Name = name;
+    return !next.Name.has_value();
+  });
+  return next;
 }
 
 }  // namespace kev

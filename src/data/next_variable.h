@@ -19,9 +19,6 @@ enum class SampleForm : std::uint8_t { None, Records, Variables };
 // By the ending of the name, in any case: ".kex" or ".kx" holds records, ".ked" or ".kd" variables.
 SampleForm SampleFormOf(std::string_view path);
 
-// The names in the lines that begin with "@", up to their "=".
-std::vector<std::string> VariablesIn(std::string_view bytes);
-
 // The first name that stands in no LABEL of the subsection. It also counts as used where it is but a part of
 // a label's text. Case does not matter.
 std::optional<std::string> FirstUnused(const Document& document, std::string_view ownerName,

@@ -5,9 +5,8 @@ namespace kev {
 
 QString WindowCaption(const QString& documentTitle, bool modified, const QString& modifiedWord,
                       const QString& programTitle) {
-  QString caption = documentTitle;
+  QString caption = documentTitle + QStringLiteral(" - ") + programTitle;
   if (modified) caption += QStringLiteral(" [") + modifiedWord + QStringLiteral("]");
-  caption += QStringLiteral(" - ") + programTitle;
   // "[*]" is a mark of the window system; doubled, it stands for itself.
   return caption.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }

@@ -5,7 +5,7 @@
 
 namespace kev {
 
-// "NAME [Modified] - Program", in the form that QWidget::setWindowTitle takes.
+// "NAME - Program [Modified]", in the form that QWidget::setWindowTitle takes.
 QString WindowCaption(const QString& documentTitle, bool modified, const QString& modifiedWord,
                       const QString& programTitle);
 

@@ -58,9 +58,9 @@ void CountClick(PageWork& work) {
   PointerState& pointer = work.pointer;
   if (pointer.FirstClick) {
     pointer.FirstClick = false;
-    // The time of a document that is gone says nothing about the next one, which has had no click yet.
+    pointer.AllowPending = true;
     work.services.StartAllowTimer(kAllowMilliseconds, [&pointer] {
-      if (!pointer.FirstClick) pointer.BandAllowed = true;
+      if (std::exchange(pointer.AllowPending, false)) pointer.BandAllowed = true;
     });
   }
   ObjectTable& objects = work.document.Objects;

@@ -66,16 +66,8 @@ std::string CommonText(const PageWork& work, const std::vector<int>& rows, const
 
 using Change = std::function<void(ObjectRecord&)>;
 
-bool WouldChange(const PageWork& work, const std::vector<int>& rows, const Change& change) {
-  return std::any_of(rows.begin(), rows.end(), [&](int row) {
-    ObjectRecord changed = RecordAt(work, row);
-    change(changed);
-    return changed != RecordAt(work, row);
-  });
-}
-
 bool ChangeRows(PageWork& work, const std::vector<int>& rows, const Change& change) {
-  if (!WouldChange(work, rows, change)) return false;
+  if (rows.empty()) return false;
   work.services.PushUndo();
   HideHandles(work);
   for (const int row : rows)

@@ -129,8 +129,8 @@ PlaceSelection OpenedPlaceSelection(const PageWork& work) {
 }
 
 bool AcceptPlaceSelection(PageWork& work, const PlaceSelection& dialog) {
+  if (NumericPrefix(dialog.YPosition) < 0) return false;
   const std::int32_t y = Int32Of(dialog.YPosition);
-  if (y < 0) return false;
   const Document& document = work.document;
   const std::string_view position = PositionIn(dialog);
   if (!MayBePosition(position, document)) {

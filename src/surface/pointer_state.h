@@ -63,6 +63,7 @@ struct PointerState {
 
   // A rubber band may start: not before a second after the first click in a document.
   bool BandAllowed = false;
+  bool AllowPending = false;  // the time of this document runs; that of one that is gone allows nothing
   bool FirstClick = true;  // the next click is the document's first
   // The insertion that waits for a click; empty when there is none.
   std::string PendingTool;

@@ -134,7 +134,7 @@ class Item {
   void SetQr();
   void NoteNumbers(const NewObject& object);
   void Create(const NewObject& object);
-  void BeginShape(NewObject& object, ObjectKind kind);
+  void Begin(NewObject& object, ObjectKind kind);
 
   // The n-th value between commas.
   std::string_view Part(std::size_t n) const {
@@ -304,13 +304,14 @@ void Item::ApplyCreation(const DirectiveRow& row) {
       object.text = kPageBreak;
       break;
     case Action::TextBox:
-      BeginShape(object, ObjectKind::TextBox);
+      Begin(object, ObjectKind::TextBox);
       object.widthOrEndX = Part(3);
       object.payload = Part(4);
       object.text = Part(5);
       break;
     case Action::Box:
-      BeginShape(object, ObjectKind::Box);
+      Begin(object, ObjectKind::Box);
+      object.y = Part(2);
       object.filled = row.number == 1;
       object.widthOrEndX = Part(3);
       object.height = Part(4);
@@ -325,7 +326,7 @@ void Item::ApplyCreation(const DirectiveRow& row) {
       object.link = Part(6);
       break;
     case Action::Circle:
-      BeginShape(object, ObjectKind::Circle);
+      Begin(object, ObjectKind::Circle);
       object.widthOrEndX = Part(3);
       break;
     case Action::Line:
@@ -335,13 +336,14 @@ void Item::ApplyCreation(const DirectiveRow& row) {
       object.extra = Trim(Part(3));
       break;
     case Action::AnyLine:
-      BeginShape(object, ObjectKind::AnyLine);
+      Begin(object, ObjectKind::AnyLine);
       object.widthOrEndX = Part(3);
       object.height = Part(4);
       object.extra = Trim(Part(5));
       break;
     default:
-      BeginShape(object, ObjectKind::Chart);
+      Begin(object, ObjectKind::Chart);
+      object.y = Part(2);
       object.widthOrEndX = state_.chart.Width;
       object.height = state_.chart.Height;
       object.chartValues = state_.chart.Values;
@@ -350,11 +352,10 @@ void Item::ApplyCreation(const DirectiveRow& row) {
   Create(object);
 }
 
-// The two first values of most directives are the position.
-void Item::BeginShape(NewObject& object, ObjectKind kind) {
+// The first value of most directives is X. The second is Y for a few of them; the others stand at the cursor.
+void Item::Begin(NewObject& object, ObjectKind kind) {
   object.kind = kind;
   object.xValue = Part(1);
-  object.y = Part(2);
 }
 
 void Item::NoteNumbers(const NewObject& object) {

@@ -70,6 +70,7 @@ class CountingView final : public DesignerView {
   int Welcomes = 0;
   std::function<void(WelcomeRun&)> OnWelcome;
   std::function<void(DocumentPropertiesRun&)> OnDocumentProperties;
+  int Assistants = 0;
 
   void ShowRecentFiles(const std::vector<std::string>& captions) override { RecentCaptions = captions; }
   std::string PaintThumbnail(const ThumbnailLook& look) override {
@@ -80,6 +81,7 @@ class CountingView final : public DesignerView {
     ++Welcomes;
     if (OnWelcome) OnWelcome(run);
   }
+  void OpenNewTemplate(NewTemplateRun&) override { ++Assistants; }
   void OpenDocumentProperties(DocumentPropertiesRun& run) override {
     if (OnDocumentProperties) OnDocumentProperties(run);
   }

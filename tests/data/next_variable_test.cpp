@@ -47,10 +47,23 @@ TEST(SampleForms, GoByTheEndingInAnyCase) {
   EXPECT_EQ(SampleFormOf(""), SampleForm::None);
 }
 
-TEST(VariablesOfAFile, AreTheTrimmedNamesBeforeTheSign) {
-  EXPECT_EQ(VariablesIn("TEMPLATE=a.kev\r\n@one=1\r\n  @two = 2=3\r\n\r\n>page\n@three\nfour=4\n@last=5"),
-            (Names{"@one", "@two", "@three", "@last"}));
-  EXPECT_EQ(VariablesIn(""), Names{});
+TEST_F(NextVariables, OfAFileAreTheTrimmedNamesBeforeTheSign) {
+  const std::string path = Written(
+      "a.ked", "TEMPLATE=a.kev\r\n@one=1\r\n  @two = 2=3\r\n\r\n>page\n@three\nfour=4\n@last=5");
+  for (const char* name : {"@one", "@two", "@three", "@last"}) {
+    EXPECT_EQ(Next(path), name);
+    Label(name);
+  }
+  EXPECT_EQ(Next(path), std::nullopt);
+  EXPECT_EQ(Next(Written("empty.ked", "")), std::nullopt);
+}
+
+TEST_F(NextVariables, AFileOfAnySizeIsReadAsFarAsItIsNeeded) {
+  const std::string path = Written("large.ked", "@one=1\n@two=2\n" + std::string(65 << 20, '\n'));
+  Label("@one");
+  const NextVariable next = FindNextVariable(document_, bar_, path);
+  EXPECT_EQ(next.Name, "@two");
+  EXPECT_FALSE(next.FileMissing);
 }
 
 TEST_F(NextVariables, TheFirstOfTheFileComesFirst) {

@@ -360,7 +360,7 @@ TEST_F(KavEdit01Test, SaveAsWritesUnderTheNewNameAndGoesOnWithIt) {
 TEST_F(KavEdit01Test, AChangeShowsInTheCaptionAndSavingTakesItAway) {
   Start({home.CopyOf("letter.kev")});
   designer->MarkModified();
-  EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev [Modified] - Kev Visual Editor"));
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev - Kev Visual Editor [Modified]"));
   Trigger("savemen");
   EXPECT_EQ(window->windowTitle(), QStringLiteral("letter.kev - Kev Visual Editor"));
 }
@@ -607,7 +607,7 @@ TEST_F(KavEdit01Test, ADropAsksToSaveFirst) {
   const BoxAnswers answers(QMessageBox::Cancel);
   Drop(*window, home.CopyOf("letter.kev"));
   EXPECT_EQ(answers.texts.size(), 1);
-  EXPECT_EQ(window->windowTitle(), QStringLiteral("Noname.kev [Modified] - Kev Visual Editor"));
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Noname.kev - Kev Visual Editor [Modified]"));
 }
 
 TEST_F(KavEdit01Test, ADroppedDataFileOpensTheAssistant) {

@@ -20,7 +20,7 @@ TEST(WindowCaption, NamesTheDocumentAndTheProgram) {
 
 TEST(WindowCaption, TellsUnsavedChangesBehindTheName) {
   EXPECT_EQ(Caption(QStringLiteral("Noname.kev"), true),
-            QStringLiteral("Noname.kev [Modified] - Kev Visual Editor"));
+            QStringLiteral("Noname.kev - Kev Visual Editor [Modified]"));
 }
 
 TEST(WindowCaption, ANameWithTheWindowSystemsMarkIsShownAsItIs) {

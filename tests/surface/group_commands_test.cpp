@@ -183,6 +183,7 @@ TEST_F(GroupCommands, ANegativeYDoesNothingAndTheDialogStays) {
   const int a = AddText("1000", 1000, "A");
   SelectGroup({a});
   EXPECT_FALSE(Place("500", "-1"));
+  EXPECT_FALSE(Place("500", "-0.4"));
   EXPECT_TRUE(services.Calls.empty());
   EXPECT_EQ(X(a), "1000");
 }

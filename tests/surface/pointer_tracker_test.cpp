@@ -44,6 +44,16 @@ TEST_F(ClickTest, FirstClickStartsTheWaitForTheRubberBand) {
   EXPECT_TRUE(Pointer().BandAllowed);
 }
 
+TEST_F(ClickTest, SelectingAllWithinTheWaitDoesNotEndIt) {
+  Pointer().FirstClick = true;
+  Pointer().BandAllowed = false;
+  Click(5000, 5000);
+  PageWork work = page_.Work();
+  SelectAll(work);
+  page_.AllowTimer();
+  EXPECT_TRUE(Pointer().BandAllowed);
+}
+
 TEST_F(ClickTest, TimeOfADocumentThatIsGoneAllowsNothing) {
   Pointer().FirstClick = true;
   Click(5000, 5000);

@@ -293,6 +293,17 @@ TEST(Directives, CreateBoxes) {
   EXPECT_EQ(boxes[1]->Filled, -1);
 }
 
+TEST(Directives, OfTextBoxesCirclesSlantedLinesAndQrCodesStandAtTheCursor) {
+  const ReadOutcome outcome = ReadLayout({"{Spacing=400;\\n}", "{Circ=5,99,300}", "{AnyLine=5,99,300,20}",
+                                          "{TextBox=5,99,300,,x}", "{QrCode=5,99,300}q{nobar}", "{Box=5,99,1,1}"});
+  for (const ObjectKind kind : {ObjectKind::Circle, ObjectKind::AnyLine, ObjectKind::TextBox, ObjectKind::Qr}) {
+    const auto rows = RowsOfKind(outcome.Read, kind);
+    ASSERT_EQ(rows.size(), 1U) << static_cast<int>(kind);
+    EXPECT_EQ(rows[0]->Y, 400) << static_cast<int>(kind);
+  }
+  EXPECT_EQ(RowsOfKind(outcome.Read, ObjectKind::Box).at(0)->Y, 99);
+}
+
 TEST(Directives, CreateLinesCirclesAndCharts) {
   const ReadOutcome outcome =
       ReadLayout({"{Line=100,500,1}", "{AnyLine=5,,-70,80,1}", "{Circ=9,,600}",

@@ -4,6 +4,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 
+#include "platform/forms/line_redo_key.h"
 #include "platform/text_bridge.h"
 
 namespace kev {
@@ -24,6 +25,7 @@ FieldScreen::FieldScreen(PageCanvas& canvas, FontCache& fonts)
   setObjectName(QStringLiteral("FieldScreen"));
   setFrame(false);
   setTextMargins(0, 0, 0, 0);
+  TakeRedoKey(*this, *this);
   hide();
 }
 

@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "base/text_numbers.h"
+#include "platform/forms/line_redo_key.h"
 #include "platform/page_canvas.h"
 #include "platform/text_bridge.h"
 #include "surface/object_area.h"
@@ -147,6 +148,7 @@ QFrame* QuickPanelForm::BuildLabelPage() {
   grid->setVerticalSpacing(4);
   value_ = new QLineEdit(page);
   value_->setObjectName(QStringLiteral("Label_Value"));
+  TakeRedoKey(*value_, *value_);
   value_->setAccessibleName(ToQString(designer_.Text(kTextQuickContent)));
   grid->addWidget(value_, 0, 0, 1, 2);
   labelPage_ = page;

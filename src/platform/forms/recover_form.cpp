@@ -45,7 +45,10 @@ constexpr const char* kSheet = R"(
 )";
 
 QString LastChange(const std::string& path) {
-  return QLocale().toString(QFileInfo(FromNative(path)).lastModified(), QLocale::ShortFormat);
+  const QDateTime changed = QFileInfo(FromNative(path)).lastModified();
+  // Two runs on one template may have ended within a minute.
+  return QLocale().toString(changed.date(), QLocale::ShortFormat) + QLatin1Char(' ') +
+         changed.toString(QStringLiteral("HH:mm:ss"));
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "base/text_numbers.h"
+#include "platform/forms/line_redo_key.h"
 #include "platform/text_bridge.h"
 
 namespace kev {
@@ -97,6 +98,7 @@ Combosize::Combosize(const QString& accessibleName, QWidget* parent) : QComboBox
   ShowSize({});
   setEnabled(false);
   lineEdit()->setAccessibleName(accessibleName);
+  TakeRedoKey(*this, *lineEdit());
   connect(lineEdit(), &QLineEdit::editingFinished, this, &Combosize::Offer);
   connect(this, &QComboBox::textActivated, this, &Combosize::Offer);
 }

@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 
 #include "app/designer.h"
+#include "platform/forms/line_redo_key.h"
 #include "platform/text_bridge.h"
 
 namespace kev {
@@ -20,6 +21,7 @@ ZoomBox::ZoomBox(QWidget* parent) : QComboBox(parent) {
   for (const std::string_view entry : kZoomList)
     addItem(ToQString(entry));
   setMinimumContentsLength(6);
+  TakeRedoKey(*this, *lineEdit());
   connect(lineEdit(), &QLineEdit::editingFinished, this, &ZoomBox::Offer);
   connect(this, &QComboBox::textActivated, this, &ZoomBox::Offer);
 }
