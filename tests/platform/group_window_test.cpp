@@ -432,7 +432,7 @@ TEST_F(GroupWindowTest, TheButtonsToggleAndStayDownAsTheTextIs) {
   EXPECT_FALSE(Button("ImgButton13").isChecked());
   Click(Button("ImgButton15"));
   EXPECT_TRUE(Button("ImgButton15").isChecked()) << "an alignment is not taken off";
-  EXPECT_EQ(Level(), 3);
+  EXPECT_EQ(Level(), 4);
 }
 
 TEST_F(GroupWindowTest, TheColourIsChosenInADialog) {

@@ -16,7 +16,7 @@ constexpr const char* kFirst =
     "{Graph_Type=PIE}\r\n{Buildgraph=1,900}\r\n[DATA]\r\n [ITEMS:@Name]\r\n{100}@Name{}\r\n{\\n}\r\n";
 constexpr const char* kSecond =
     "Report_Title=Bar\r\nPrint_Allowed=N\r\n$Col_01=2500\r\n$Col_03=7000\r\nKEXVER=4\r\n[HEADER]\r\n{\\n}\r\n"
-    "{b=y}\r\n{$Col_01 + 10;}Total{}\r\n{b=n}\r\n{Circ=7000,0,300}\r\n{100}Caf\xE9{}\r\n"
+    "{b=y}\r\n{$Col_01 + 10;}Total{}\r\n{b=n}\r\n{Circ=7000,,300}\r\n{100}Caf\xE9{}\r\n"
     "{Graph_Type=3D}\r\n{Buildgraph=1,900}\r\n[DATA]\r\n [ITEMS:@Name,@Price]\r\n{100}@Name{}\r\n{\\n}\r\n";
 
 class KevtoolDiff : public testing::Test {
