@@ -145,8 +145,7 @@ void RowFiller::Subsection() {
   record_.SectionTitle = isBase ? object_.sectionName : object_.sectionName + " " + line;
   record_.SectionName = SectionNameOf(line, page);
   record_.StartY = kCurrentYValue;
-  record_.Content = isBase ? "Section: " + object_.sectionName
-                           : record_.SectionTitle + " [Starts in position: " + record_.StartY + "]";
+  record_.Content = ContentOfBar(record_);
   record_.ColorR = record_.ColorG = record_.ColorB = 200;
   record_.FontName = "Arial";
   record_.FontSize = 8;
@@ -375,6 +374,13 @@ void FitPicture(ObjectRecord& record, const TextExtent& own) {
 std::string SectionNameOf(std::string_view headLine, const CodePage& page) {
   const std::string_view name = NthToken(Trim(headLine), 1, ':');
   return page.Upper(name.empty() ? name : name.substr(1));
+}
+
+std::string ContentOfBar(const ObjectRecord& bar) {
+  // Behind a blank stands the head line, which the bar of a section lacks.
+  const bool isBase = bar.SectionTitle.find(kBlank) == std::string::npos;
+  return isBase ? "Section: " + bar.SectionTitle
+                : bar.SectionTitle + " [Starts in position: " + bar.StartY + "]";
 }
 
 }  // namespace kev

@@ -89,4 +89,8 @@ std::string_view SampleForKind(int symbology);
 // "[ITEMS:1]" gives "ITEMS", "[ITEMS]" gives "ITEMS]": the name that joins objects with their subsection.
 std::string SectionNameOf(std::string_view headLine, const CodePage& page);
 
+// What a bar says of itself: the bar of a section its name, any other its title and where it starts. To be
+// stored anew whenever one of these changes.
+std::string ContentOfBar(const ObjectRecord& bar);
+
 }  // namespace kev

@@ -14,11 +14,6 @@
 namespace kev {
 namespace {
 
-void ShowTitle(ObjectRecord& bar, const CodePage& page) {
-  bar.Content = IsBaseBar(bar, page) ? "Section: " + bar.SectionTitle
-                                     : bar.SectionTitle + " [Starts in position: " + bar.StartY + "]";
-}
-
 // Right below the last band of the section, above the bar that follows; laying out makes room.
 std::int32_t PlaceOfNew(const Document& document, BaseSection section) {
   std::int64_t inSection = -1;
@@ -54,7 +49,7 @@ int MakeRows(PageWork& work, const SubsectionDialog& dialog) {
   AddObject(context, end);
   ObjectRecord& record = document.Objects[bar];
   record.StartY = StartOf(dialog);
-  ShowTitle(record, *document.Page);
+  record.Content = ContentOfBar(record);
   return bar;
 }
 
@@ -91,7 +86,7 @@ void ChangeRows(Document& document, const SubsectionDialog& dialog) {
   if (HeadChanges(dialog)) Rename(document, dialog.Row, HeadOf(dialog));
   ObjectRecord& bar = document.Objects[dialog.Row];
   if (StartChanges(dialog)) bar.StartY = StartOf(dialog);
-  ShowTitle(bar, *document.Page);
+  bar.Content = ContentOfBar(bar);
 }
 
 }  // namespace

@@ -389,7 +389,9 @@ void Item::ApplyUnknown() {
 void Item::MoveToTop(std::string start) {
   if (!cursor().SubsectionStarted && cursor().OpenSubsection != 0) {
     start.resize(std::min(start.size(), kStartYLength));
-    state_.document.Objects[cursor().OpenSubsection].StartY = start;
+    ObjectRecord& bar = state_.document.Objects[cursor().OpenSubsection];
+    bar.StartY = std::move(start);
+    bar.Content = ContentOfBar(bar);
   }
   cursor().SubsectionStarted = true;
   cursor().SurfaceY = Fit32(std::int64_t{cursor().SurfaceY} - cursor().CursorY);

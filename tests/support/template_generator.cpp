@@ -353,7 +353,11 @@ Document TemplateGenerator::SaneDocument() {
       bar.sectionName = section;
       bar.title = n == 0 ? std::string(section) : "[Sub " + std::to_string(++names_) + Of({"]", ":a]"});
       const int barRow = AddObject(context, bar);
-      if (Chance(20)) document.Objects[barRow].StartY = "700";
+      if (Chance(20)) {
+        ObjectRecord& record = document.Objects[barRow];
+        record.StartY = "700";
+        record.Content = ContentOfBar(record);
+      }
       if (Chance(20)) document.Objects[barRow].HeightGiven = kTrue;
       int pageBreakY = -1;
       for (int objects = Below(8); objects > 0; --objects) {

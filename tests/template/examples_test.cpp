@@ -34,6 +34,7 @@ constexpr Loss kLosses[] = {
     {"", ObjectKind::TextBox, "ValueType", "is written for labels only"},
     {"", ObjectKind::Qr, "BarWidth", "is written for bar codes only"},
     {"inspection_form.kev", ObjectKind::Subsection, "StartY", "a start of 0 is written as 1"},
+    {"inspection_form.kev", ObjectKind::Subsection, "Content", "names the start"},
 };
 
 bool IsLost(const std::string& example, ObjectKind kind, std::string_view field) {
