@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "base/holds_number.h"
 #include "base/numbers.h"
 
 namespace kev {
@@ -12,9 +13,7 @@ namespace kev {
 // The number at the start of a value; nothing where it is empty or begins with something else, so that a
 // default can take its place.
 inline std::optional<double> NumberIn(std::string_view value) {
-  const std::size_t at = value.find_first_not_of(" +-.");
-  if (at == std::string_view::npos || value[at] < '0' || value[at] > '9') return std::nullopt;
-  return NumericPrefix(value);
+  return HoldsNumber(value) ? std::optional(NumericPrefix(value)) : std::nullopt;
 }
 
 }  // namespace kev

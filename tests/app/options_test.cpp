@@ -68,6 +68,9 @@ TEST_F(OptionsFile, WhatWasWrittenComesBack) {
 
 TEST(Options, EmptyOrNoNumberGivesTheDefaultAndAWrittenZeroStands) {
   EXPECT_EQ(ReadOptions("PROPLEFT=\nPROPTOP=abc\nPROPWIDTH=-\n"), DesignerOptions());
+  EXPECT_EQ(ReadOptions("PROPLEFT=--5\nPROPTOP=..5\nPROPWIDTH=+-5\nPROPHEIGHT=.-5\n"), DesignerOptions());
+  EXPECT_EQ(ReadOptions("PROPLEFT= -5.4\nPROPTOP=+.6\n").PropLeft, -5);
+  EXPECT_EQ(ReadOptions("PROPLEFT= -5.4\nPROPTOP=+.6\n").PropTop, 1);
   const DesignerOptions zeros = ReadOptions(
       "SHOWWELCOME=0\nPROPFIX=0\nPROPLEFT=0\nPROPTOP=0\nPROPHEIGHT=0\nPROPWIDTH=0\nPROPFIXWIDTH=0\n"
       "LAST_FONTSIZE=0\nSHOWQUICKPROPS=0\nQUICKPROPSX=0\n");
