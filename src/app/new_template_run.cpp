@@ -189,10 +189,9 @@ bool NewTemplateRun::MakeVariables(const MadeTemplate& made, const std::string& 
 
 bool NewTemplateRun::WriteAndOpen(const std::string& text) const {
   const std::string path = JoinPath(designer_.Folders().TempFolder, kSkeletonFile);
-  if (const std::optional<FileFailure> failure = WriteWholeFile(path, text)) {
+  // The document is made from the same text in memory, so that it needs no folder.
+  if (const std::optional<FileFailure> failure = WriteWholeFile(path, text))
     Tell({.Text = kTextWriteFailed, .Path = failure->path, .Reason = failure->reason});
-    return false;
-  }
   if (!designer_.OpenFresh(text)) return false;
   designer_.AddFindings(NamesWithColon(designer_.OpenDocument(), state_.Survey->Types));
   return true;

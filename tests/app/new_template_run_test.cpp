@@ -92,16 +92,19 @@ TEST_F(NewTemplateRunTest, AsksForUnsavedChangesFirst) {
   EXPECT_FALSE(designer->Modified());
 }
 
-TEST_F(NewTemplateRunTest, KeepsTheOpenDocumentWhereTheTemplateCannotBeWritten) {
+TEST_F(NewTemplateRunTest, TellsThatTheTemplateCannotBeWrittenAndOpensItFromMemory) {
   Open("data.kex", "TEMPLATE=a\r\n|A|1|\r\n");
   std::filesystem::remove(Temp("noname.kev"));
   std::filesystem::create_directory(Temp("noname.kev"));
   const int replaced = view_.Replaced;
-  EXPECT_FALSE(run->Create());
-  EXPECT_EQ(view_.Replaced, replaced);
+  EXPECT_TRUE(run->Create());
   EXPECT_THAT(Message(), HasSubstr(Text(kTextWriteFailed)));
   EXPECT_EQ(host_.Messages[0].Detail, Temp("noname.kev") + "\r\nIs a directory");
-  EXPECT_TRUE(CanCreate(run->State()));
+  EXPECT_EQ(view_.Replaced, replaced + 1);
+  EXPECT_EQ(designer->DocumentTitle(), "Noname.kev");
+  EXPECT_EQ(designer->DocumentPath(), "");
+  EXPECT_EQ(designer->SampleDataPath(), Work("data.kex"));
+  EXPECT_FALSE(designer->Modified());
 }
 
 TEST_F(NewTemplateRunTest, TellsWhatIsWrongWithALine) {
@@ -143,6 +146,17 @@ TEST_F(NewTemplateRunTest, FileIsCheckedAgainAfterItWasEdited) {
   run->Check();
   EXPECT_TRUE(host_.Messages.empty());
   EXPECT_TRUE(CanCreate(run->State()));
+}
+
+TEST_F(NewTemplateRunTest, FileIsEditedInTheEditorOfTheUser) {
+  WriteBytes(Data("KEV.INI"), "DEFAULT_EDITOR=gedit --wait\r\n");
+  designer = Start();
+  host_.Messages.clear();
+  Open("bad one.kex", "TEMPLATE=a\r\nabc\r\n");
+  run->Edit();
+  ASSERT_EQ(host_.Programs.size(), 1U);
+  EXPECT_EQ(host_.Programs[0].Start.Program, "gedit");
+  EXPECT_EQ(host_.Programs[0].Start.Arguments, (std::vector<std::string>{"--wait", Work("bad one.kex")}));
 }
 
 TEST_F(NewTemplateRunTest, FileIsNoLongerGoodWhenTheTemplateIsMade) {
