@@ -49,6 +49,12 @@ inline constexpr auto kZoomList =
 
 inline constexpr std::string_view kFreshTitle = "Noname.kev";
 
+// How a read is shown that gives a document without a file.
+struct ReadLook {
+  std::string_view Title = kFreshTitle;
+  bool ShowsProgress = true;
+};
+
 // Percent. A zoom outside is refused.
 inline constexpr double kSmallestZoom = 10;
 inline constexpr double kLargestZoom = 800;
@@ -334,8 +340,8 @@ class Designer {
   void RefuseMissing(const std::string& path, OpenedFrom from);
   void TellReadFailure(const std::string& path, const std::string& reason);
   bool Refuse(const std::string& path, std::string_view bytes);
-  // Reads and adopts; an empty path makes a document without a file, under this title.
-  bool ReadAndAdopt(const std::string& path, std::string_view bytes, std::string_view title = kFreshTitle);
+  // Reads and adopts; an empty path makes a document without a file, under the title of the look.
+  bool ReadAndAdopt(const std::string& path, std::string_view bytes, const ReadLook& look = {});
   void Adopt(ReadOutcome outcome, std::string path, std::string title) noexcept;
   void ShowAdopted(FoundInFile found);
   bool SaveTo(const std::string& path);

@@ -49,7 +49,8 @@ bool Designer::OpenFromCache(RecoverDialog& dialog) {
     TellReadFailure(dialog.RecoveredTarget, bytes.Error().reason);
     return false;
   }
-  if (Refuse(dialog.RecoveredTarget, *bytes) || !ReadAndAdopt({}, *bytes, dialog.DocumentTitle)) return false;
+  if (Refuse(dialog.RecoveredTarget, *bytes)) return false;
+  if (!ReadAndAdopt({}, *bytes, {.Title = dialog.DocumentTitle})) return false;
   opened_ = std::move(dialog.Held);
   MarkModified();
   return true;

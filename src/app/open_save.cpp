@@ -142,7 +142,7 @@ bool Designer::Refuse(const std::string& path, std::string_view bytes) {
   return true;
 }
 
-bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std::string_view title) {
+bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, const ReadLook& look) {
   // A picture of the new document may be there before its record is.
   const HeldArrivals held(*this);
   pictures_.SetTemplateFolder(path.empty() ? folders_.TempFolder : FolderOf(path));
@@ -151,12 +151,12 @@ bool Designer::ReadAndAdopt(const std::string& path, std::string_view bytes, std
   // The open document is not touched until the new one is there as a whole, so that nothing is to be kept.
   const auto read = [&] {
     HostProgress progress(host_, texts_);
-    // A fresh document is there at once; what the status line says about another file stays.
-    Result<ReadOutcome> outcome = ReadTemplateBytes(bytes, Services(path.empty() ? nullptr : &progress));
+    Result<ReadOutcome> outcome =
+        ReadTemplateBytes(bytes, Services(look.ShowsProgress ? &progress : nullptr));
     progress.End();
     if (!outcome) return TellReadFailure(path, outcome.Error().reason);
     found = {std::move(outcome->Findings), std::move(outcome->Places), bytes};
-    Adopt(std::move(*outcome), path, path.empty() ? std::string(title) : FileNameOf(path));
+    Adopt(std::move(*outcome), path, path.empty() ? std::string(look.Title) : FileNameOf(path));
     adopted = true;
   };
   GuardedView({kTextReadFailed, path}, read, {});
@@ -193,8 +193,9 @@ void Designer::ShowAdopted(FoundInFile found) {
   surface_.BuildRulers();
 }
 
+// A fresh document is there at once; what the status line says about another file stays.
 bool Designer::OpenFresh(std::string_view bytes) {
-  return ReadAndAdopt({}, bytes);
+  return ReadAndAdopt({}, bytes, {.ShowsProgress = false});
 }
 
 void Designer::NewTemplate() {

@@ -179,6 +179,14 @@ TEST_F(RecoverTest, WithoutAPlaceTheFileOpensFromTheCache) {
   }
 }
 
+TEST_F(RecoverTest, TheReadFromTheCacheShowsHowFarItHasCome) {
+  const auto designer = StartRecovering(1, std::nullopt);
+  EXPECT_EQ(host_.ProgressBegun, 1);
+  EXPECT_EQ(host_.ProgressEnded, 1);
+  EXPECT_TRUE(host_.ProgressTexts.contains(designer->Text(kTextStatusReading)));
+  EXPECT_TRUE(host_.ProgressTexts.contains("4 " + designer->Text(kTextStatusReadingObject) + ": label"));
+}
+
 TEST_F(RecoverTest, APlaceThatCannotBeWrittenIsToldAndTheFileOpensFromTheCache) {
   const auto designer = StartRecovering(0, Work("none/saved.kev"));
   ExpectMessage(*designer, kTextWriteFailed);
