@@ -137,6 +137,11 @@ TEST(Settings, ACustomPaperKeepsItsNumbers) {
   EXPECT_EQ(PrintedValue(settings, PAGEWIDTH), "5000");
   EXPECT_TRUE(SettingIsPrinted(settings, PAGEWIDTH));
   EXPECT_TRUE(SettingIsPrinted(settings, PAGELENGHT));
+  const char* capitals = "PAPERSIZE=(CUSTOM)\nPAGEWIDTH=5000\nPAGELENGHT=6000";
+  EXPECT_EQ(Read(capitals)[PAPERSIZE], "(CUSTOM)");
+  EXPECT_EQ(Printed(capitals, PAPERSIZE), "-");
+  EXPECT_EQ(Printed(capitals, PAGEWIDTH), "5000");
+  EXPECT_EQ(Printed(capitals, PAGELENGHT), "6000");
 }
 
 TEST(Settings, NumbersWithoutANameAreCustom) {

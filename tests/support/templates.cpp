@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "base/text.h"
 #include "document/sections.h"
 
@@ -94,6 +96,33 @@ std::vector<std::string> FilledLines(std::string_view text) {
     if (!Trim(line).empty()) filled.emplace_back(Trim(line));
   }
   return filled;
+}
+
+std::vector<std::string> HeaderBody(const std::string& text) {
+  std::vector<std::string> body;
+  for (const std::string& line : FilledLines(text.substr(text.find("\r\n[HEADER]\r\n") + 2))) {
+    if (line == "[FOOTER]") break;
+    body.push_back(line);
+  }
+  if (!body.empty()) body.erase(body.begin());  // [HEADER]
+  return body;
+}
+
+std::vector<std::string> BodyOf(std::initializer_list<std::string_view> layout, const WriteOptions& options) {
+  return HeaderBody(Rewrite("[HEADER]\r\n" + Lines(layout), options));
+}
+
+std::vector<std::string> BodyAfter(ReadOutcome outcome) {
+  DeriveGeometry(outcome.Read);
+  return HeaderBody(WriteText(outcome.Read));
+}
+
+ObjectRecord& FirstOf(Document& document, ObjectKind kind) {
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+    if (std::as_const(document.Objects)[row].Kind == kind) return document.Objects[row];
+  }
+  ADD_FAILURE() << "no row of kind " << KindText(kind);
+  return document.Objects[0];
 }
 
 std::string FirstDifference(std::string_view actual, std::string_view expected) {

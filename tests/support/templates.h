@@ -35,6 +35,16 @@ std::vector<std::string> LayoutLines(std::string_view text);
 // The lines of a text that are not empty, without their ends and the blanks around them.
 std::vector<std::string> FilledLines(std::string_view text);
 
+// What a saved text says between [HEADER] and [FOOTER]: the lines that are not empty.
+std::vector<std::string> HeaderBody(const std::string& text);
+// The same of a layout that is read and written again, and of a document that was read and then changed.
+std::vector<std::string> BodyOf(std::initializer_list<std::string_view> layout,
+                                const WriteOptions& options = {});
+std::vector<std::string> BodyAfter(ReadOutcome outcome);
+
+// The first row of a kind, to be changed; where there is none the test fails.
+ObjectRecord& FirstOf(Document& document, ObjectKind kind);
+
 // The first line in which two texts differ, in both forms; empty where they are equal.
 std::string FirstDifference(std::string_view actual, std::string_view expected);
 

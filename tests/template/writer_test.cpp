@@ -13,7 +13,11 @@
 namespace kev {
 namespace {
 
+using test::BodyAfter;
+using test::BodyOf;
 using test::FilledLines;
+using test::FirstOf;
+using test::HeaderBody;
 using test::LayoutLines;
 using test::Lines;
 using test::OnlyRow;
@@ -24,38 +28,6 @@ using test::RowsOfKind;
 using test::WriteText;
 using testing::Contains;
 using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsSupersetOf;
-using testing::Not;
-
-// The lines between [HEADER] and [FOOTER] that say something, behind the head line and the DEF block.
-std::vector<std::string> HeaderBody(const std::string& text) {
-  std::vector<std::string> body;
-  for (const std::string& line : FilledLines(text.substr(text.find("\r\n[HEADER]\r\n") + 2))) {
-    if (line == "[FOOTER]") break;
-    body.push_back(line);
-  }
-  if (!body.empty()) body.erase(body.begin());  // [HEADER]
-  return body;
-}
-
-std::vector<std::string> BodyOf(std::initializer_list<std::string_view> layout,
-                                const WriteOptions& options = {}) {
-  return HeaderBody(Rewrite("[HEADER]\r\n" + Lines(layout), options));
-}
-
-std::vector<std::string> BodyAfter(ReadOutcome outcome) {
-  DeriveGeometry(outcome.Read);
-  return HeaderBody(WriteText(outcome.Read));
-}
-
-ObjectRecord& FirstOf(Document& document, ObjectKind kind) {
-  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-    if (document.Objects[row].Kind == kind) return document.Objects[row];
-  }
-  ADD_FAILURE() << "no row of kind " << KindText(kind);
-  return document.Objects[0];
-}
 
 // ---- the whole
 
@@ -136,6 +108,12 @@ TEST(Writer, PrintsHeightAndStartOfASubsection) {
   EXPECT_THAT(BodyOf({"{Top}"}), ElementsAre("{xy=0,1}", "{DEF}"));
 }
 
+TEST(Writer, StartsASubsectionAtOneWhereItsStartIsNoNumber) {
+  ReadOutcome outcome = ReadLayout({"{\\n}"});
+  FirstOf(outcome.Read, ObjectKind::Subsection).StartY = "abc";
+  EXPECT_THAT(BodyAfter(std::move(outcome)), ElementsAre("{xy=0,1}", "{DEF}", "{\\n}"));
+}
+
 TEST(Writer, StepsToTheEndOfASubsectionAndBack) {
   EXPECT_THAT(BodyOf({"{\\n}"}), ElementsAre("{DEF}", "{\\n}"));
   EXPECT_THAT(BodyOf({"{Spacing=900;\\n}"}), ElementsAre("{DEF}", "{Spacing=900;\\n}"));
@@ -152,6 +130,11 @@ TEST(Writer, PutsAnObjectOnTheLastTwipIntoTheBodyThatItEnds) {
 TEST(Writer, WritesNoStepBehindAPageBreakAtTheEnd) {
   EXPECT_THAT(BodyOf({"{Spacing=500;\\n}", "{100;\\np}"}),
               ElementsAre("{DEF}", "{Spacing=500;\\n}", "{100;\\np}"));
+}
+
+TEST(Writer, WritesNoStepOfAnotherHeightBehindAPageBreakAtTheEndEither) {
+  EXPECT_THAT(BodyOf({"{Spacing=500;\\n}", "{300;\\np}", "{W=2}", "{Box=1,,2,3}", "{Spacing=900;\\n}"}),
+              ElementsAre("{DEF}", "{Spacing=500;\\n}", "{MBeu;W=2;Box=1,,2,3}", "{300;\\np}"));
 }
 
 TEST(Writer, RemembersAPageBreakOnlyUntilSomethingElseIsPrinted) {
@@ -190,49 +173,6 @@ TEST(Writer, AssumesNothingThatTheReaderMeetsLater) {
       EXPECT_EQ(label->FontSize, 7);
     }
   }
-}
-
-// ---- head
-
-TEST(Writer, PrintsTheFirstPreambleBlockAheadOfTheKeys) {
-  const auto lines =
-      FilledLines(Rewrite("Report_Title=a\r\n[Configuration]\r\n[Other]\r\nKEXVER=4\r\n[HEADER]\r\n"));
-  EXPECT_THAT(lines, ElementsAre("[Configuration]", "Report_Title=a", "PAPERSIZE=A4", "KEXVER=4", "[HEADER]",
-                                 "{DEF}", "[FOOTER]", "[DATA]"));
-}
-
-TEST(Writer, PrintsColumnsBehindTheSpacing) {
-  const auto lines =
-      FilledLines(Rewrite("$B=0.5\r\n$A=100000\r\nDecimalPoint=,\r\nSpacing=100\r\n[HEADER]\r\n"));
-  EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 6),
-            (std::vector<std::string>{"Report_Title=No title", "Spacing=100", "$B=0.5", "$A=100000",
-                                      "DecimalPoint=,", "PAPERSIZE=A4"}));
-}
-
-TEST(Writer, PutsTheColumnsBehindTheKeysWhereTheyWouldPushOneOutOfSight) {
-  std::string head = "Report_Title=a\r\nDecimalPoint=,\r\nKEXVER=4\r\n";
-  for (int n = 1; n <= 96; ++n)
-    head += "$C" + std::to_string(n) + "=1\r\n";
-  const std::string fits = Rewrite(head + "[HEADER]\r\n");
-  EXPECT_LT(fits.find("$C1="), fits.find("DecimalPoint")) << "a hundred lines with the paper";
-  const std::string tooMany = Rewrite(head + "$C97=1\r\n[HEADER]\r\n");
-  EXPECT_GT(tooMany.find("$C1="), tooMany.find("KEXVER"));
-  const Document read = ReadText(tooMany).Read;
-  EXPECT_EQ(read.Settings[Setting::KEXVER], "4");
-  EXPECT_EQ(read.Columns[97].Name, "$C97");
-}
-
-TEST(Writer, PrintsAnUnknownPaperWithItsNumbers) {
-  EXPECT_THAT(FilledLines(Rewrite("PAPERSIZE=Mine\r\nPAGEWIDTH=1000\r\nPAGELENGHT=0.5\r\n[HEADER]\r\n")),
-              IsSupersetOf({"PAPERSIZE=Mine", "PAGEWIDTH=1000", "PAGELENGHT=0.5"}));
-  const auto custom = FilledLines(Rewrite("PAGEWIDTH=1000\r\nPAGELENGHT=2000\r\n[HEADER]\r\n"));
-  EXPECT_THAT(custom, IsSupersetOf({"PAGEWIDTH=1000", "PAGELENGHT=2000"}));
-  EXPECT_THAT(custom, Not(Contains(HasSubstr("PAPERSIZE"))));
-}
-
-TEST(Writer, PrintsNumbersInFull) {
-  EXPECT_THAT(FilledLines(Rewrite("LM=.5\r\nTM=1e5\r\nMAXY=.25\r\n$A=1e6\r\n[HEADER]\r\n")),
-              IsSupersetOf({"LM=0.5", "TM=100000", "MAXY=0.25", "$A=1000000"}));
 }
 
 // ---- the first label
@@ -367,75 +307,6 @@ TEST(Writer, TellsOnceOfEachSymbologyWithoutAWord) {
   EXPECT_THAT(FilledLines(text), Contains("{10;BarHeight=5}a{NoBar}"));
 }
 
-// ---- labels
-
-TEST(Writer, PrintsOnlyTheAttributesOfALabelThatDiffer) {
-  EXPECT_THAT(BodyOf({"{DEF}", "{10;}A{}", "{10;}B{}", "{b=y;u=y;i=y;a=r;cs=2;s=9}", "{10;}C{}",
-                      "{b=n;u=n;i=n;a=l;NoPrint}", "{10;}D{}"}),
-              ElementsAre("{DEF}", "{F=Arial;S=10;C=0,0,0}", "{10} A{}", "{10} B{}",
-                          "{cs=2;s=9;b=y;u=y;i=y;a=R}", "{10} C{}", "{b=n;u=n;i=n;NoPrint;a=L}", "{10} D{}"));
-}
-
-TEST(Writer, PrintsTheCaseOfALabel) {
-  EXPECT_THAT(BodyOf({"{DEF;Upper=Y}", "{1}A{}", "{Lower=Y}", "{1}B{}", "{FirstUp=Y}", "{1}C{}",
-                      "{FirstUp=N}", "{1}D{}"}),
-              ElementsAre("{DEF}", "{F=Arial;S=10;C=0,0,0}", "{Upper=Y}", "{1} A{}", "{Lower=Y}", "{1} B{}",
-                          "{FirstUp=Y}", "{1} C{}", "{Upper=N;Lower=N;FirstUp=N}", "{1} D{}"));
-}
-
-TEST(Writer, PrintsWhatBelongsToThePositionOfALabel) {
-  EXPECT_THAT(
-      BodyOf({"{DEF}", "{10;Link=a=b;Num;Format=0.00;Stretch= 500 }A{}", "{10;Text}B{}", "{20;Format=}C{}"}),
-      ElementsAre("{DEF}", "{F=Arial;S=10;C=0,0,0}", "{10;Link=a=b;Num;Format=0.00;Stretch=500} A{}",
-                  "{10;Text} B{}", "{20;Format=} C{}"));
-}
-
-TEST(Writer, PrintsStrikethroughOfALabelThoughTheReaderPassesOverIt) {
-  ReadOutcome outcome = ReadLayout({"{DEF}", "{10;}A{}"});
-  FirstOf(outcome.Read, ObjectKind::Label).Strikethrough = kTrue;
-  EXPECT_THAT(BodyAfter(std::move(outcome)),
-              ElementsAre("{DEF}", "{F=Arial;S=10;C=0,0,0}", "{st=y}", "{10} A{}"));
-}
-
-TEST(Writer, MakesACleanStartBehindALabelWithAnOpenCharacter) {
-  EXPECT_THAT(BodyOf({"{DEF;b=y}", "{10;}a {b} c{}", "{10;}D{}"}),
-              ElementsAre("{DEF}", "{F=Arial;S=10;C=0,0,0}", "{b=y}", "{10} a {b} c{}", "{DEF}", "{b=y}",
-                          "{10} D{}"));
-  const std::string text = Rewrite("[HEADER]\r\n{10;}a {b} c{}\r\n");
-  EXPECT_THAT(text, HasSubstr("  {10} a {b} c{}\r\n  {DEF}\r\n[FOOTER]"));
-}
-
-// ---- zero
-
-// The reader takes no zero behind another position.
-TEST(Writer, PrintsAZeroThatTheReaderTakes) {
-  EXPECT_THAT(
-      BodyOf({"{DEF}", "{0;}A{}", "{10;}B{}", "{0.001;}C{}", "{10;}D{}"}),
-      ElementsAre("{DEF}", "{F=Arial;S=10;C=0,0,0}", "{0} A{}", "{0.001} C{}", "{10} B{}", "{10} D{}"));
-  ReadOutcome outcome =
-      ReadLayout({"{DEF}", "{10;}A{}", "{\\n}", "{20;BarHeight=5;Bar}B{NoBar}", "{\\n}", "{30;\\np}"});
-  for (const ObjectKind kind : {ObjectKind::Label, ObjectKind::Barcode, ObjectKind::Command})
-    FirstOf(outcome.Read, kind).XValue = "0";
-  EXPECT_THAT(BodyAfter(std::move(outcome)),
-              ElementsAre("{DEF}", "{F=Arial;S=10;C=0,0,0}", "{0} A{}", "{\\n}",
-                          "{0;BarHeight=5;Bar}B{NoBar}", "{\\n}", "{0;\\np}"))
-      << "as long as the reader stands at 0, a 0 keeps it there";
-}
-
-TEST(Writer, PrintsAlmostZeroWhereTheReaderWouldKeepAnotherPosition) {
-  ReadOutcome outcome = ReadLayout({"{DEF}", "{10;}A{}", "{\\n}", "{20;}B{}", "{\\n}",
-                                    "{20;BarHeight=5;Bar}C{NoBar}", "{\\n}", "{30;\\np}"});
-  int labels = 0;
-  for (int row = 1; row <= 50; ++row) {
-    ObjectRecord& record = outcome.Read.Objects[row];
-    if (record.Kind == ObjectKind::Label && ++labels == 2) record.XValue = "0";
-    if (record.Kind == ObjectKind::Barcode || record.Kind == ObjectKind::Command) record.XValue = "0.0";
-  }
-  EXPECT_THAT(BodyAfter(std::move(outcome)),
-              ElementsAre("{DEF}", "{F=Arial;S=10;C=0,0,0}", "{10} A{}", "{\\n}", "{0.001} B{}", "{\\n}",
-                          "{0.001;BarHeight=5;Bar}C{NoBar}", "{\\n}", "{0.001;\\np}"));
-}
-
 // ---- own delimiters
 
 TEST(Writer, KeepsItsBlocksCommandsBesideOwnDelimiters) {
@@ -445,34 +316,6 @@ TEST(Writer, KeepsItsBlocksCommandsBesideOwnDelimiters) {
   EXPECT_THAT(HeaderBody(text), ElementsAre("<DEF;0>", "<F=Arial;S=10;C=0,0,0;0>", "<\\n;0>", "<b=y;0>",
                                             "<10> a {b}<0>", "<10;BarHeight=5;Bar>1<NoBar;0>"));
   EXPECT_EQ(HeaderBody(Rewrite(text)), HeaderBody(text));
-}
-
-// ---- comments
-
-TEST(Writer, CommentsEachStepWhereItIsAsked) {
-  EXPECT_THAT(
-      BodyOf({"{W=2;NMBeu}", "{\\n;Box=1,,2,3}", "{Spacing=50;\\n;Line=1,2}", "{\\n;5}A {{}", "{\\n;Pic=a,1}",
-              "{\\n;TextBox=1}", "{\\n;QrCode=1,,9}q{nobar}", "{\\n;Circ=1,,2}", "{\\n;AnyLine=1}",
-              "{\\n;5;\\np}", "{\\n;Buildgraph=1}", "{\\n;5;Bar}b{nobar}", "{Spacing=70;\\n}"},
-             {true}),
-      testing::AllOf(IsSupersetOf({"{DEF}", "{Rem=All Default Values 18}", "{\\n} {rem=modulo011}",
-                                   "{Spacing=50;\\n} {rem=modulo008}", "{\\n} {rem=modulo015}",
-                                   "{\\n} {rem=modulo001}", "{\\n} {rem=modulo101}", "{\\n} {rem=modulo003}",
-                                   "{\\n} {rem=modulo009}", "{\\n} {rem=modulo013}", "{\\n} {rem=modulo025}",
-                                   "{\\n} {rem=modulo005}", "{Spacing=70;\\n} {Rem=EndOfSubsection 19}"})));
-}
-
-TEST(Writer, CommentsTheEndsOfSubsectionsAndTheCleanStart) {
-  EXPECT_THAT(
-      BodyOf({"{5;}a {b} c{}", "{\\n}", "{Spacing=100;\\P}"}, {true}),
-      ElementsAre("{DEF}", "{Rem=All Default Values 18}", "{F=Arial;S=10;C=0,0,0}", "{MBeu}", "{5} a {b} c{}",
-                  "{DEF} {Rem=All default values 17}", "{\\n} {Rem=EndOfSubsection 20}",
-                  "{Spacing=100;\\P} {Rem=\\P to reach SUBSECTIONENDSAT}"));
-}
-
-TEST(Writer, ReadsItsCommentsBackAsNothing) {
-  const std::string plain = Rewrite("[HEADER]\r\n{\\n}\r\n{5;}a {b} c{}\r\n{Box=1,,2,3}\r\n{\\n}\r\n");
-  EXPECT_EQ(HeaderBody(Rewrite(Rewrite(plain, {true}))), HeaderBody(plain));
 }
 
 // ---- files
