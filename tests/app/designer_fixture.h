@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,8 +16,8 @@
 #include "app/chart_runs.h"
 #include "app/column_runs.h"
 #include "app/designer.h"
-#include "app/group_runs.h"
 #include "app/document_properties.h"
+#include "app/group_runs.h"
 #include "app/recent_files.h"
 #include "app/recover.h"
 #include "app/welcome_run.h"
@@ -194,11 +195,14 @@ class DesignerTest : public testing::Test {
     return designer;
   }
 
-  // One message with this text was shown since the last look.
-  void ExpectMessage(const Designer& designer, int number) {
+  // One message with this text was shown since the last look, under this icon where one is given.
+  void ExpectMessage(const Designer& designer, int number, std::optional<BoxIcon> icon = std::nullopt) {
     ASSERT_EQ(host_.Messages.size(), 1U) << "for text " << number;
     EXPECT_TRUE(host_.Messages[0].Text.starts_with(designer.Text(number))) << host_.Messages[0].Text;
     EXPECT_EQ(host_.Messages[0].Title, designer.Text(kTextProgramTitle));
+    if (icon) {
+      EXPECT_EQ(host_.Messages[0].Icon, *icon) << "for text " << number;
+    }
     host_.Messages.clear();
   }
 

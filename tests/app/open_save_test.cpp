@@ -55,7 +55,7 @@ TEST_F(Opening, AfterARefusalTheOpenDocumentStays) {
                         {Made("headless.kev", "[DATA]"), kTextNoHeader}};
   for (const Case& each : cases) {
     EXPECT_FALSE(designer->OpenTemplate(each.path)) << each.path;
-    ExpectMessage(*designer, each.text);
+    ExpectMessage(*designer, each.text, BoxIcon::Critical);
     EXPECT_EQ(designer->DocumentPath(), file);
     EXPECT_EQ(CountOf(*designer, ObjectKind::Label), 2);
     EXPECT_EQ(host_.Caption, "a.kev");
@@ -253,6 +253,7 @@ TEST_F(Saving, AFailedOrCancelledSaveStopsTheClose) {
   ASSERT_EQ(host_.Messages.size(), 1U);
   EXPECT_EQ(host_.Messages[0].Title, "Kev Visual Editor");
   EXPECT_EQ(host_.Messages[0].Text, designer->Text(kTextSaveChanges) + " ");
+  EXPECT_EQ(host_.Messages[0].Icon, BoxIcon::Question);
   EXPECT_EQ(host_.Messages[0].Detail, "Noname.kev");
   EXPECT_EQ(host_.Messages[0].Buttons, BoxButtons::YesNoCancel);
   host_.Answers = {BoxAnswer::Yes, BoxAnswer::Ok};

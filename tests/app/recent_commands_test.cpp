@@ -147,7 +147,7 @@ TEST_F(Recent, AFileThatHasGoneIsToldAndLeavesTheMenu) {
   ASSERT_TRUE(designer->OpenTemplate(second));
   std::filesystem::remove(first);
   EXPECT_FALSE(designer->OpenRecent(1));
-  ExpectMessage(*designer, kTextFileMissing);
+  ExpectMessage(*designer, kTextFileMissing, BoxIcon::Critical);
   EXPECT_EQ(designer->DocumentPath(), second);
   EXPECT_EQ(view_.RecentCaptions, Paths{"1 " + second});
 }

@@ -92,10 +92,10 @@ TEST_F(StartUp, AMissingFileIsToldInTheStatusLine) {
 
 TEST_F(StartUp, FilesThatAreNoTemplatesAreRefusedWithOneMessage) {
   const auto plain = Start({Made("plain.kev", "Hello\r\n")});
-  ExpectMessage(*plain, kTextNotATemplate);
+  ExpectMessage(*plain, kTextNotATemplate, BoxIcon::Critical);
   EXPECT_EQ(plain->DocumentTitle(), "Noname.kev");
   const auto headless = Start({Made("headless.kev", "[DATA]\r\n[FOOTER]\r\n")});
-  ExpectMessage(*headless, kTextNoHeader);
+  ExpectMessage(*headless, kTextNoHeader, BoxIcon::Critical);
   EXPECT_EQ(headless->DocumentTitle(), "Noname.kev");
 }
 
@@ -148,7 +148,7 @@ TEST_F(StartUp, AFolderIsUnreadable) {
   ASSERT_EQ(host_.Messages.size(), 1U);
   EXPECT_NE(host_.Messages[0].Text.find("\r\nFile: "), std::string::npos);
   EXPECT_TRUE(host_.Messages[0].Detail.starts_with(Work("")));
-  ExpectMessage(*designer, kTextReadFailed);
+  ExpectMessage(*designer, kTextReadFailed, BoxIcon::Critical);
   EXPECT_EQ(designer->DocumentTitle(), "Noname.kev");
 }
 
@@ -243,7 +243,8 @@ TEST_F(StartUp, ProgressRunsToTheLastLineAndIsHidden) {
   EXPECT_EQ(host_.ProgressMaximum, 8);
   EXPECT_EQ(host_.ProgressValue, 8);
   const auto& history = host_.StatusHistory;
-  const auto names = [](const std::string& text) { return text.ends_with("Reading object: label"); };
+  // In front of the kind stands its row: behind the two of the header and the bar of the data.
+  const auto names = [](const std::string& text) { return text == "4 Reading object: label"; };
   EXPECT_TRUE(std::any_of(history.begin(), history.end(), names));
   EXPECT_TRUE(std::any_of(host_.ProgressTexts.begin(), host_.ProgressTexts.end(), names));
 }

@@ -61,7 +61,7 @@ TEST_F(ReportMenu, ALaterRunDeletesTheCopyOfTheOneBefore) {
 TEST_F(ReportMenu, AMissingDataFileIsToldOnce) {
   const auto designer = Open("gone.kex");
   designer->RunTest();
-  ExpectMessage(*designer, kTextTestDataMissing);
+  ExpectMessage(*designer, kTextTestDataMissing, BoxIcon::Warning);
   EXPECT_EQ(host_.Addresses, Texts{Address(Test())});
 }
 
@@ -69,7 +69,7 @@ TEST_F(ReportMenu, AnotherKindOfDataIsToldAndNothingIsCalled) {
   Made("data.csv", "1;2\r\n");
   const auto designer = Open("data.csv");
   designer->RunTest();
-  ExpectMessage(*designer, kTextTestDataKindUnknown);
+  ExpectMessage(*designer, kTextTestDataKindUnknown, BoxIcon::Warning);
   EXPECT_TRUE(host_.Addresses.empty());
   EXPECT_TRUE(FileExists(Test()));
 }
@@ -94,7 +94,7 @@ TEST_F(ReportMenu, ACopyThatCannotBeWrittenIsToldAndTheViewerCalled) {
 TEST_F(ReportMenu, ADocumentOpenedWithoutChecksIsTold) {
   const auto designer = Open("", {"/%%!/"});
   designer->RunTest();
-  ExpectMessage(*designer, kTextOpenedWithoutChecks);
+  ExpectMessage(*designer, kTextOpenedWithoutChecks, BoxIcon::Information);
   EXPECT_EQ(host_.Addresses.size(), 1U);
 }
 
@@ -132,7 +132,7 @@ TEST_F(ReportMenu, TheDataFileOpensInTheUsersEditor) {
   designer.reset();
   designer = Open("");
   designer->ShowDataFile();
-  ExpectMessage(*designer, kTextNoSampleFile);
+  ExpectMessage(*designer, kTextNoSampleFile, BoxIcon::Warning);
 }
 
 }  // namespace

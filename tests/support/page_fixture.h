@@ -7,6 +7,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -39,6 +40,7 @@ class ScriptedPage final : public PageServices {
   std::vector<std::string> Calls;
   int Pushes = 0, Repaints = 0, Selections = 0;
   std::deque<BoxAnswer> Answers;
+  std::optional<BoxIcon> LastIcon;  // of the last box
   std::function<void()> AllowTimer;
   int AllowMilliseconds = 0, TimersStarted = 0;
   std::function<void()> OnPush, OnRepaint;
@@ -93,8 +95,9 @@ class ScriptedPage final : public PageServices {
     text_ = number == kTextObjectsSelected ? "selected" : "text " + std::to_string(number);
     return text_;
   }
-  BoxAnswer ShowBox(int textNumber, BoxIcon, BoxButtons) override {
+  BoxAnswer ShowBox(int textNumber, BoxIcon icon, BoxButtons) override {
     Calls.push_back("box " + std::to_string(textNumber));
+    LastIcon = icon;
     if (Answers.empty()) return BoxAnswer::Ok;
     const BoxAnswer answer = Answers.front();
     Answers.pop_front();

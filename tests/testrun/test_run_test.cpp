@@ -52,6 +52,7 @@ TEST_F(TestRuns, AMissingFileIsToldAndTheTemplateHandedOver) {
     host_.Addresses.clear();
     RunTest(Work(folder_ / name));
     EXPECT_EQ(Boxes(), "box 769") << name;
+    EXPECT_EQ(services_.LastIcon, BoxIcon::Warning) << name;
     EXPECT_EQ(host_.Addresses, Texts{"ViewKevReport:/t/Kev/testreport.kev?/&&!H!~!"}) << name;
   }
 }
@@ -82,6 +83,7 @@ TEST_F(TestRuns, DataOfAnotherKindMakesNoCall) {
   EXPECT_EQ(written_.size(), 1U);
   EXPECT_TRUE(host_.Addresses.empty());
   EXPECT_EQ(Boxes(), "box 1228");
+  EXPECT_EQ(services_.LastIcon, BoxIcon::Warning);
 }
 
 TEST_F(TestRuns, ADocumentOpenedWithoutChecksIsToldBeforeItIsWritten) {
@@ -94,7 +96,23 @@ TEST_F(TestRuns, ADocumentOpenedWithoutChecksIsToldBeforeItIsWritten) {
   };
   RunTest(work);
   EXPECT_TRUE(toldBefore);
+  EXPECT_EQ(services_.LastIcon, BoxIcon::Information);
   EXPECT_EQ(host_.Addresses.size(), 1U);
+}
+
+TEST_F(TestRuns, TheTemplateIsWrittenBeforeItsDataIsLookedFor) {
+  TestRunWork work = Work(folder_ / "made.kex");
+  std::string toldBefore;
+  work.Write = [&](const std::string&) {
+    toldBefore = Boxes();
+    // Comes with the template, as from a program that waits for it.
+    Data("made.kex");
+    return std::string("/t/Kev/Sampledata9530");
+  };
+  RunTest(work);
+  EXPECT_EQ(toldBefore, "");
+  EXPECT_EQ(Boxes(), "");
+  EXPECT_EQ(host_.Addresses, Texts{"ViewKevReport:/t/Kev/Sampledata9530.kex?/&&!H!~!"});
 }
 
 TEST_F(TestRuns, NobodyLooksAtTheResultOfTheCall) {
@@ -127,10 +145,12 @@ TEST_F(TestRuns, ADataFileThatIsNotThereIsTold) {
   EXPECT_EQ(Boxes(), "box 961");
   ShowDataFile(Work(" "));
   EXPECT_EQ(Boxes(), "box 961");
+  EXPECT_EQ(services_.LastIcon, BoxIcon::Warning);
   ShowDataFile(Work(folder_ / "gone.kex"));
   EXPECT_EQ(Boxes(), "box 962");
   ShowDataFile(Work(folder_ / ""));
   EXPECT_EQ(Boxes(), "box 962");
+  EXPECT_EQ(services_.LastIcon, BoxIcon::Critical);
   EXPECT_TRUE(host_.Programs.empty());
 }
 
