@@ -2,7 +2,6 @@
 // Insertion through the designer: commands of the menu, tools that wait, and what a save keeps of it.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
 #include "app/designer_fixture.h"
@@ -198,88 +197,16 @@ TEST_F(Inserted, AClickPutsTheToolsObjectThereAndSelectsIt) {
   EXPECT_EQ(CountOf(*designer_, ObjectKind::Box), 1);
 }
 
-// --- The tool bars
-
-TEST(ToolButtons, StandOnceEachUnderTheirOwnNames) {
-  std::set<std::string_view> names;
-  std::set<std::string_view> images;
-  for (const ToolButtonRow& row : kToolButtons) {
-    EXPECT_TRUE(names.insert(row.name).second) << row.name;
-    EXPECT_TRUE(images.insert(row.image).second) << row.image;
-    EXPECT_FALSE(row.command && !row.tool.empty()) << row.name;
-    EXPECT_TRUE(std::filesystem::exists(std::string(KEV_TEST_DATA_DIR "/../assets/Pbms/") +
-                                        std::string(row.image) + ".prbm"))
-        << row.image;
-  }
-  EXPECT_EQ(names.size(), 26U);
-}
-
-TEST(ToolButtons, AllHaveATooltipButTheOneThatOpens) {
-  for (const ToolButtonRow& row : kToolButtons)
-    EXPECT_EQ(row.tooltip != 0 || !row.fixedTooltip.empty(), row.name != "ImgButton2") << row.name;
-}
-
-struct ExpectedButton {
-  std::string_view name, image;
-  int tooltip;
-  std::string_view fixedTooltip;
-  std::string_view tool;
-  std::optional<Command> command;
-};
-
-constexpr auto kExpectedButtons = std::to_array<ExpectedButton>({
-    {"Imgbutton1", "newICss", 893, "", "", Command::New},
-    {"ImgButton2", "openICss", 0, "", "", Command::Open},
-    {"ImgButton3", "saveicss", 895, "", "", Command::Save},
-    {"ImgButton4", "runicss", 889, "", "", {}},
-    {"ImgButton5", "propics", 888, "", "", Command::Properties},
-    {"ImgButton6", "labelICs", 896, "", "LABEL", {}},
-    {"ImgButton7", "imageICs", 897, "", "PICTURE", {}},
-    {"ImgButton8", "boxICs", 899, "", "BOX", {}},
-    {"ImgButton9", "barcodeics", 900, "", "BARCODE", {}},
-    {"ImgButton25", "qrics", 900, "", "QR", {}},
-    {"ImgButton10", "boldicss", 901, "", "", {}},
-    {"ImgButton11", "italicicss", 0, "Font Italic", "", {}},
-    {"ImgButton12", "underlineicss", 902, "", "", {}},
-    {"ImgButton13", "lefticss", 903, "", "", {}},
-    {"ImgButton14", "centericss", 904, "", "", {}},
-    {"ImgButton15", "righticss", 905, "", "", {}},
-    {"ImgButton16", "anylineics", 906, "", "ANYLINE", {}},
-    {"ImgButton17", "cuticss", 805, "", "", Command::CutContext},
-    {"ImgButton18", "copyicss", 806, "", "", Command::CopyContext},
-    {"ImgButton19", "configics", 907, "", "COMMAND", {}},
-    {"ImgButton20", "chartics", 908, "", "CHART", {}},
-    {"ImgButton21", "undoicss", 803, "", "", Command::Undo},
-    {"ImgButton22", "redoicss", 804, "", "", Command::Redo},
-    {"ImgButton23", "lineics", 909, "", "LINE", {}},
-    {"ImgButton24", "textboxICs", 0, "insert a textbox", "TEXTBOX", {}},
-    {"ImgButton32", "atICs", 910, "", "LABELVAR", {}},
-});
-
-TEST(ToolButtons, ShowTheirImageAndTooltipAndDoWhatTheyAreFor) {
-  EXPECT_EQ(kExpectedButtons.size(), kToolButtons.size());
-  for (const ExpectedButton& expected : kExpectedButtons) {
-    const auto row = std::find_if(kToolButtons.begin(), kToolButtons.end(),
-                                  [&](const ToolButtonRow& each) { return each.name == expected.name; });
-    ASSERT_NE(row, kToolButtons.end()) << expected.name;
-    EXPECT_EQ(row->image, expected.image);
-    EXPECT_EQ(row->tooltip, expected.tooltip) << expected.name;
-    EXPECT_EQ(row->fixedTooltip, expected.fixedTooltip) << expected.name;
-    EXPECT_EQ(row->tool, expected.tool) << expected.name;
-    if (expected.command) {
-      EXPECT_EQ(row->command, expected.command) << expected.name;
-    }
-  }
-}
-
-TEST(ToolButtons, StandForEveryToolOnce) {
-  std::set<std::string_view> tools;
-  for (const ToolButtonRow& row : kToolButtons) {
-    if (row.tool.empty()) continue;
-    EXPECT_TRUE(InsertionOfTool(row.tool).has_value()) << row.tool;
-    EXPECT_TRUE(tools.insert(row.tool).second) << row.tool;
-  }
-  EXPECT_EQ(tools.size(), 11U);
+TEST_F(Inserted, TheFirstDragOfAnInsertedObjectSnaps) {
+  surface_->Pointer().LastX = 613;
+  ASSERT_TRUE(designer_->Run(Command::InsertBox));
+  ASSERT_EQ(Current().XValue, "613");
+  const double y = Current().AbsoluteY + 300.0;
+  surface_->PointerPress({PointerSource::Overlay, 4, PointerButton::Left, 0, 613, y});
+  for (const double x : {650.0, 703.0})
+    surface_->PointerMove({PointerSource::Page, 0, PointerButton::Left, 0, x, y});
+  surface_->PointerRelease({PointerSource::Page, 0, PointerButton::Left, 0, 703, y});
+  EXPECT_EQ(Current().XValue, "800");
 }
 
 }  // namespace

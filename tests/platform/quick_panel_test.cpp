@@ -198,6 +198,20 @@ TEST_F(QuickPanelTest, ChoicesAreAddedByButtonDoubleClickAndEnter) {
   EXPECT_NE(RowOf("Alpha"), 0);
 }
 
+TEST_F(QuickPanelTest, ADoubleClickBesideTheEntriesAddsNothing) {
+  Select(RowOf("Alpha"));
+  // There is a place below the entries once most of them are away.
+  for (int row = 2; row < Functions().count(); ++row)
+    Functions().setRowHidden(row, true);
+  const QPoint beside(5, Functions().viewport()->height() - 3);
+  ASSERT_EQ(Functions().itemAt(beside), nullptr);
+  QTest::mouseClick(Functions().viewport(), Qt::LeftButton, {}, beside);
+  QTest::mouseDClick(Functions().viewport(), Qt::LeftButton, {}, beside);
+  EXPECT_EQ(Value().text(), QStringLiteral("Alpha"));
+  DoubleClickItem(Functions(), 1);
+  EXPECT_NE(Value().text(), QStringLiteral("Alpha"));
+}
+
 TEST_F(QuickPanelTest, TheTextIsAppliedAndTheListsStay) {
   const int alpha = RowOf("Alpha");
   Select(alpha);

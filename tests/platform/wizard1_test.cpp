@@ -378,26 +378,6 @@ TEST_F(Wizard1Test, ThePictureIsBrowsedShownAndCleared) {
 
 // --- Toggle buttons
 
-TEST_F(Wizard1Test, AHoverOverOneToggleClearsThatOfTheOthers) {
-  Open();
-  const auto enter = [](ImgToggle& toggle) {
-    QEnterEvent event(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
-    QApplication::sendEvent(&toggle, &event);
-  };
-  auto& bold = Find<ImgToggle>("GrBold01");
-  auto& italic = Find<ImgToggle>("GrItalic01");
-  auto& underline = Find<ImgToggle>("GrUnderline01");
-  for (ImgToggle* toggle : {&bold, &italic, &underline}) {
-    EXPECT_FALSE(toggle->icon().isNull());
-    enter(*toggle);
-    for (ImgToggle* other : {&bold, &italic, &underline})
-      EXPECT_EQ(other->IsHovered(), other == toggle);
-  }
-  QEvent leave(QEvent::Leave);
-  QApplication::sendEvent(&underline, &leave);
-  EXPECT_FALSE(underline.IsHovered());
-}
-
 // --- The end
 
 TEST_F(Wizard1Test, OkStoresAndCloses) {
