@@ -219,6 +219,19 @@ TEST_F(ColumnCommandsOfDesigner, TheColumnsDialogAddsModifiesAndRemoves) {
   EXPECT_EQ(designer_->OpenDocument().Objects[Label()].XValue, "$Col_01");
 }
 
+TEST_F(ColumnCommandsOfDesigner, ALineOfTheColumnsDialogEndsAtItsPlaceOnTheZoomedPage) {
+  StartWith("$Col_01=3000\r\n");
+  ASSERT_TRUE(designer_->SetZoom("200"));
+  view_.OnColumnsDialog = [](ColumnsDialogRun& run) {
+    run.TypePosition("1000");
+    run.AddOrModify();
+  };
+  EXPECT_TRUE(designer_->Run(Command::SetColumns));
+  const std::vector<std::string> places = view_.Page.Only("place linecolumn(2) ");
+  ASSERT_FALSE(places.empty());
+  EXPECT_TRUE(places.back().starts_with("place linecolumn(2) 2000 0 ")) << places.back();
+}
+
 TEST_F(ColumnCommandsOfDesigner, TheColumnsDialogRefusesZero) {
   StartWith("");
   view_.OnColumnsDialog = [](ColumnsDialogRun& run) {

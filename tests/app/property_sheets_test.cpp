@@ -124,6 +124,40 @@ TEST_F(PropertySheetsTest, ARefusedPageSizeSelectsItsRow) {
   EXPECT_TRUE(host_.Messages.empty());
 }
 
+TEST_F(PropertySheetsTest, ANewPaperOrMarginShowsAnotherPage) {
+  const auto last = [this](const std::string& word) {
+    const std::vector<std::string> lines = view_.Page.Only(word);
+    return lines.empty() ? std::string() : lines.back();
+  };
+  EXPECT_TRUE(last("canvas ").starts_with("canvas 11900 "));
+  view_.Page.Take();
+  Type("Papersize", "A3, 297 x 420 mm");
+  EXPECT_TRUE(last("canvas ").starts_with("canvas 16840 ")) << last("canvas ");
+  EXPECT_EQ(Shown("PageWidth"), "16840");
+  view_.Page.Take();
+  Type("Left margin", "500");
+  EXPECT_EQ(last("scaleleft "), "scaleleft -500");
+  EXPECT_TRUE(last("canvas ").starts_with("canvas 17340 ")) << last("canvas ");
+}
+
+TEST_F(PropertySheetsTest, ColumnLinesArePlacedAnewBehindAnEdit) {
+  ASSERT_TRUE(designer_->OpenTemplate(Made("b.kev", "$Col_01=2400\r\n" + test::TemplateWith(kTwoLabels))));
+  Click(RowOf("Alpha"));
+  view_.Page.Take();
+  Type("X/Column", "$Col_01");
+  EXPECT_TRUE(view_.Page.Has("place linecolumn(1) 2400 0 "));
+}
+
+TEST_F(PropertySheetsTest, AnAddressCanBeTypedWhileRemotePicturesAreOff) {
+  test::WriteBytes(Data("KEV.INI"), "REMOTEPICTURES=N\r\n");
+  designer_ = Start({Made("b.kev", test::TemplateWith("{Pic=logo.png,500,,900,600,}{\\n}\r\n"))});
+  Click(KindRow(ObjectKind::Picture));
+  Type("File", "https://example.org/shop/");
+  EXPECT_TRUE(host_.Messages.empty());
+  EXPECT_EQ(Objects()[KindRow(ObjectKind::Picture)].PicturePath, "https://example.org/shop/");
+  EXPECT_TRUE(host_.Fetches.empty());
+}
+
 TEST_F(PropertySheetsTest, AnObjectThatItsEditHidesIsDeselected) {
   EXPECT_TRUE(designer_->SetFilter(DisplayFilter::Print));
   Click(alpha_);
@@ -305,6 +339,26 @@ TEST_F(PropertySheetsTest, ADoubleClickOnARowIsOneOnItsObject) {
   Surface().GoToObject(KindRow(ObjectKind::EndOfSubsection));
   Sheets().DoubleClicked();
   EXPECT_EQ(view_.PanelFocused, 1);
+}
+
+TEST_F(PropertySheetsTest, ACustomRowWhoseDialogIsGivenUpLeavesNothing) {
+  ASSERT_TRUE(designer_->OpenTemplate(
+      Made("b.kev", test::TemplateWith("[ITEMS]\r\n{Graph_Height=2000;Graph_Width=3000}\r\n"
+                                       "{Buildgraph=500,}\r\n{Spacing=2400;\\n}\r\n"))));
+  int opened = 0;
+  view_.OnSubsection = [&](SubsectionDialog&, const std::function<bool()>&) { ++opened; };
+  view_.OnChartWizard = [&](ChartWizardRun&) { ++opened; };
+  int items = 0;
+  for (int row = 1; row <= Objects().LastScanned(); ++row)
+    if (Objects()[row].SectionName == "ITEMS]") items = row;
+  for (const int row : {items, KindRow(ObjectKind::Chart)}) {
+    Surface().GoToObject(row);
+    for (std::size_t each = 1; each <= view_.Shown.Rows.size(); ++each)
+      Sheets().PressButton(static_cast<int>(each));
+  }
+  EXPECT_EQ(opened, 2);
+  EXPECT_FALSE(designer_->Modified());
+  EXPECT_FALSE(designer_->Enabled(Command::Undo));
 }
 
 TEST_F(PropertySheetsTest, TheFocusOfTheGridIsKnown) {

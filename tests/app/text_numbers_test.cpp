@@ -141,6 +141,17 @@ TEST(TextNumbers, AreTranslatedWhereTheyAreSentences) {
   }
 }
 
+// Names of things, which the documents and the English captions around them use as well.
+TEST(TextNumbers, KeepAFewWordsInEveryLanguage) {
+  const LanguageTexts english = TextsOf('E');
+  for (const char letter : kLetters) {
+    for (const int number : {kTextProgramTitle, kTextMultiSelected, kTextSubsectionInsert})
+      EXPECT_EQ(TextsOf(letter).Text(number), english.Text(number)) << letter << number;
+  }
+  EXPECT_EQ(english.Text(kTextMultiSelected), "Multiselected:");
+  EXPECT_EQ(english.Text(kTextSubsectionInsert), "Insert section");
+}
+
 TEST(TextNumbers, SayWhatWasAgreedAtAFewPlaces) {
   EXPECT_EQ(TextsOf('E').Text(kTextProgramTitle), "Kev Visual Editor");
   EXPECT_EQ(TextsOf('E').Text(kTextMenuQuickPanel), "Show &Quickprops");

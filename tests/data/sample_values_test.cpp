@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 #include "support/run_tool.h"
 
@@ -92,6 +94,26 @@ TEST_F(SampleValueLists, NothingBehindTheHundredthRecordIsRead) {
   int lines = 0;
   EXPECT_TRUE(ForEachSampleLine(path, [&](std::string_view) { return ++lines < 50; }));
   EXPECT_EQ(lines, 50);
+}
+
+// The bytes that this process has read so far; nothing where the system does not tell.
+std::optional<std::uint64_t> BytesRead() {
+  std::ifstream counts("/proc/self/io");
+  std::string name;
+  std::uint64_t bytes = 0;
+  if (!(counts >> name >> bytes) || name != "rchar:") return std::nullopt;
+  return bytes;
+}
+
+TEST_F(SampleValueLists, AFullListLeavesTheRestOfALargeFileAlone) {
+  constexpr std::uint64_t kLarge = 1ULL << 30, kFewPieces = 4ULL << 20;
+  const std::string path = Written(Records(101));
+  std::filesystem::resize_file(path, kLarge);
+  const std::optional<std::uint64_t> before = BytesRead();
+  if (!before) GTEST_SKIP() << "the system does not count what is read";
+  EXPECT_EQ(Values(path, 0).Items.size(), 101U);
+  EXPECT_EQ(Values(path, 0).Records, 100U);
+  EXPECT_LT(*BytesRead() - *before, kFewPieces);
 }
 
 TEST_F(SampleValueLists, LinesAreWholeWhereverAPieceOfTheFileEnds) {

@@ -117,6 +117,11 @@ TEST_F(PaintBarcodeTest, WidthsFollowTheZoomInTheirOwnWay) {
   const int one = Add("1", "A", 1);
   Paint(one, 0.75);  // 0.75 leaves the factor as it was
   EXPECT_EQ(bars_.BarMultiplier, 3);
+  Paint(two);
+  const int three = Add("1", "A", 3);
+  Paint(three, 0.5);  // 1.5 leaves it too, and the bars have the factor of the code before and the zoom
+  EXPECT_EQ(bars_.BarMultiplier, 2);
+  EXPECT_EQ(FirstWidth(), 10);
 }
 
 TEST_F(PaintBarcodeTest, Code128StandsUnzoomedWithZoomedBars) {

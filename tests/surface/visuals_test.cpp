@@ -239,8 +239,12 @@ TEST_F(VisualsTest, FilterHidesRowsButNoBands) {
   Record(mine).ModifiableByEndUser = 1;
   const int silent = AddLabel(document_, "0", 600, "silent");
   Record(silent).PrintFlag = kFalse;
+  // Only 1 says so, unlike a flag.
+  const int flagged = AddLabel(document_, "0", 700, "flagged");
+  Record(flagged).ModifiableByEndUser = kTrue;
   Redraw(1, DisplayFilter::Ebeu);
   EXPECT_TRUE(surface_.Has("text 0 500 mine"));
+  EXPECT_FALSE(surface_.Has("text 0 700 flagged"));
   EXPECT_FALSE(surface_.Has("text 0 600 silent"));
   EXPECT_EQ(surface_.Only("image").size(), 2U);
   surface_.Take();
@@ -263,8 +267,11 @@ TEST_F(VisualsTest, SelectedObjectsCarryMarksAndBounds) {
   EXPECT_EQ(fills[1], "rect 200 400 275 475 F5F5F5 filled");
   EXPECT_EQ(fills[2], "rect 200 400 275 475 0000FF");
   EXPECT_EQ(fills[3], "rect 2125 400 2200 475 F5F5F5 filled");
+  EXPECT_EQ(fills[4], "rect 2125 400 2200 475 0000FF");
   EXPECT_EQ(fills[5], "rect 2125 1325 2200 1400 F5F5F5 filled");
+  EXPECT_EQ(fills[6], "rect 2125 1325 2200 1400 0000FF");
   EXPECT_EQ(fills[7], "rect 200 1325 275 1400 F5F5F5 filled");
+  EXPECT_EQ(fills[8], "rect 200 1325 275 1400 0000FF");
 }
 
 TEST_F(VisualsTest, WhatAFilterHidesIsNoMemberOfAGroupAnyMore) {
