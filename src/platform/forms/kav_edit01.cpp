@@ -262,7 +262,10 @@ bool KavEdit01::event(QEvent* event) {
     QTimer::singleShot(0, this, &KavEdit01::Activate);
   }
   if (event->type() == QEvent::ScreenChangeInternal) FollowScreen();
-  if (event->type() == QEvent::WindowUnblocked) QTimer::singleShot(0, this, &KavEdit01::CloseIfWanted);
+  if (event->type() == QEvent::WindowUnblocked) {
+    QTimer::singleShot(0, this, [this] { focusKeeper_.Mend(); });
+    QTimer::singleShot(0, this, &KavEdit01::CloseIfWanted);
+  }
   return handled;
 }
 
