@@ -151,9 +151,12 @@ std::optional<FileFailure> WritePlainFile(const std::string& path, std::string_v
   if (::unlink(path.c_str()) != 0 && errno != ENOENT) return FailureOfSystem(path, errno);
   Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
   if (file.Number() < 0) return FailureOfSystem(path, errno);
-  if (const int error = WriteAll(file.Number(), bytes)) return FailureOfSystem(path, error);
-  if (file.Close() != 0) return FailureOfSystem(path, errno);
-  return std::nullopt;
+  int error = WriteAll(file.Number(), bytes);
+  if (file.Close() != 0 && error == 0) error = errno;
+  if (error == 0) return std::nullopt;
+  // A part of it would only take room on a full disk.
+  ::unlink(path.c_str());
+  return FailureOfSystem(path, error);
 }
 
 // These three take no memory: they are asked behind failures, and while objects end.

@@ -188,11 +188,12 @@ TEST(RewriteLocked, TellsOfWhatCannotBeReadOrDoesNotFit) {
   EXPECT_EQ(RewriteLocked(folder / "a", longer)->reason, "File too large");
 }
 
-TEST(WritePlainFile, TellsOfWhatDoesNotFit) {
+TEST(WritePlainFile, TellsOfWhatDoesNotFitAndLeavesNoPartOfIt) {
   const TemporaryFolder folder;
   EXPECT_EQ(WritePlainFile(folder / "", "x")->reason, "Is a directory");
   const test::FullDisk full(4096);
   EXPECT_EQ(WritePlainFile(folder / "a", std::string(10000, 'x'))->reason, "File too large");
+  EXPECT_THAT(NamesIn(folder / ""), IsEmpty());
 }
 
 // What somebody has put where the file will be.

@@ -19,6 +19,12 @@ constexpr const char* kTemplate = "work/invoice.kev";
 constexpr const char* kOptions = "data/Kev/LASTRV.DAT";
 constexpr const char* kLost = "temp/Kev/Cache/Recovered_080000_lost.kev";
 
+// As short as can be: each allocation is made to fail in a run of its own.
+std::string Letter() {
+  return "KEXVER=4\r\n[HEADER]\r\n{100;b=y}Dear @Name{\\n}\r\n{100;b=n}Yours{\\n}\r\n"
+         "[DATA]\r\n{Spacing=40;\\n}\r\n[FOOTER]\r\n{Spacing=40;\\n}\r\n";
+}
+
 std::string BytesIn(const Home::All& files, const std::string& name) {
   const auto found = files.find(name);
   return found == files.end() ? std::string("(no such file)") : found->second;
@@ -160,9 +166,6 @@ class OpenScene : public Scene {
     const bool isOld = BytesIn(now, kOther) == BytesIn(old, kOther);
     return isOld ? Complaints{} : Complaints{"the template that is opened has changed"};
   }
-
- protected:
-  static std::string Letter() { return test::ReadBytes(std::string(KEV_EXAMPLES_DIR) + "/letter.kev"); }
 };
 
 class OpenEncodedScene final : public OpenScene {
@@ -289,7 +292,7 @@ class RecoverScene : public Scene {
   bool StartsItself() const override { return true; }
   std::vector<std::string> Arguments(const Home&) const override { return {}; }
   void Furnish(const Home& home) const override {
-    test::WriteBytes(home.Path(kLost), test::ReadBytes(std::string(KEV_EXAMPLES_DIR) + "/letter.kev"));
+    test::WriteBytes(home.Path(kLost), Letter());
   }
   void Prepare(Run& run, const Home& home) const override {
     run.View.Recovers = true;
