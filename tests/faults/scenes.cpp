@@ -2,6 +2,7 @@
 #include "faults/scenes.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <utility>
 
@@ -88,6 +89,11 @@ void CheckLeft(const Ending& ending, const Home::All& now, const Home::All& old,
     if (name.find("/.kev") != std::string::npos || name.starts_with("work/"))
       complaints.push_back(name + " was left");
   }
+}
+
+Home::All Recoveries(Home::All files) {
+  std::erase_if(files, [](const auto& file) { return !IsRecovery(file.first); });
+  return files;
 }
 
 // Recovery files are whole at any moment: what the good run or the start has there.
@@ -259,6 +265,8 @@ class PushScene final : public Scene {
     CheckRecovery(now, old, good, complaints);
     if (std::none_of(now.begin(), now.end(), [](const auto& file) { return IsRecovery(file.first); }))
       complaints.push_back("no recovery file is left");
+    if (ending.Planned.Error == ENOLCK && Recoveries(now) != Recoveries(good))
+      complaints.push_back("the recovery file needs a lock");
     return complaints;
   }
 };
