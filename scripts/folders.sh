@@ -8,7 +8,8 @@ xdg_folder() {
   esac
 }
 
-# Sets TEMP and appdata where they are not set already, and makes what the designer looks for in them.
+# Sets TEMP and appdata where they are not set already, and makes what the designer looks for in them. What
+# can't be made is no reason not to start: the designer tells what it lacks.
 make_folders() {
   # In a folder that all users share, someone else may have made Kev; working files must not go there.
   if [ -z "${TEMP:-}" ] || [ ! -O "$TEMP/Kev" ]; then
@@ -16,7 +17,7 @@ make_folders() {
   fi
   appdata=${appdata:-${APPDATA:-$(xdg_folder XDG_DATA_HOME .local/share)}}
   export TEMP appdata
-  mkdir -p "$TEMP/Kev/Cache" "$TEMP/Kev/Temp" "$appdata/Kev/temp"
+  mkdir -p "$TEMP/Kev/Cache" "$TEMP/Kev/Temp" "$appdata/Kev/temp" || true
 }
 
 # Whether the arguments only ask for a text, which needs no window.

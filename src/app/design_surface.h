@@ -95,6 +95,8 @@ class DesignSurface final : public PageServices {
   const ClipboardTable& Clipboard() const { return clipboard_; }
   const TextEdit& Edit() const { return edit_; }
   Recovery& TheRecovery() { return recovery_; }
+  // Of the document as it stands; tells nobody where it fails.
+  std::optional<FileFailure> WriteRecovery();
   bool Busy() const { return tracker_.Busy(); }
   PageWork Work();
 
@@ -124,7 +126,7 @@ class DesignSurface final : public PageServices {
   void OpenChart(int row);
   // Sets Modified, writes the recovery file and then the caption.
   void Protect();
-  void WriteRecovery();
+  void WriteRecoveryOrTell();
   InsertionWork Inserting(PageWork& work);
   void DoUndo();
   void DoRedo();

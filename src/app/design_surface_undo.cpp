@@ -24,15 +24,19 @@ void DesignSurface::MarkChanged() {
 
 void DesignSurface::Protect() {
   designer_.SetModified();
-  WriteRecovery();
+  WriteRecoveryOrTell();
   designer_.ShowCaption();
 }
 
+std::optional<FileFailure> DesignSurface::WriteRecovery() {
+  return recovery_.Write(InTempFolder(designer_.Folders(), kRecoveryFolder), designer_.Now(),
+                         designer_.DocumentTitle(), designer_.OpenDocument(),
+                         WriteOptions{designer_.Command().WriterComments()});
+}
+
 // Work goes on without a recovery file; a message at each change would only be in its way.
-void DesignSurface::WriteRecovery() {
-  const std::optional<FileFailure> failure = recovery_.Write(
-      InTempFolder(designer_.Folders(), kRecoveryFolder), designer_.Now(), designer_.DocumentTitle(),
-      designer_.OpenDocument(), WriteOptions{designer_.Command().WriterComments()});
+void DesignSurface::WriteRecoveryOrTell() {
+  const std::optional<FileFailure> failure = WriteRecovery();
   const bool isTold = std::exchange(recoveryFailed_, failure.has_value());
   if (failure && !isTold)
     designer_.ShowText(kTextWriteFailed, BoxIcon::Critical,

@@ -104,6 +104,7 @@ void Designer::DeriveGeometryAndRedraw() {
 
 bool Designer::Guarded(const GuardedWork& work, const std::function<void()>& body) {
   const HeldArrivals held(*this);
+  const Changing changing(changes_);
   std::optional<Kept> kept;
   const int generation = generation_;
   const std::optional<std::string> failure = FailureOf([&] {

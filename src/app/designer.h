@@ -212,7 +212,10 @@ class Designer {
   bool MayClose() { return AskToSave(); }
   // After the window has closed: writes the options, deletes the working files of this run.
   void ShutDown();
-  // The same where nobody is there to read a box: what could not be written is returned and not shown.
+  // Where the program ends and nobody is there to be asked: what is typed somewhere goes into the document,
+  // and the document as it stands into the recovery file. What could not be written is returned and not shown.
+  std::optional<FileFailure> KeepUnsaved();
+  // ShutDown where nobody is there to read a box: what could not be written is returned and not shown.
   std::optional<FileFailure> ShutDownSilently();
   // Takes effect at the next start. False when it could not be stored: the message was shown.
   bool ChooseLanguage(char letter);
@@ -309,6 +312,17 @@ class Designer {
  private:
   // What a failed command gives back.
   struct Kept;
+  // For as long as it lives, the document may be half changed.
+  class Changing {
+   public:
+    explicit Changing(int& count) : count_(++count) {}
+    ~Changing() { --count_; }
+    Changing(const Changing&) = delete;
+    Changing& operator=(const Changing&) = delete;
+
+   private:
+    int& count_;
+  };
   // For as long as it lives, a picture that arrives waits.
   class HeldArrivals {
    public:
@@ -402,6 +416,7 @@ class Designer {
   std::vector<Finding> findings_;
   // Pictures that came while something else was under way, and whether they are there.
   std::vector<std::pair<std::string, bool>> arrivals_;
+  int changes_ = 0;  // that are under way
   // Images that the page shows were made beside it.
   bool imagesMade_ = false;
   int holds_ = 0;

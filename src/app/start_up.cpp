@@ -112,6 +112,15 @@ void Designer::ShutDown() {
              failure->path + "\r\n" + ReasonInLanguage(texts_, failure->reason));
 }
 
+std::optional<FileFailure> Designer::KeepUnsaved() {
+  // In the middle of a command the file from before it is the whole one.
+  if (changes_ > 0) return std::nullopt;
+  surface_.CommitOpenEdits();
+  // What was opened from the cache lies there, until something is changed.
+  const bool isThere = !opened_.RecoveryFile().empty() && surface_.TheRecovery().RecoveryFile().empty();
+  return modified_ && !isThere ? surface_.WriteRecovery() : std::nullopt;
+}
+
 std::optional<FileFailure> Designer::ShutDownSilently() {
   if (modified_) {
     surface_.TheRecovery().LeaveBehind();

@@ -3,11 +3,14 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <system_error>
 #include <thread>
@@ -31,12 +34,39 @@ int OpenNew(const std::string& folder, std::string& temporary) {
   return ::open(temporary.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly);
 }
 
-// Between opening a file and locking it, its holder may have put another in its place, or deleted it.
-bool LockAsNamed(const Descriptor& file, const std::string& path, int kind) {
-  struct stat opened {};
+// Whether the file system has no locks at all.
+bool KnowsNoLocks(int error) {
+  return error == ENOLCK || error == EOPNOTSUPP || error == ENOSYS;
+}
+
+// A name that only this machine's processes see, for a file without a lock. As a lock does, it goes with the
+// process that has it.
+class HoldName {
+ public:
+  explicit HoldName(const struct stat& file) : socket_(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
+    address_.sun_family = AF_UNIX;
+    // Behind a first byte of 0, which keeps it out of the folders.
+    std::snprintf(address_.sun_path + 1, sizeof address_.sun_path - 1, "kev-hold-%jx-%jx",
+                  static_cast<std::uintmax_t>(file.st_dev), static_cast<std::uintmax_t>(file.st_ino));
+  }
+  // Nothing where another process has it.
+  Descriptor Take() && {
+    if (::bind(socket_.Number(), Address(), sizeof address_) != 0) return {};
+    return std::move(socket_);
+  }
+  bool IsTaken() const { return ::connect(socket_.Number(), Address(), sizeof address_) == 0; }
+
+ private:
+  const sockaddr* Address() const { return reinterpret_cast<const sockaddr*>(&address_); }
+
+  Descriptor socket_;
+  sockaddr_un address_{};
+};
+
+// Between opening a file and holding it, its holder may have put another in its place, or deleted it.
+bool IsNamed(const struct stat& opened, const std::string& path) {
   struct stat named {};
-  return file && ::flock(file.Number(), kind | LOCK_NB) == 0 && ::fstat(file.Number(), &opened) == 0 &&
-         ::lstat(path.c_str(), &named) == 0 && opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+  return ::lstat(path.c_str(), &named) == 0 && opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
 }  // namespace
@@ -65,6 +95,7 @@ int LockPatiently(const Descriptor& file) {
   constexpr int kTries = 100;
   constexpr auto kPause = std::chrono::milliseconds(10);
   for (int tries = 0; ::flock(file.Number(), LOCK_EX | LOCK_NB) != 0; ++tries) {
+    if (KnowsNoLocks(errno)) return 0;
     if (errno != EWOULDBLOCK && errno != EINTR) return errno;
     if (tries == kTries) return EWOULDBLOCK;
     std::this_thread::sleep_for(kPause);
@@ -83,14 +114,23 @@ Descriptor HoldFile(const std::string& path) {
   // A network's file system locks only what may be written.
   Descriptor file(::open(path.c_str(), O_RDWR | kFlags));
   if (!file) file = Descriptor(::open(path.c_str(), O_RDONLY | kFlags));
-  if (!LockAsNamed(file, path, LOCK_EX)) return {};
-  return file;
+  struct stat opened {};
+  if (!file || ::fstat(file.Number(), &opened) != 0) return {};
+  if (::flock(file.Number(), LOCK_EX | LOCK_NB) != 0) {
+    if (!KnowsNoLocks(errno)) return {};
+    file = HoldName(opened).Take();
+  }
+  return IsNamed(opened, path) ? std::move(file) : Descriptor();
 }
 
 // Shared, so that two who only ask do not take each other for holders.
 bool IsHeld(const std::string& path) {
   const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
-  return !LockAsNamed(file, path, LOCK_SH);
+  struct stat opened {};
+  if (!file || ::fstat(file.Number(), &opened) != 0) return true;
+  const bool isFree = ::flock(file.Number(), LOCK_SH | LOCK_NB) == 0 ||
+                      (KnowsNoLocks(errno) && !HoldName(opened).IsTaken());
+  return !isFree || !IsNamed(opened, path);
 }
 
 Result<NewHeldFile> NewHeldFile::Write(const std::string& folder, std::string_view bytes) {
@@ -100,7 +140,12 @@ Result<NewHeldFile> NewHeldFile::Write(const std::string& folder, std::string_vi
   NewHeldFile file(std::move(descriptor), std::move(temporary));
   const int number = file.file_.Number();
   if (const int error = WriteAll(number, bytes)) return FailureOfSystem(folder, error);
-  if (::fsync(number) != 0 || ::flock(number, LOCK_EX | LOCK_NB) != 0) return FailureOfSystem(folder, errno);
+  if (::fsync(number) != 0) return FailureOfSystem(folder, errno);
+  if (::flock(number, LOCK_EX | LOCK_NB) == 0) return file;
+  const int error = errno;
+  struct stat status {};
+  if (KnowsNoLocks(error) && ::fstat(number, &status) == 0) file.hold_ = HoldName(status).Take();
+  if (!file.hold_) return FailureOfSystem(folder, error);
   return file;
 }
 

@@ -35,7 +35,8 @@ class Descriptor {
 int WriteAll(int descriptor, std::string_view bytes);
 FileFailure FailureOfSystem(std::string path, int error);
 
-// 0, or the system's error number. Waits for other holders, but no longer than a second.
+// 0, or the system's error number. Waits for other holders, but no longer than a second; where the file system
+// has no locks, for nobody.
 int LockPatiently(const Descriptor& file);
 // Holds a folder against HoldFolder of others, so that one at a time changes what lies in it; waits as
 // LockPatiently does. Nothing where it can't be held.
@@ -43,7 +44,7 @@ Descriptor HoldFolder(const std::string& folder);
 
 // Holds a file against HoldFile and IsHeld of every other holder, for as long as the result lives; a process
 // that ends in whatever way holds nothing any more. Nothing where another holds the file or it can't be
-// opened.
+// opened. Where the file system has no locks, only the processes of this machine see each other's holds.
 Descriptor HoldFile(const std::string& path);
 // Whether a file is held, or is not ours to read.
 bool IsHeld(const std::string& path);
@@ -61,13 +62,14 @@ class NewHeldFile {
   // 0, or the system's error number: EEXIST where the name is in use. The path lies in the same folder.
   int Name(const std::string& path);
   // The hold, once the file has its name.
-  Descriptor Take() { return std::move(file_); }
+  Descriptor Take() { return std::move(hold_ ? hold_ : file_); }
 
  private:
   NewHeldFile(Descriptor file, std::string temporary)
       : file_(std::move(file)), temporary_(std::move(temporary)) {}
 
   Descriptor file_;
+  Descriptor hold_;  // where it is not the file itself
   // The name it has meanwhile, where the file system has no files without one.
   std::string temporary_;
 };

@@ -23,6 +23,31 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kMostTemporaries = 10000;
+// As many as the system itself follows.
+constexpr int kMostLinks = 40;
+
+// Where a path leads behind its links, also to a file that is not there yet. A link that leads to itself is
+// what stands there.
+fs::path BehindLinks(const fs::path& path) {
+  fs::path behind = path;
+  for (int links = 0; links < kMostLinks; ++links) {
+    std::error_code none;
+    const fs::path next = fs::read_symlink(behind, none);
+    if (none) return behind;
+    behind = behind.parent_path() / next;
+  }
+  return path;
+}
+
+// Why the file at a place must stay. A pipe or a device is none that another file could stand for.
+std::optional<FileFailure> WhyNotReplaced(const std::string& path, const std::string& target) {
+  struct stat status {};
+  if (::stat(target.c_str(), &status) != 0) return std::nullopt;
+  if (S_ISDIR(status.st_mode)) return FailureOfSystem(path, EISDIR);
+  if (!S_ISREG(status.st_mode)) return FileFailure{path, kReasonNotRegularFile};
+  if (::access(target.c_str(), W_OK) != 0) return FailureOfSystem(path, errno);
+  return std::nullopt;
+}
 
 // The permissions of the file that is replaced, or what the process gives to a new file.
 mode_t ModeFor(const std::string& path) {
@@ -108,11 +133,8 @@ std::optional<FileFailure> RewriteLocked(const std::string& path,
 
 std::optional<FileFailure> WriteWholeFile(const std::string& path, std::string_view bytes) {
   // A link stays a link: what it points to is replaced.
-  std::error_code ignored;
-  const fs::path real = fs::is_symlink(path, ignored) ? fs::weakly_canonical(path, ignored) : fs::path(path);
-  const std::string target = real.empty() ? path : real.string();
-  if (FolderExists(target)) return FailureOfSystem(path, EISDIR);
-  if (FileExists(target) && ::access(target.c_str(), W_OK) != 0) return FailureOfSystem(path, errno);
+  const std::string target = BehindLinks(path).string();
+  if (const auto reason = WhyNotReplaced(path, target)) return reason;
   std::string temporary;
   Descriptor file(OpenBeside(fs::path(target).parent_path(), temporary));
   if (file.Number() < 0) return FailureOfSystem(path, errno);
@@ -123,12 +145,18 @@ std::optional<FileFailure> WriteWholeFile(const std::string& path, std::string_v
   return FailureOfSystem(path, error);
 }
 
+// What has the name already is not written into: a link would lead the bytes elsewhere, and a pipe would keep
+// them waiting.
 std::optional<FileFailure> WritePlainFile(const std::string& path, std::string_view bytes) {
-  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+  if (::unlink(path.c_str()) != 0 && errno != ENOENT) return FailureOfSystem(path, errno);
+  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
   if (file.Number() < 0) return FailureOfSystem(path, errno);
-  if (const int error = WriteAll(file.Number(), bytes)) return FailureOfSystem(path, error);
-  if (file.Close() != 0) return FailureOfSystem(path, errno);
-  return std::nullopt;
+  int error = WriteAll(file.Number(), bytes);
+  if (file.Close() != 0 && error == 0) error = errno;
+  if (error == 0) return std::nullopt;
+  // A part of it would only take room on a full disk.
+  ::unlink(path.c_str());
+  return FailureOfSystem(path, error);
 }
 
 // These three take no memory: they are asked behind failures, and while objects end.

@@ -2,12 +2,16 @@
 // The designer: one process, one window, one document.
 #include <QApplication>
 #include <array>
+#include <csignal>
 #include <iostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/command_line.h"
 #include "app/designer.h"
+#include "base/descriptor.h"
+#include "base/process.h"
 #include "platform/app_style.h"
 #include "platform/forms/kav_edit01.h"
 #include "platform/qt_host.h"
@@ -34,15 +38,24 @@ int RunDesigner(QApplication& application, const std::vector<std::string>& argum
   return QApplication::exec();
 }
 
+int TellAboutItself(std::string_view text) {
+  std::cout << text;
+  const int error = kev::FlushStandardOutput();
+  if (error == 0) return 0;
+  std::cerr << "kev: standard output: " << kev::FailureOfSystem({}, error).reason << '\n';
+  return 1;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  kev::PrepareProcess();
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   const kev::CommandLineParts command = kev::ParseCommandLine(arguments);
-  if (command.Help || command.Version) {
-    std::cout << (command.Help ? kev::HelpText() : kev::VersionText());
-    return 0;
-  }
+  if (command.Help || command.Version)
+    return TellAboutItself(command.Help ? kev::HelpText() : kev::VersionText());
+  // Whoever reads the warnings of the window system may be gone before the work is.
+  kev::OutliveSignal(SIGPIPE);
   // The window system gets the program's name alone: every argument is part of the template's path.
   int ownArguments = 1;
   std::array<char*, 2> ownNames = {argv[0], nullptr};

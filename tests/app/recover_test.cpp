@@ -226,6 +226,29 @@ TEST_F(RecoverTest, TheEndAndAnotherDocumentLeaveTheFileInTheCache) {
   EXPECT_THAT(Listed().Files, ElementsAre(kFirst, kSecond));
 }
 
+TEST_F(RecoverTest, AnEndThatAsksNobodyMakesNoSecondFileOfWhatLiesInTheCache) {
+  const auto designer = StartRecovering(0, std::nullopt);
+  EXPECT_FALSE(designer->KeepUnsaved());
+  EXPECT_FALSE(designer->ShutDownSilently());
+  EXPECT_THAT(Listed().Files, ElementsAre(kFirst, kSecond));
+}
+
+TEST_F(RecoverTest, AnEndThatAsksNobodyKeepsWhatWasChangedInAFileOfTheCache) {
+  const auto designer = StartRecovering(0, std::nullopt);
+  EXPECT_TRUE(designer->Guarded([&] {
+    designer->Surface().PushUndo();
+    ObjectTable& objects = designer->OpenDocument().Objects;
+    for (int row = 1; row <= objects.LastScanned(); ++row)
+      if (objects[row].Kind == ObjectKind::Label) objects[row].Content = "Later";
+  }));
+  EXPECT_FALSE(designer->KeepUnsaved());
+  EXPECT_FALSE(designer->ShutDownSilently());
+  EXPECT_EQ(Listed().Files.size(), 3U);
+  EXPECT_EQ(test::ReadBytes(Cache(kFirst)).find("Later"), std::string::npos);
+  const std::string later = test::ReadBytes(Cache("Recovered_090531_my_own_report.kev"));
+  EXPECT_NE(later.find("Later"), std::string::npos);
+}
+
 TEST_F(RecoverTest, AFileThatIsNoTemplateIsToldAndTheStartGoesOn) {
   test::WriteBytes(Cache(kFirst), "rubbish");
   for (const auto& answer : {std::optional<std::string>(), std::optional(Work("saved.kev"))}) {

@@ -36,6 +36,12 @@ class UndoCommands : public test::DesignerTest {
   }
   void PressUndo() { EXPECT_TRUE(designer_->Run(Command::Undo)); }
   void PressRedo() { EXPECT_TRUE(designer_->Run(Command::Redo)); }
+  int LabelRow() {
+    int row = 1;
+    while (&Objects()[row] != &Label())
+      ++row;
+    return row;
+  }
   std::string InCache() const { return *ReadWholeFile(Temp("Cache/Recovered_090530_a.kev")); }
   bool CanUndo() const { return designer_->Enabled(Command::Undo); }
   bool CanRedo() const { return designer_->Enabled(Command::Redo); }
@@ -259,6 +265,50 @@ TEST_F(UndoCommands, AnEndThatAsksNobodyKeepsUnsavedWork) {
   EXPECT_FALSE(designer_->ShutDownSilently());
   EXPECT_THAT(CacheNames(), ElementsAre("Recovered_090530_a.kev"));
   EXPECT_THAT(RecoveryFilesIn(Temp("Cache")), ElementsAre("Recovered_090530_a.kev"));
+}
+
+TEST_F(UndoCommands, AnEndThatAsksNobodyKeepsTheLastChange) {
+  Edit("A1");
+  EXPECT_FALSE(designer_->KeepUnsaved());
+  EXPECT_FALSE(designer_->ShutDownSilently());
+  EXPECT_THAT(CacheNames(), ElementsAre("Recovered_090530_a.kev"));
+  EXPECT_NE(InCache().find("A1"), std::string::npos);
+}
+
+TEST_F(UndoCommands, AnEndThatAsksNobodyKeepsWhatIsBeingTyped) {
+  Surface().PickObject(LabelRow());
+  ASSERT_TRUE(Surface().KeyDown('Y', 0, "Y"));
+  EXPECT_FALSE(designer_->Modified());
+  EXPECT_FALSE(designer_->KeepUnsaved());
+  EXPECT_FALSE(designer_->ShutDownSilently());
+  EXPECT_THAT(CacheNames(), ElementsAre("Recovered_090530_a.kev"));
+  EXPECT_NE(InCache().find("A0Y"), std::string::npos);
+}
+
+TEST_F(UndoCommands, AnEndThatAsksNobodyWritesNoDocumentThatIsHalfChanged) {
+  Edit("A1");
+  EXPECT_TRUE(designer_->Guarded([&] {
+    Surface().PushUndo();
+    Label().Content = "half";
+    EXPECT_FALSE(designer_->KeepUnsaved());
+  }));
+  EXPECT_NE(InCache().find("A1"), std::string::npos);
+  EXPECT_EQ(InCache().find("half"), std::string::npos);
+}
+
+TEST_F(UndoCommands, AnEndThatAsksNobodyWritesNothingOfWhatIsSaved) {
+  EXPECT_FALSE(designer_->KeepUnsaved());
+  EXPECT_THAT(CacheNames(), IsEmpty());
+}
+
+TEST_F(UndoCommands, AnEndThatAsksNobodyGivesBackWhyTheLastChangeIsLost) {
+  Edit("A1");
+  BreakCache();
+  const std::optional<FileFailure> failure = designer_->KeepUnsaved();
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->path, Temp("Cache/Recovered_090530_a.kev"));
+  EXPECT_EQ(failure->reason, "No such file or directory");
+  EXPECT_THAT(host_.Messages, IsEmpty());
 }
 
 TEST_F(UndoCommands, AnEndThatAsksNobodyDeletesWhatIsSaved) {

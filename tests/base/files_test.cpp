@@ -90,6 +90,28 @@ TEST(WriteWholeFile, WritesThroughALinkAndLeavesItALink) {
   EXPECT_EQ(ReadBytes(folder / "real"), "y");
 }
 
+TEST(WriteWholeFile, MakesTheFileThatALinkLeadsTo) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "below");
+  fs::create_symlink("below/second", folder / "first");
+  fs::create_symlink("../real", folder / "below/second");
+  ASSERT_FALSE(WriteWholeFile(folder / "first", "y"));
+  EXPECT_TRUE(fs::is_symlink(folder / "first"));
+  EXPECT_TRUE(fs::is_symlink(folder / "below/second"));
+  EXPECT_EQ(ReadBytes(folder / "real"), "y");
+}
+
+TEST(WriteWholeFile, LeavesAPipeAndADeviceAlone) {
+  const TemporaryFolder folder;
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(WriteWholeFile(folder / "pipe", "x")->reason, "not a regular file");
+  EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+  fs::create_symlink("/dev/null", folder / "null");
+  EXPECT_EQ(WriteWholeFile(folder / "null", "x")->reason, "not a regular file");
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+  EXPECT_THAT(NamesIn(folder / ""), testing::ElementsAre("null", "pipe"));
+}
+
 TEST(WriteWholeFile, WritesAFileOfTheLongestName) {
   const TemporaryFolder folder;
   for (const std::size_t length : {251U, 255U}) {
@@ -166,11 +188,27 @@ TEST(RewriteLocked, TellsOfWhatCannotBeReadOrDoesNotFit) {
   EXPECT_EQ(RewriteLocked(folder / "a", longer)->reason, "File too large");
 }
 
-TEST(WritePlainFile, TellsOfWhatDoesNotFit) {
+TEST(WritePlainFile, TellsOfWhatDoesNotFitAndLeavesNoPartOfIt) {
   const TemporaryFolder folder;
   EXPECT_EQ(WritePlainFile(folder / "", "x")->reason, "Is a directory");
   const test::FullDisk full(4096);
   EXPECT_EQ(WritePlainFile(folder / "a", std::string(10000, 'x'))->reason, "File too large");
+  EXPECT_THAT(NamesIn(folder / ""), IsEmpty());
+}
+
+// What somebody has put where the file will be.
+TEST(WritePlainFile, WritesIntoNoLinkAndNoPipe) {
+  const TemporaryFolder folder;
+  WriteBytes(folder / "victim", "whole");
+  fs::create_symlink("victim", folder / "link");
+  fs::create_hard_link(folder / "victim", folder / "hard");
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  for (const char* name : {"link", "hard", "pipe"}) {
+    EXPECT_FALSE(WritePlainFile(folder / name, "new")) << name;
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder / name))) << name;
+    EXPECT_EQ(ReadBytes(folder / name), "new") << name;
+  }
+  EXPECT_EQ(ReadBytes(folder / "victim"), "whole");
 }
 
 // Some files of the system are shorter than it says.

@@ -111,14 +111,21 @@ Campaign::Campaign(Wanted wanted) : wanted_(std::move(wanted)), shared_(SharedBl
            {"disk full for good", {kFileKinds, Manner::Onward, ENOSPC}, 1},
            {"killed at a call", {kFileKinds, Manner::Kill, 0}, 1},
            {"a write in two parts", {kWrite, Manner::Short, 0}, 1},
+           {"a read in two parts", {kRead, Manner::Short, 0}, 1},
+           {"no locks", {kLock, Manner::Onward, ENOLCK}, 1},
            {"no memory", {kMemory, Manner::Once, ENOMEM}, memoryStep},
            {"no memory for good", {kMemory, Manner::Onward, ENOMEM}, memoryStep},
-           {"killed at an allocation", {kMemory, Manner::Kill, 0}, memoryStep * 5}};
+           {"killed at an allocation", {kMemory, Manner::Kill, 0}, memoryStep}};
   if (wanted_.IsShort) return;
   rows_.push_back({"no permission", {kFileKinds, Manner::Once, EACCES}, 1});
   rows_.push_back({"no permission for good", {kFileKinds, Manner::Onward, EACCES}, 1});
   rows_.push_back({"bad disk", {kFileKinds, Manner::Once, EIO}, 1});
   rows_.push_back({"bad disk for good", {kFileKinds, Manner::Onward, EIO}, 1});
+  rows_.push_back({"disk read-only", {kFileKinds & ~kRead, Manner::Onward, EROFS}, 1});
+  rows_.push_back({"quota reached", {kWrite | kSync | kClose, Manner::Once, EDQUOT}, 1});
+  rows_.push_back({"interrupted", {kFileKinds, Manner::Once, EINTR}, 1});
+  rows_.push_back({"too many open files", {kOpen, Manner::Once, EMFILE}, 1});
+  rows_.push_back({"too many open files for good", {kOpen, Manner::Onward, EMFILE}, 1});
 }
 
 void Campaign::Act(const Scene& scene, const Plan& plan, std::int64_t at) {

@@ -61,7 +61,7 @@ Verdict Count(Kind kind) {
   if (!hit) return Verdict::Go;
   if (control->Failed++ == 0) control->Last = kind;
   if (control->How == Manner::Kill) ::syscall(SYS_kill, ::getpid(), SIGKILL);
-  if (control->How == Manner::Short) return kind == kWrite ? Verdict::Half : Verdict::Go;
+  if (control->How == Manner::Short) return kind == kWrite || kind == kRead ? Verdict::Half : Verdict::Go;
   errno = control->Error;
   return Verdict::Fail;
 }
@@ -184,8 +184,9 @@ KEV_PWRITE(pwrite)
 KEV_PWRITE(pwrite64)
 
 ssize_t read(int file, void* bytes, std::size_t count) {
-  if (Fails(kRead, file)) return -1;
-  return ::syscall(SYS_read, file, bytes, count);
+  const Verdict verdict = Judge(kRead, file);
+  if (verdict == Verdict::Fail) return -1;
+  return ::syscall(SYS_read, file, bytes, verdict == Verdict::Half && count > 1 ? count / 2 : count);
 }
 
 int fsync(int file) {

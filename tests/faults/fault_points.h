@@ -28,7 +28,7 @@ enum class Manner : std::uint32_t {
   Once,    // the call of the number fails
   Onward,  // it and all behind it
   Kill,    // the process is killed in its place
-  Short,   // a write takes only half of its bytes; other calls go well
+  Short,   // a write or read takes only half of its bytes; other calls go well
 };
 
 // Plain data, so that a file that two processes map can hold it.

@@ -2,6 +2,7 @@
 #include "faults/scenes.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <utility>
 
@@ -18,6 +19,12 @@ namespace {
 constexpr const char* kTemplate = "work/invoice.kev";
 constexpr const char* kOptions = "data/Kev/LASTRV.DAT";
 constexpr const char* kLost = "temp/Kev/Cache/Recovered_080000_lost.kev";
+
+// As short as can be: each allocation is made to fail in a run of its own.
+std::string Letter() {
+  return "KEXVER=4\r\n[HEADER]\r\n{100;b=y}Dear @Name{\\n}\r\n{100;b=n}Yours{\\n}\r\n"
+         "[DATA]\r\n{Spacing=40;\\n}\r\n[FOOTER]\r\n{Spacing=40;\\n}\r\n";
+}
 
 std::string BytesIn(const Home::All& files, const std::string& name) {
   const auto found = files.find(name);
@@ -82,6 +89,11 @@ void CheckLeft(const Ending& ending, const Home::All& now, const Home::All& old,
     if (name.find("/.kev") != std::string::npos || name.starts_with("work/"))
       complaints.push_back(name + " was left");
   }
+}
+
+Home::All Recoveries(Home::All files) {
+  std::erase_if(files, [](const auto& file) { return !IsRecovery(file.first); });
+  return files;
 }
 
 // Recovery files are whole at any moment: what the good run or the start has there.
@@ -160,9 +172,6 @@ class OpenScene : public Scene {
     const bool isOld = BytesIn(now, kOther) == BytesIn(old, kOther);
     return isOld ? Complaints{} : Complaints{"the template that is opened has changed"};
   }
-
- protected:
-  static std::string Letter() { return test::ReadBytes(std::string(KEV_EXAMPLES_DIR) + "/letter.kev"); }
 };
 
 class OpenEncodedScene final : public OpenScene {
@@ -256,6 +265,8 @@ class PushScene final : public Scene {
     CheckRecovery(now, old, good, complaints);
     if (std::none_of(now.begin(), now.end(), [](const auto& file) { return IsRecovery(file.first); }))
       complaints.push_back("no recovery file is left");
+    if (ending.Planned.Error == ENOLCK && Recoveries(now) != Recoveries(good))
+      complaints.push_back("the recovery file needs a lock");
     return complaints;
   }
 };
@@ -289,7 +300,7 @@ class RecoverScene : public Scene {
   bool StartsItself() const override { return true; }
   std::vector<std::string> Arguments(const Home&) const override { return {}; }
   void Furnish(const Home& home) const override {
-    test::WriteBytes(home.Path(kLost), test::ReadBytes(std::string(KEV_EXAMPLES_DIR) + "/letter.kev"));
+    test::WriteBytes(home.Path(kLost), Letter());
   }
   void Prepare(Run& run, const Home& home) const override {
     run.View.Recovers = true;

@@ -2,6 +2,7 @@
 // What kevtool says of itself and of a wrong call, command by command.
 #include <gtest/gtest.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -227,6 +228,33 @@ TEST_F(KevtoolUsage, AnOutputThatCannotBeWrittenIsNamed) {
                  {{"pack", "good.kev", "folder"}, "folder: Is a directory"},
                  {{"unpack", "packed.kev", "folder"}, "folder: Is a directory"},
                  {{"new", "--kex", "good.kex", "folder"}, "folder: Is a directory"}});
+}
+
+TEST_F(KevtoolUsage, OutputThatNobodyTakesIsAFailure) {
+  const std::string tool = ShellQuoted(std::string(KEV_PROGRAM_DIR) + "/kevtool");
+  const auto run = [&](const std::string& rest) {
+    const int status = std::system(
+        ("cd " + ShellQuoted(folder / "") + " && " + tool + " " + rest + " 2>.stderr").c_str());
+    return std::pair(WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadBytes(folder / ".stderr"));
+  };
+  const std::string full = "kevtool: standard output: No space left on device\n";
+  EXPECT_EQ(run("dump good.kev >/dev/full"), std::pair(1, full));
+  EXPECT_EQ(run("--help >/dev/full"), std::pair(1, full));
+  EXPECT_EQ(run("dump good.kev >&-"),
+            std::pair(1, std::string("kevtool: standard output: Bad file descriptor\n")));
+  // Nothing is said, so that nothing is lost.
+  EXPECT_EQ(run("rewrite good.kev out.kev >/dev/full"), std::pair(0, std::string()));
+  EXPECT_EQ(run("rewrite good.kev out.kev <&- >&- "), std::pair(0, std::string()));
+}
+
+TEST_F(KevtoolUsage, AnOutputThatIsNoFileStaysWhatItIs) {
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  const std::string reason = ": not a regular file";
+  ExpectRefused({{{"rewrite", "good.kev", "pipe"}, "pipe" + reason},
+                 {{"pack", "good.kev", "pipe"}, "pipe" + reason},
+                 {{"unpack", "packed.kev", "pipe"}, "pipe" + reason},
+                 {{"new", "--kex", "good.kex", "pipe"}, "pipe" + reason}});
+  EXPECT_TRUE(std::filesystem::is_fifo(folder / "pipe"));
 }
 
 TEST_F(KevtoolUsage, AKindOfBarCodeThatIsNoneIsNamed) {

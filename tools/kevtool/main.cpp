@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <exception>
 #include <functional>
 #include <iostream>
 #include <memory>
 
+#include "base/descriptor.h"
+#include "base/process.h"
 #include "commands.h"
 #include "data/sample_check.h"
 
@@ -154,9 +157,18 @@ void AddRender(CLI::App& app, Invocation& invocation) {
 }
 #endif
 
+// A result of which a part is missing is none.
+int WithOutputDone(int status) {
+  const int error = kev::FlushStandardOutput();
+  if (error == 0) return status;
+  std::cerr << "kevtool: standard output: " << kev::FailureOfSystem({}, error).reason << '\n';
+  return std::max(status, kRefused);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  kev::PrepareProcess();
   CLI::App app{"Kev templates on the command line", "kevtool"};
   app.set_version_flag("--version", "kevtool " KEV_VERSION);
   app.require_subcommand(1);
@@ -179,10 +191,10 @@ int main(int argc, char** argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? kGood : kWrongUsage;
+    return WithOutputDone(app.exit(error) == 0 ? kGood : kWrongUsage);
   }
   try {
-    return invocation.run();
+    return WithOutputDone(invocation.run());
   } catch (const std::exception& error) {
     std::cerr << "kevtool: " << error.what() << '\n';
     return kRefused;

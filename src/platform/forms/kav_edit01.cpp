@@ -15,7 +15,9 @@
 #include <QUrl>
 #include <array>
 #include <exception>
+#include <functional>
 #include <iostream>
+#include <optional>
 #include <utility>
 
 #include "app/documentation.h"
@@ -62,6 +64,16 @@ constexpr int kNoPatience = 50;
 constexpr std::array kFilterCommands = {std::pair(DisplayFilter::All, Command::SeeAll),
                                         std::pair(DisplayFilter::Ebeu, Command::SeeModifiable),
                                         std::pair(DisplayFilter::Print, Command::SeePrinted)};
+
+// Nobody is there to read a box.
+void TellOnErrors(const std::function<std::optional<FileFailure>()>& work) {
+  try {
+    const std::optional<FileFailure> failure = work();
+    if (failure) std::cerr << "kev: " << failure->path << ": " << failure->reason << '\n';
+  } catch (const std::exception& failure) {
+    std::cerr << "kev: " << failure.what() << '\n';
+  }
+}
 
 bool IsSampleData(const std::string& path) {
   return SampleKindOf(path) != SampleKind::Other;
@@ -262,7 +274,10 @@ bool KavEdit01::event(QEvent* event) {
     QTimer::singleShot(0, this, &KavEdit01::Activate);
   }
   if (event->type() == QEvent::ScreenChangeInternal) FollowScreen();
-  if (event->type() == QEvent::WindowUnblocked) QTimer::singleShot(0, this, &KavEdit01::CloseIfWanted);
+  if (event->type() == QEvent::WindowUnblocked) {
+    QTimer::singleShot(0, this, [this] { focusKeeper_.Mend(); });
+    QTimer::singleShot(0, this, &KavEdit01::CloseIfWanted);
+  }
   return handled;
 }
 
@@ -320,15 +335,12 @@ void KavEdit01::CloseIfWanted() {
 }
 
 void KavEdit01::EndWithoutAsking() {
-  try {
-    const std::optional<FileFailure> failure =
-        std::exchange(ended_, true) ? std::nullopt : designer_.ShutDownSilently();
-    if (failure) std::cerr << "kev: " << failure->path << ": " << failure->reason << '\n';
-  } catch (const std::exception& failure) {
-    std::cerr << "kev: " << failure.what() << '\n';
-  }
-  // Leaves the loops of open boxes as well; a polite quit would ask each window first.
+  // Leaves the loops of open boxes, and of those that the rest would show; a polite quit would ask each window
+  // first.
   QCoreApplication::exit();
+  if (std::exchange(ended_, true)) return;
+  TellOnErrors([this] { return designer_.KeepUnsaved(); });
+  TellOnErrors([this] { return designer_.ShutDownSilently(); });
 }
 
 // --- Commands ---------------------------------------------------------------------------------------------

@@ -10,6 +10,7 @@
 #include "app/designer.h"
 #include "platform/chart_files.h"
 #include "platform/close_requests.h"
+#include "platform/focus_keeper.h"
 #include "platform/page_input.h"
 #include "platform/page_view.h"
 #include "platform/qt_host.h"
@@ -138,6 +139,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   // How long a wanted close is held up by a program that is waited for.
   QTimer patience_;
   CloseRequests closeRequests_{*this, [this] { DelayClose(); }};
+  FocusKeeper focusKeeper_{*this};
 };
 
 }  // namespace kev
