@@ -213,7 +213,8 @@ class Designer {
   // After the window has closed: writes the options, deletes the working files of this run.
   void ShutDown();
   // Where the program ends and nobody is there to be asked: what is typed somewhere goes into the document,
-  // and the document as it stands into the recovery file. What could not be written is returned and not shown.
+  // and the document as it stands into the recovery file. What could not be written is returned and not
+  // shown.
   std::optional<FileFailure> KeepUnsaved();
   // ShutDown where nobody is there to read a box: what could not be written is returned and not shown.
   std::optional<FileFailure> ShutDownSilently();

@@ -128,8 +128,8 @@ bool IsHeld(const std::string& path) {
   const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
   struct stat opened {};
   if (!file || ::fstat(file.Number(), &opened) != 0) return true;
-  const bool isFree = ::flock(file.Number(), LOCK_SH | LOCK_NB) == 0 ||
-                      (KnowsNoLocks(errno) && !HoldName(opened).IsTaken());
+  const bool isFree =
+      ::flock(file.Number(), LOCK_SH | LOCK_NB) == 0 || (KnowsNoLocks(errno) && !HoldName(opened).IsTaken());
   return !isFree || !IsNamed(opened, path);
 }
 

@@ -35,8 +35,8 @@ class Descriptor {
 int WriteAll(int descriptor, std::string_view bytes);
 FileFailure FailureOfSystem(std::string path, int error);
 
-// 0, or the system's error number. Waits for other holders, but no longer than a second; where the file system
-// has no locks, for nobody.
+// 0, or the system's error number. Waits for other holders, but no longer than a second; where the file
+// system has no locks, for nobody.
 int LockPatiently(const Descriptor& file);
 // Holds a folder against HoldFolder of others, so that one at a time changes what lies in it; waits as
 // LockPatiently does. Nothing where it can't be held.

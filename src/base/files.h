@@ -20,8 +20,8 @@ inline constexpr std::size_t kLargestFile = 64UL * 1024 * 1024;
 Result<std::string> ReadWholeFile(const std::string& path);
 
 // The file appears whole or not at all: written beside its target, flushed, renamed over it.
-// Returns what went wrong; the old file is then unchanged. Where a link leads, the link stays; what is neither
-// a file nor free is refused.
+// Returns what went wrong; the old file is then unchanged. Where a link leads, the link stays; what is
+// neither a file nor free is refused.
 std::optional<FileFailure> WriteWholeFile(const std::string& path, std::string_view bytes);
 
 // Reads a small file, or nothing where there is none, and writes what `change` makes of it, in place. Other

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Gives a window the keyboard back that the toolkit does not know to be its own. When the window system hands
-// the keyboard to a window while a dialog is open, the toolkit passes it on to the dialog; where that has gone
-// before the window manager hears of it, typed letters still arrive and shortcuts never do.
+// the keyboard to a window while a dialog is open, the toolkit passes it on to the dialog; where that has
+// gone before the window manager hears of it, typed letters still arrive and shortcuts never do.
 #pragma once
 
 #include <QAbstractNativeEventFilter>

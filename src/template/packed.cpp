@@ -39,8 +39,8 @@ using Source = std::unique_ptr<zip_source_t, Discard>;
 // What the library for archives says of a failure is seldom its cause: whether memory or the disk were at an
 // end tells the system, whose number is set back before the library is called.
 FileFailure FailureOfLibrary(const char* otherwise) {
-  constexpr auto kOfDisk = std::to_array({EIO, EACCES, EPERM, ENOSPC, EDQUOT, EROFS, EMFILE, ENFILE, EINTR,
-                                          ESTALE, ETIMEDOUT, ENXIO, ENOENT});
+  constexpr auto kOfDisk = std::to_array(
+      {EIO, EACCES, EPERM, ENOSPC, EDQUOT, EROFS, EMFILE, ENFILE, EINTR, ESTALE, ETIMEDOUT, ENXIO, ENOENT});
   const int error = errno;
   if (error == ENOMEM) return {{}, kReasonOutOfMemory};
   if (std::find(kOfDisk.begin(), kOfDisk.end(), error) != kOfDisk.end()) return FailureOfSystem({}, error);

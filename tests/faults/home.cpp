@@ -12,8 +12,8 @@ namespace fs = std::filesystem;
 constexpr const char* kFolders[] = {"temp/Kev/Cache", "temp/Kev/Temp", "temp/Kev",
                                     "data/Kev/temp",  "data/Kev",      "work"};
 
-// Something of each kind that takes the memory in a way of its own, and no more of it: each allocation is made
-// to fail in a run of its own.
+// Something of each kind that takes the memory in a way of its own, and no more of it: each allocation is
+// made to fail in a run of its own.
 constexpr const char* kInvoice =
     "[CONFIGURATION]\r\n"
     "Report_Title=Invoice\r\nSample_Kex_file=invoice.kex\r\n$Col_01=850\r\nPAPERSIZE=A4\r\nKEXVER=4\r\n"

@@ -299,9 +299,7 @@ class RecoverScene : public Scene {
   std::string Name() const override { return toPlace_ ? "recover" : "recover in the cache"; }
   bool StartsItself() const override { return true; }
   std::vector<std::string> Arguments(const Home&) const override { return {}; }
-  void Furnish(const Home& home) const override {
-    test::WriteBytes(home.Path(kLost), Letter());
-  }
+  void Furnish(const Home& home) const override { test::WriteBytes(home.Path(kLost), Letter()); }
   void Prepare(Run& run, const Home& home) const override {
     run.View.Recovers = true;
     if (toPlace_) run.TheHost.Place = home.Path("work/found.kev");

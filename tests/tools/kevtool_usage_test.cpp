@@ -233,8 +233,8 @@ TEST_F(KevtoolUsage, AnOutputThatCannotBeWrittenIsNamed) {
 TEST_F(KevtoolUsage, OutputThatNobodyTakesIsAFailure) {
   const std::string tool = ShellQuoted(std::string(KEV_PROGRAM_DIR) + "/kevtool");
   const auto run = [&](const std::string& rest) {
-    const int status = std::system(
-        ("cd " + ShellQuoted(folder / "") + " && " + tool + " " + rest + " 2>.stderr").c_str());
+    const int status =
+        std::system(("cd " + ShellQuoted(folder / "") + " && " + tool + " " + rest + " 2>.stderr").c_str());
     return std::pair(WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadBytes(folder / ".stderr"));
   };
   const std::string full = "kevtool: standard output: No space left on device\n";

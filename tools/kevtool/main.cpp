@@ -5,9 +5,11 @@
 #include <functional>
 #include <iostream>
 #include <memory>
+#include <new>
 
 #include "base/descriptor.h"
 #include "base/process.h"
+#include "base/reasons.h"
 #include "commands.h"
 #include "data/sample_check.h"
 
@@ -165,10 +167,7 @@ int WithOutputDone(int status) {
   return std::max(status, kRefused);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  kev::PrepareProcess();
+int Run(int argc, char** argv) {
   CLI::App app{"Kev templates on the command line", "kevtool"};
   app.set_version_flag("--version", "kevtool " KEV_VERSION);
   app.require_subcommand(1);
@@ -193,10 +192,19 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return WithOutputDone(app.exit(error) == 0 ? kGood : kWrongUsage);
   }
+  return WithOutputDone(invocation.run());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  kev::PrepareProcess();
   try {
-    return WithOutputDone(invocation.run());
+    return Run(argc, argv);
+  } catch (const std::bad_alloc&) {
+    std::cerr << "kevtool: " << kev::kReasonOutOfMemory << '\n';
   } catch (const std::exception& error) {
     std::cerr << "kevtool: " << error.what() << '\n';
-    return kRefused;
   }
+  return kRefused;
 }

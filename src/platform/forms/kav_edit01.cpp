@@ -335,8 +335,8 @@ void KavEdit01::CloseIfWanted() {
 }
 
 void KavEdit01::EndWithoutAsking() {
-  // Leaves the loops of open boxes, and of those that the rest would show; a polite quit would ask each window
-  // first.
+  // Leaves the loops of open boxes, and of those that the rest would show; a polite quit would ask each
+  // window first.
   QCoreApplication::exit();
   if (std::exchange(ended_, true)) return;
   TellOnErrors([this] { return designer_.KeepUnsaved(); });
