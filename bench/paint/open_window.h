@@ -10,7 +10,6 @@
 
 #include "platform/forms/kav_edit01.h"
 #include "platform/forms/kavsplash.h"
-#include "platform/page_strips.h"
 #include "platform/qt_measurer.h"
 #include "support/sample_template.h"
 
@@ -51,7 +50,7 @@ class Window {
   // Nothing is left that would be done sooner or later without the user.
   void Rest() {
     Settle();
-    while (!StripsAhead::Of(Page()).IsDone())
+    while (!Page().IsPaintedAhead())
       QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }
 

@@ -11,7 +11,6 @@
 
 #include "platform/focus_edges.h"
 #include "platform/page_accessible.h"
-#include "platform/page_strips.h"
 
 namespace kev {
 namespace {
@@ -43,7 +42,10 @@ QPoint PageCorner(const PageCanvas& canvas, const DisplayList& list) {
 
 }  // namespace
 
-PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent) : QAbstractScrollArea(parent), list_(list) {
+PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent)
+    : QAbstractScrollArea(parent),
+      list_(list),
+      strips_(list, *viewport(), [this] { return viewport()->rect().translated(-PageCorner(*this, list_)); }) {
   MakePageAccessible();
   setObjectName(QStringLiteral("p1"));
   setFrameShape(QFrame::NoFrame);
@@ -51,8 +53,6 @@ PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent) : QAbstractScro
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   new FocusEdges(*this);
-  new StripsAhead(
-      list_, *viewport(), [this] { return viewport()->rect().translated(-PageCorner(*this, list_)); }, this);
   FitWindow();
 }
 
@@ -63,7 +63,7 @@ PageCanvas::~PageCanvas() {
 }
 
 void PageCanvas::ShowList() {
-  StripsAhead::Of(*this).Forget();
+  strips_.Forget();
   FitWindow();
   viewport()->update();
 }
@@ -150,14 +150,13 @@ void PageCanvas::PaintDesk(QPainter& painter, const QRectF& exposed, const QRect
 
 void PageCanvas::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
-  StripsAhead& strips = StripsAhead::Of(*this);
-  const QRect page(PageCorner(*this, list_), strips.Strips().PageSize());
+  const QRect page(PageCorner(*this, list_), strips_.Strips().PageSize());
   for (const QRect& rect : event->region()) {
     painter.save();
     painter.setClipRect(rect);
     PaintDesk(painter, rect, page);
     painter.translate(page.topLeft());
-    strips.Paint(painter, rect.translated(-page.topLeft()));
+    strips_.Paint(painter, rect.translated(-page.topLeft()));
     painter.restore();
   }
 }

@@ -137,18 +137,10 @@ void PageStrips::Paint(QPainter& painter, const QRect& part) const {
 
 // --- When they are painted --------------------------------------------------------------------------------
 
-StripsAhead::StripsAhead(const DisplayList& list, const QWidget& viewport, std::function<QRect()> seen,
-                         QObject* canvas)
-    : QObject(canvas), strips_(list), viewport_(viewport), seen_(std::move(seen)) {
+StripsAhead::StripsAhead(const DisplayList& list, const QWidget& viewport, std::function<QRect()> seen)
+    : strips_(list), viewport_(viewport), seen_(std::move(seen)) {
   quiet_.setSingleShot(true);
-  connect(&quiet_, &QTimer::timeout, this, &StripsAhead::PaintNext);
-}
-
-StripsAhead& StripsAhead::Of(const QObject& canvas) {
-  const QObjectList& parts = canvas.children();
-  const auto own = std::find_if(parts.begin(), parts.end(),
-                                [](const QObject* part) { return dynamic_cast<const StripsAhead*>(part); });
-  return dynamic_cast<StripsAhead&>(**own);
+  QObject::connect(&quiet_, &QTimer::timeout, &quiet_, [this] { PaintNext(); });
 }
 
 void StripsAhead::Forget() {
