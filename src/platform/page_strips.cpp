@@ -71,11 +71,9 @@ bool PageStrips::PaintAhead(const QRect& seen, double ratio) {
   if (missing == wanted.end()) return false;
   QImage made = MakeStrip(*missing);
   if (made.isNull()) return false;
-  const qint64 most = kMostBytes / std::max<qint64>(made.sizeInBytes(), 1);
-  if (static_cast<qint64>(strips_.size()) >= most)
-    std::erase_if(strips_, [&](const auto& known) {
-      return std::find(wanted.begin(), wanted.end(), known.first) == wanted.end();
-    });
+  std::erase_if(strips_, [&](const auto& known) {
+    return std::find(wanted.begin(), wanted.end(), known.first) == wanted.end();
+  });
   strips_.emplace(*missing, std::move(made));
   return true;
 }
