@@ -40,6 +40,16 @@ QPoint PageCorner(const PageCanvas& canvas, const DisplayList& list) {
   return canvas.ToViewport(list.Canvas().topLeft()).toPoint();
 }
 
+// What stands above the page has its place, whatever is shown and hidden there. A scroll area that is asked to
+// lay it out brings its scroll bars to the front, and paints them and all that stands beside them anew.
+class PlacedByHand final : public QObject {
+ public:
+  explicit PlacedByHand(QWidget& viewport) : QObject(&viewport) { viewport.installEventFilter(this); }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::LayoutRequest; }
+};
+
 }  // namespace
 
 PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent)
@@ -53,6 +63,7 @@ PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent)
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   new FocusEdges(*this);
+  new PlacedByHand(*viewport());
   FitWindow();
 }
 
