@@ -152,10 +152,11 @@ void PageCanvas::PaintDesk(QPainter& painter, const QRectF& exposed, const QRect
   if (beside.isEmpty()) return;
   painter.save();
   painter.setClipRegion(beside, Qt::IntersectClip);
-  painter.fillRect(exposed, kDeskColour);
+  const QRectF around = beside.boundingRect();
+  painter.fillRect(around, kDeskColour);
   for (int i = kShadow; i > 0; --i)
-    painter.fillRect(page.adjusted(2 - i, 2 - i, i, i) & exposed, QColor(0, 0, 0, 7));
-  painter.fillRect(page.adjusted(-1, -1, 1, 1) & exposed, kEdgeColour);
+    painter.fillRect(page.adjusted(2 - i, 2 - i, i, i) & around, QColor(0, 0, 0, 7));
+  painter.fillRect(page.adjusted(-1, -1, 1, 1) & around, kEdgeColour);
   painter.restore();
 }
 
