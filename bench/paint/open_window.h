@@ -17,11 +17,12 @@ namespace kev::bench {
 
 class Window {
  public:
-  explicit Window(int rows)
+  explicit Window(int rows) : Window(SampleTemplate(rows)) {}
+  explicit Window(const std::string& bytes)
       : images_({}),
         measurer_(fonts_),
         designer_(host_, measurer_,
-                  {Variables(), ExecutableFolder(), {Template(rows)}, StartInput::LocalTime}),
+                  {Variables(), ExecutableFolder(), {Template(bytes)}, StartInput::LocalTime}),
         loaded_(designer_.Load()),
         window_(designer_, host_, fonts_, images_) {
     window_.show();
@@ -64,9 +65,9 @@ class Window {
       return std::nullopt;
     };
   }
-  std::string Template(int rows) const {
+  std::string Template(const std::string& bytes) const {
     const std::string path = home_ + "sample.kev";
-    std::ofstream(path, std::ios::binary) << SampleTemplate(rows);
+    std::ofstream(path, std::ios::binary) << bytes;
     return path;
   }
 

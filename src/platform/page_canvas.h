@@ -35,6 +35,7 @@ class PageCanvas : public QAbstractScrollArea {
   void ShowList();
   // Canvas units, as the list has it now.
   double ListHeight() const { return list_.Canvas().height(); }
+  QSizeF ListSize() const { return list_.Canvas().size(); }
 
   // The canvas point (0, 0) in pixels of the viewport; rulers beside the page follow it.
   QPointF Origin() const;
