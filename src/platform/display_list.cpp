@@ -21,9 +21,7 @@ constexpr double kFarthest = 1e12;
 // What is drawn beyond the painted region is cut this far outside it, so that lengths stay sane for the
 // painter and the cut is never seen.
 constexpr double kBeyond = 64;
-// Logical pixels.
-constexpr double kLongestWhole = 8192;
-constexpr double kThinnestPen = 1;
+constexpr double kThinnestPen = 1;  // logical pixels
 constexpr double kThickestPen = 2000;
 
 std::int64_t StripeOf(double y) {
@@ -153,10 +151,8 @@ void DisplayList::Painting::UsePen(const Pen& pen, double dashOffset) {
 }
 
 void DisplayList::Painting::DrawLine(const QLineF& line, const Pen& pen) {
-  Part part = PartInside(line, Grown(window_, kBeyond + pen.width));
+  const Part part = PartInside(line, Grown(window_, kBeyond + pen.width));
   if (part.from > part.to) return;
-  // Cut by the painter, dashes and smooth edges are the same whatever is shown of the line.
-  if (line.length() <= kLongestWhole) part = {};
   UsePen(pen, part.from * line.length());
   const bool level = line.dx() == 0 || line.dy() == 0;
   Smooth(!level);
