@@ -10,7 +10,6 @@
 
 #include "platform/forms/kav_edit01.h"
 #include "platform/forms/kavsplash.h"
-#include "platform/page_strips.h"
 #include "platform/qt_measurer.h"
 #include "support/sample_template.h"
 
@@ -18,11 +17,12 @@ namespace kev::bench {
 
 class Window {
  public:
-  explicit Window(int rows)
+  explicit Window(int rows) : Window(SampleTemplate(rows)) {}
+  explicit Window(const std::string& bytes)
       : images_({}),
         measurer_(fonts_),
         designer_(host_, measurer_,
-                  {Variables(), ExecutableFolder(), {Template(rows)}, StartInput::LocalTime}),
+                  {Variables(), ExecutableFolder(), {Template(bytes)}, StartInput::LocalTime}),
         loaded_(designer_.Load()),
         window_(designer_, host_, fonts_, images_) {
     window_.show();
@@ -51,7 +51,7 @@ class Window {
   // Nothing is left that would be done sooner or later without the user.
   void Rest() {
     Settle();
-    while (!StripsAhead::Of(Page()).IsDone())
+    while (!Page().IsPaintedAhead())
       QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }
 
@@ -65,9 +65,9 @@ class Window {
       return std::nullopt;
     };
   }
-  std::string Template(int rows) const {
+  std::string Template(const std::string& bytes) const {
     const std::string path = home_ + "sample.kev";
-    std::ofstream(path, std::ios::binary) << SampleTemplate(rows);
+    std::ofstream(path, std::ios::binary) << bytes;
     return path;
   }
 

@@ -142,7 +142,7 @@ void PreparedPage::PrintText(double x, double y, std::string_view text) {
   const TextExtent extent = QtMeasurer(fonts_).Measure(font_, text);
   const double pixels = font_.Size * kPixelsPerPoint;
   const QPointF corner = Pixels(x, y);
-  QTransform place = QTransform::fromTranslate(corner.x(), corner.y() + fonts_.Face(font_).ascent * pixels);
+  QTransform place = QTransform::fromTranslate(corner.x(), corner.y() + fonts_.Face(font_).Ascent() * pixels);
   place.scale(pixels / kPrintPixels, pixels / kPrintPixels);
   QFont font = fonts_.Font(font_, kDotsPerInch);
   font.setPixelSize(kPrintPixels);

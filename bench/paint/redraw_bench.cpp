@@ -106,8 +106,8 @@ class Page {
 
 // The images are made once, and touched, so that their memory is there: what a new bitmap costs is not what
 // is measured.
-QImage Bitmap(const QSize& size) {
-  QImage image(size, QImage::Format_RGB32);
+QImage Bitmap(const QSize& size, QImage::Format format = QImage::Format_RGB32) {
+  QImage image(size, format);
   image.fill(Qt::white);
   return image;
 }
@@ -186,6 +186,28 @@ void RedrawPageFloor(benchmark::State& state) {
   CountRows(state, page.Rows());
 }
 
+// The list alone, into a bitmap that has an alpha channel.
+void PaintPremultiplied(benchmark::State& state) {
+  const Page page(state);
+  const QRectF region = page.List().Canvas();
+  QImage image = Bitmap(page.WholeSize(), QImage::Format_ARGB32_Premultiplied);
+  QImage floor = Bitmap(page.WholeSize(), QImage::Format_ARGB32_Premultiplied);
+  PaintList(image, page, region);
+  PaintFloor(floor, page);
+  if (!SamePicture(state, image, floor)) return;
+  for ([[maybe_unused]] auto run : state)
+    PaintList(image, page, region);
+  CountRows(state, page.Rows());
+}
+
+void PaintPremultipliedFloor(benchmark::State& state) {
+  const Page page(state);
+  QImage image = Bitmap(page.WholeSize(), QImage::Format_ARGB32_Premultiplied);
+  for ([[maybe_unused]] auto run : state)
+    PaintFloor(image, page);
+  CountRows(state, page.Rows());
+}
+
 // What a change costs: the table is walked, and the window shows a part of the page.
 void RedrawWindow(benchmark::State& state) {
   Page page(state);
@@ -239,6 +261,8 @@ void AtAllSizesAndZooms(benchmark::internal::Benchmark* benchmark) {
 
 BENCHMARK(RedrawPage)->Apply(AtAllSizesAndZooms);
 BENCHMARK(RedrawPageFloor)->Apply(AtAllSizesAndZooms);
+BENCHMARK(PaintPremultiplied)->Apply(AtAllSizesAndZooms);
+BENCHMARK(PaintPremultipliedFloor)->Apply(AtAllSizesAndZooms);
 BENCHMARK(RedrawToList)->Apply(AtAllSizesAndZooms);
 BENCHMARK(RedrawWindow)->Apply(AtAllSizesAndZooms);
 BENCHMARK(RedrawWindowFloor)->Apply(AtAllSizesAndZooms);

@@ -4,26 +4,31 @@
 
 #include <unistd.h>
 
+#include <QApplication>
 #include <QEvent>
-#include <QObject>
-#include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 namespace kev::bench {
 
-class FirstPaint final : public QObject {
+class FirstPaint final : public QApplication {
  public:
-  // Paints count from the moment on that `ready` says so.
-  FirstPaint(QWidget& widget, std::function<bool()> ready) : ready_(std::move(ready)) {
-    widget.installEventFilter(this);
+  using QApplication::QApplication;
+
+  // Paints of the widget count from the moment on that `ready` says so.
+  void Await(QWidget& widget, std::function<bool()> ready) {
+    widget_ = &widget;
+    ready_ = std::move(ready);
   }
 
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    // The event after it finds the pixels handed to the window system.
-    if (event->type() == QEvent::Paint && ready_()) QTimer::singleShot(0, [] { Tell(); });
-    return false;
+  // What asks the window to paint hands its pixels to the window system before it returns.
+  bool notify(QObject* watched, QEvent* event) override {
+    const QEvent::Type type = event->type();
+    const bool handled = QApplication::notify(watched, event);
+    if (type == QEvent::Paint && watched == widget_ && ready_()) painted_ = true;
+    if (painted_ && (type == QEvent::UpdateRequest || type == QEvent::Expose)) Tell();
+    return handled;
   }
 
  private:
@@ -33,7 +38,9 @@ class FirstPaint final : public QObject {
     ::_exit(told ? 0 : 1);
   }
 
+  const QWidget* widget_ = nullptr;
   std::function<bool()> ready_;
+  bool painted_ = false;
 };
 
 }  // namespace kev::bench

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <vector>
 
 #include "document/sections.h"
 #include "document/text_measurer.h"
@@ -57,6 +58,7 @@ constexpr std::string_view kChart =
     "  {Graph_serie_1_values=120,134,128,15~}\r\n  {Graph_serie_2_name=South}\r\n"
     "  {Graph_serie_2_values=@South}\r\n  {Buildgraph=850,}\r\n";
 constexpr std::string_view kQr = "  {QrCode=9000,,900}@Link~{nobar}\r\n";
+constexpr std::string_view kEndOfBody = "  {Spacing=320;\\n}\r\n";
 constexpr std::string_view kSlanted = "  {W=1;AnyLine=3000,,-240,360,1}\r\n";
 
 std::string_view ObjectText(int number) {
@@ -105,7 +107,7 @@ class Maker {
           text_ += c;
       }
     }
-    text_ += "  {Spacing=320;\\n}\r\n";
+    text_ += kEndOfBody;
   }
 
   int number_ = 0;
@@ -117,6 +119,25 @@ class Maker {
 
 std::string SampleTemplate(int rows) {
   return Maker().Make(rows);
+}
+
+std::string TallTemplate(int rows) {
+  constexpr int kHeight = 800000;
+  const std::string text = SampleTemplate(rows);
+  std::vector<std::string_view> bodies;
+  std::string_view rest = text;
+  for (std::size_t end = 0; (end = rest.find(kEndOfBody)) != std::string_view::npos;) {
+    bodies.push_back(rest.substr(0, end));
+    rest.remove_prefix(end + kEndOfBody.size());
+  }
+  Document plain = ReadOrAbort(text);
+  const int more = kHeight - DeriveGeometry(plain).BottomMost;
+  std::string tall;
+  for (const std::string_view body : bodies) {
+    tall.append(body).append(kEndOfBody);
+    tall += "  {Spacing=" + std::to_string(more / static_cast<int>(bodies.size())) + ";\\n}\r\n";
+  }
+  return tall.append(rest);
 }
 
 Document ReadOrAbort(std::string_view bytes) {

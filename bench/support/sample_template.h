@@ -17,6 +17,8 @@ inline constexpr int kSizes[] = {250, 500, 2001};
 // A template that takes exactly `rows` rows of the table, bars and end bars included. The number of
 // subsections grows with the rows. The same rows always give the same bytes.
 std::string SampleTemplate(int rows);
+// The same with so much room between its bodies that the page is 800,000 twips tall.
+std::string TallTemplate(int rows);
 
 // What a template holds; ends the program when it is refused, because then nothing measured would mean
 // anything.

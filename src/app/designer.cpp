@@ -20,6 +20,7 @@ namespace {
 // Where each row stands, to see whether something moved.
 std::vector<std::int32_t> Places(const ObjectTable& objects) {
   std::vector<std::int32_t> places;
+  places.reserve(static_cast<std::size_t>(objects.LastScanned()));
   for (int row = 1; row <= objects.LastScanned(); ++row)
     places.push_back(objects[row].AbsoluteY);
   return places;
@@ -48,7 +49,9 @@ struct Designer::Kept {
         selected(document.Objects.SelectionCount),
         columns(document.Columns),
         settings(document.Settings) {
-    for (int row = 0; row <= document.Objects.LastScanned(); ++row)
+    const int last = document.Objects.LastScanned();
+    rows.reserve(static_cast<std::size_t>(last) + 1);
+    for (int row = 0; row <= last; ++row)
       rows.push_back(document.Objects[row]);
   }
 

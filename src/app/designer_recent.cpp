@@ -13,8 +13,9 @@ namespace kev {
 void Designer::AddRecentFile() {
   if (documentPath_.empty()) return;
   GuardedView([this] {
-    std::optional<FileFailure> failure = AddToRecentFiles(folders_, documentPath_);
+    // The window paints the page in front of its picture, and then waits for the disk.
     const std::optional<FileFailure> picture = StoreThumbnail();
+    std::optional<FileFailure> failure = AddToRecentFiles(folders_, documentPath_);
     if (!failure) failure = picture;
     // A folder that is missing altogether was told at the start.
     if (failure && FolderExists(InDataFolder(folders_, kRecentFolder)))

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "base/capitals.h"
 #include "base/code_page_table.h"
 
 namespace kev {
@@ -173,6 +174,13 @@ std::optional<std::string> CodePage::FromUtf8(std::string_view utf8, std::string
     text += *byte;
   }
   return text;
+}
+
+std::u32string Utf8Capitals(std::string_view utf8) {
+  std::u32string capitals;
+  for (std::size_t at = 0; at < utf8.size();)
+    capitals += TakeCapital(utf8, at);
+  return capitals;
 }
 
 bool Utf8EqualsIgnoringCase(std::string_view a, std::string_view b) {

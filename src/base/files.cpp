@@ -13,6 +13,7 @@
 
 #include "base/code_page.h"
 #include "base/descriptor.h"
+#include "base/find_file.h"
 #include "base/folder.h"
 #include "base/reasons.h"
 #include "base/text.h"
@@ -76,15 +77,11 @@ int WriteAndClose(Descriptor& file, std::string_view bytes, mode_t mode) {
   return file.Close() == 0 ? 0 : errno;
 }
 
-std::optional<fs::path> FindIgnoringCase(const fs::path& folder, const std::string& name) {
-  std::error_code ignored;
-  if (fs::exists(folder / name, ignored)) return folder / name;
-  std::optional<fs::path> found;
-  for (const std::string& other : NamesIn(folder.string())) {
-    const fs::path candidate = folder / other;
-    // The first in the order of names, so that the choice does not depend on the disk.
-    if (Utf8EqualsIgnoringCase(other, name) && (!found || candidate < *found)) found = candidate;
-  }
+// The first in the order of names, so that the choice does not depend on the disk.
+std::optional<std::string> NameIgnoringCase(const std::string& folder, const std::string& name) {
+  std::optional<std::string> found;
+  for (std::string& other : NamesIn(folder))
+    if (Utf8EqualsIgnoringCase(other, name) && (!found || other < *found)) found = std::move(other);
   return found;
 }
 
@@ -198,21 +195,32 @@ std::string AbsolutePath(std::string_view path) {
   return failed ? std::string(path) : absolute.lexically_normal().string();
 }
 
-std::optional<std::string> FindFile(std::string_view path, std::string_view folder) {
+std::optional<std::string> FindFile(std::string_view path, std::string_view folder,
+                                    const NameLookUp& ignoringCase) {
   std::string mapped(path);
   if (Trim(mapped).empty() || mapped.find('\0') != std::string::npos) return std::nullopt;
   const fs::path asWritten = fs::path(folder) / mapped;
   if (FileExists(asWritten.string())) return asWritten.string();
   ReplaceAll(mapped, '\\', '/');
   const fs::path whole = (fs::path(folder) / mapped).lexically_normal();
+  if (whole.is_absolute() && FileExists(whole.string())) return whole.string();
   fs::path found = whole.is_absolute() ? whole.root_path() : fs::path(".");
+  std::error_code ignored;
   for (const fs::path& part : whole.relative_path()) {
-    const std::optional<fs::path> next = FindIgnoringCase(found, part.string());
-    if (!next) return std::nullopt;
-    found = *next;
+    fs::path next = found / part;
+    if (!fs::exists(next, ignored)) {
+      const std::optional<std::string> name = ignoringCase(found.string(), part.string());
+      if (!name) return std::nullopt;
+      next = found / *name;
+    }
+    found = std::move(next);
   }
   if (!FileExists(found.string())) return std::nullopt;
   return found.string();
+}
+
+std::optional<std::string> FindFile(std::string_view path, std::string_view folder) {
+  return FindFile(path, folder, NameIgnoringCase);
 }
 
 }  // namespace kev

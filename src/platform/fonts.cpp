@@ -2,10 +2,10 @@
 #include "platform/fonts.h"
 
 #include <QFontDatabase>
-#include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "base/numbers.h"
 
@@ -76,6 +76,11 @@ bool NeedsShaping(char16_t c) {
          c >= 0xFB1D;
 }
 
+QFont AtDesignGrid(QFont font) {
+  font.setPixelSize(kUnitsPerEm);
+  return font;
+}
+
 void AppendLines(std::string& key, const FontSpec& spec) {
   key += spec.Underline ? 'u' : ' ';
   key += spec.Strikethrough ? 's' : ' ';
@@ -113,6 +118,24 @@ QString InstalledFamily(std::string_view name) {
   return family;
 }
 
+FaceMetrics::FaceMetrics(QFont face, const CodePage& page)
+    : design_(AtDesignGrid(std::move(face))),
+      metrics_(design_),
+      page_(page),
+      ascent_(metrics_.ascent() / kUnitsPerEm),
+      height_(ascent_ + metrics_.descent() / kUnitsPerEm) {}
+
+FaceMetrics::Byte FaceMetrics::Measured(char c) const {
+  const char16_t character = page_.ToUnicode(c);
+  // Control characters print nothing.
+  const bool prints = character >= 32 && character != 127;
+  return {prints ? metrics_.horizontalAdvance(QChar(character)) / kUnitsPerEm : 0, NeedsShaping(character)};
+}
+
+double FaceMetrics::Advance(const QString& whole) const {
+  return metrics_.horizontalAdvance(whole) / kUnitsPerEm;
+}
+
 const QFont& FontCache::Font(const FontSpec& spec, int dpi) {
   AppendFace(key_, spec);
   AppendLines(key_, spec);
@@ -140,7 +163,7 @@ void FontCache::Print(QPainter& painter, const FontSpec& spec, const QPointF& at
   const double pixels = SanePoints(spec.Size) * kPixelsPerPoint;
   const double scale = pixels / kPrintPixels;
   const QTransform kept = painter.worldTransform();
-  const QTransform place(scale, 0, 0, scale, at.x(), at.y() + Face(spec).ascent * pixels);
+  const QTransform place(scale, 0, 0, scale, at.x(), at.y() + Face(spec).Ascent() * pixels);
   painter.setWorldTransform(place * kept);
   painter.setFont(PrintFont(spec));
   painter.drawText(QPointF(0, 0), Text(spec, text));
@@ -148,24 +171,12 @@ void FontCache::Print(QPainter& painter, const FontSpec& spec, const QPointF& at
   painter.setWorldTransform(kept);
 }
 
-const FaceMetrics& FontCache::Face(const FontSpec& spec) {
+FaceMetrics& FontCache::Face(const FontSpec& spec) {
   const CodePage& page = PageOfCharSet(spec.CharSet, page_());
   AppendFace(key_, spec);
   key_ += page.Name();
   auto& face = faces_[key_];
-  if (face) return *face;
-  face = std::make_unique<FaceMetrics>();
-  face->design = StyledFont(spec);
-  face->design.setPixelSize(kUnitsPerEm);
-  const QFontMetricsF metrics(face->design);
-  face->ascent = metrics.ascent() / kUnitsPerEm;
-  face->descent = metrics.descent() / kUnitsPerEm;
-  for (std::size_t i = 0; i < face->advance.size(); ++i) {
-    const char16_t c = page.ToUnicode(static_cast<char>(i));
-    face->shaped[i] = NeedsShaping(c);
-    // Control characters print nothing.
-    face->advance[i] = c < 32 || c == 127 ? 0 : metrics.horizontalAdvance(QChar(c)) / kUnitsPerEm;
-  }
+  if (!face) face = std::make_unique<FaceMetrics>(StyledFont(spec), page);
   return *face;
 }
 

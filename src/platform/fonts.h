@@ -3,11 +3,13 @@
 #pragma once
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPointF>
 #include <QString>
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -34,13 +36,34 @@ inline QString FromNative(std::string_view path) {
 QString InstalledFamily(std::string_view name);
 
 // One family and style, measured once at the size of its design grid. Widths and heights follow from it at
-// every size, so that a text is as wide at 50 % as at 200 %.
-struct FaceMetrics {
-  QFont design;                       // one em is kUnitsPerEm pixels
-  double ascent = 0;                  // in ems
-  double descent = 0;                 // in ems
-  std::array<double, 256> advance{};  // in ems, by byte
-  std::array<bool, 256> shaped{};     // bytes whose width depends on their neighbours
+// every size, so that a text is as wide at 50 % as at 200 %. Lengths are ems.
+class FaceMetrics {
+ public:
+  FaceMetrics(QFont face, const CodePage& page);
+
+  double Ascent() const { return ascent_; }
+  double Height() const { return height_; }
+  struct Byte {
+    double advance;
+    bool shaped;  // its width depends on its neighbours
+  };
+  const Byte& Of(char c) {
+    std::optional<Byte>& known = bytes_[static_cast<unsigned char>(c)];
+    if (!known) known = Measured(c);
+    return *known;
+  }
+  double Advance(const QString& whole) const;
+
+ private:
+  Byte Measured(char c) const;
+
+  QFont design_;
+  QFontMetricsF metrics_;
+  const CodePage& page_;
+  double ascent_, height_;
+  // Only those that were asked for: for a character that the font lacks, the window system loads one font
+  // after the other.
+  std::array<std::optional<Byte>, 256> bytes_;
 };
 
 // Fonts by what a record says, made once. Not for use by more than one thread.
@@ -51,7 +74,7 @@ class FontCache {
   // For widgets. 1 point is 20 twips, and 15 twips are one logical pixel: a font of `spec.Size` points for a
   // device whose logical resolution is `dpi`. The window system rounds it to whole pixels.
   const QFont& Font(const FontSpec& spec, int dpi);
-  const FaceMetrics& Face(const FontSpec& spec);
+  FaceMetrics& Face(const FontSpec& spec);
   // Prints with the top of the text at `at`, in the painter's pen and unit (the logical pixel), exactly as
   // wide as it measures at any size.
   void Print(QPainter& painter, const FontSpec& spec, const QPointF& at, std::string_view text);

@@ -11,7 +11,6 @@
 
 #include "platform/focus_edges.h"
 #include "platform/page_accessible.h"
-#include "platform/page_strips.h"
 
 namespace kev {
 namespace {
@@ -41,9 +40,22 @@ QPoint PageCorner(const PageCanvas& canvas, const DisplayList& list) {
   return canvas.ToViewport(list.Canvas().topLeft()).toPoint();
 }
 
+// What stands above the page has its place, whatever is shown and hidden there. A scroll area that is asked to
+// lay it out brings its scroll bars to the front, and paints them and all that stands beside them anew.
+class PlacedByHand final : public QObject {
+ public:
+  explicit PlacedByHand(QWidget& viewport) : QObject(&viewport) { viewport.installEventFilter(this); }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::LayoutRequest; }
+};
+
 }  // namespace
 
-PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent) : QAbstractScrollArea(parent), list_(list) {
+PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent)
+    : QAbstractScrollArea(parent),
+      list_(list),
+      strips_(list, *viewport(), [this] { return viewport()->rect().translated(-PageCorner(*this, list_)); }) {
   MakePageAccessible();
   setObjectName(QStringLiteral("p1"));
   setFrameShape(QFrame::NoFrame);
@@ -51,8 +63,7 @@ PageCanvas::PageCanvas(const DisplayList& list, QWidget* parent) : QAbstractScro
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   new FocusEdges(*this);
-  new StripsAhead(
-      list_, *viewport(), [this] { return viewport()->rect().translated(-PageCorner(*this, list_)); }, this);
+  new PlacedByHand(*viewport());
   FitWindow();
 }
 
@@ -63,7 +74,7 @@ PageCanvas::~PageCanvas() {
 }
 
 void PageCanvas::ShowList() {
-  StripsAhead::Of(*this).Forget();
+  strips_.Forget();
   FitWindow();
   viewport()->update();
 }
@@ -141,23 +152,23 @@ void PageCanvas::PaintDesk(QPainter& painter, const QRectF& exposed, const QRect
   if (beside.isEmpty()) return;
   painter.save();
   painter.setClipRegion(beside, Qt::IntersectClip);
-  painter.fillRect(exposed, kDeskColour);
+  const QRectF around = beside.boundingRect();
+  painter.fillRect(around, kDeskColour);
   for (int i = kShadow; i > 0; --i)
-    painter.fillRect(page.adjusted(2 - i, 2 - i, i, i) & exposed, QColor(0, 0, 0, 7));
-  painter.fillRect(page.adjusted(-1, -1, 1, 1) & exposed, kEdgeColour);
+    painter.fillRect(page.adjusted(2 - i, 2 - i, i, i) & around, QColor(0, 0, 0, 7));
+  painter.fillRect(page.adjusted(-1, -1, 1, 1) & around, kEdgeColour);
   painter.restore();
 }
 
 void PageCanvas::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
-  StripsAhead& strips = StripsAhead::Of(*this);
-  const QRect page(PageCorner(*this, list_), strips.Strips().PageSize());
+  const QRect page(PageCorner(*this, list_), strips_.Strips().PageSize());
   for (const QRect& rect : event->region()) {
     painter.save();
     painter.setClipRect(rect);
     PaintDesk(painter, rect, page);
     painter.translate(page.topLeft());
-    strips.Paint(painter, rect.translated(-page.topLeft()));
+    strips_.Paint(painter, rect.translated(-page.topLeft()));
     painter.restore();
   }
 }

@@ -9,6 +9,7 @@
 #include <unordered_map>
 
 #include "platform/display_list.h"
+#include "platform/page_strips.h"
 
 namespace kev {
 
@@ -34,6 +35,7 @@ class PageCanvas : public QAbstractScrollArea {
   void ShowList();
   // Canvas units, as the list has it now.
   double ListHeight() const { return list_.Canvas().height(); }
+  QSizeF ListSize() const { return list_.Canvas().size(); }
 
   // The canvas point (0, 0) in pixels of the viewport; rulers beside the page follow it.
   QPointF Origin() const;
@@ -51,6 +53,8 @@ class PageCanvas : public QAbstractScrollArea {
   void PlaceOverlay(QWidget* overlay, const QRectF& canvasArea);
   // Of a placed overlay, as it was given; empty for one that was not placed.
   QRectF OverlayArea(const QWidget* overlay) const;
+  // Whether what scrolling by a view shows is painted already.
+  bool IsPaintedAhead() const { return strips_.IsDone(); }
 
  Q_SIGNALS:
   void Pointer(const kev::PagePointer& event);
@@ -79,6 +83,7 @@ class PageCanvas : public QAbstractScrollArea {
   void Tell(PagePointer::Action action, const QMouseEvent& event);
 
   const DisplayList& list_;
+  StripsAhead strips_;
   std::unordered_map<QWidget*, QRectF> overlays_;
   int zoomWheel_ = 0;
 };

@@ -71,11 +71,9 @@ bool PageStrips::PaintAhead(const QRect& seen, double ratio) {
   if (missing == wanted.end()) return false;
   QImage made = MakeStrip(*missing);
   if (made.isNull()) return false;
-  const qint64 most = kMostBytes / std::max<qint64>(made.sizeInBytes(), 1);
-  if (static_cast<qint64>(strips_.size()) >= most)
-    std::erase_if(strips_, [&](const auto& known) {
-      return std::find(wanted.begin(), wanted.end(), known.first) == wanted.end();
-    });
+  std::erase_if(strips_, [&](const auto& known) {
+    return std::find(wanted.begin(), wanted.end(), known.first) == wanted.end();
+  });
   strips_.emplace(*missing, std::move(made));
   return true;
 }
@@ -137,18 +135,10 @@ void PageStrips::Paint(QPainter& painter, const QRect& part) const {
 
 // --- When they are painted --------------------------------------------------------------------------------
 
-StripsAhead::StripsAhead(const DisplayList& list, const QWidget& viewport, std::function<QRect()> seen,
-                         QObject* canvas)
-    : QObject(canvas), strips_(list), viewport_(viewport), seen_(std::move(seen)) {
+StripsAhead::StripsAhead(const DisplayList& list, const QWidget& viewport, std::function<QRect()> seen)
+    : strips_(list), viewport_(viewport), seen_(std::move(seen)) {
   quiet_.setSingleShot(true);
-  connect(&quiet_, &QTimer::timeout, this, &StripsAhead::PaintNext);
-}
-
-StripsAhead& StripsAhead::Of(const QObject& canvas) {
-  const QObjectList& parts = canvas.children();
-  const auto own = std::find_if(parts.begin(), parts.end(),
-                                [](const QObject* part) { return dynamic_cast<const StripsAhead*>(part); });
-  return dynamic_cast<StripsAhead&>(**own);
+  QObject::connect(&quiet_, &QTimer::timeout, &quiet_, [this] { PaintNext(); });
 }
 
 void StripsAhead::Forget() {

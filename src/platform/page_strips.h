@@ -7,7 +7,6 @@
 #pragma once
 
 #include <QImage>
-#include <QObject>
 #include <QRect>
 #include <QTimer>
 #include <functional>
@@ -59,14 +58,11 @@ class PageStrips {
 };
 
 // The strips of a canvas, and when they are painted: once nothing has been painted for a moment, one strip
-// after the other, each behind whatever has happened meanwhile. It is a child of the canvas.
-class StripsAhead final : public QObject {
+// after the other, each behind whatever has happened meanwhile.
+class StripsAhead {
  public:
-  // What the viewport shows, from the page's corner, is asked when it is needed.
-  StripsAhead(const DisplayList& list, const QWidget& viewport, std::function<QRect()> seen, QObject* canvas);
-
-  // Of a canvas that has them.
-  static StripsAhead& Of(const QObject& canvas);
+  // What the viewport shows, from the page's corner, is asked when it is needed. List and viewport outlive it.
+  StripsAhead(const DisplayList& list, const QWidget& viewport, std::function<QRect()> seen);
 
   const PageStrips& Strips() const { return strips_; }
   void Forget();

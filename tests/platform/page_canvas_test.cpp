@@ -52,6 +52,38 @@ TEST_F(PageCanvasTest, ShowsThePageWithADeskAround) {
   EXPECT_NE(Pixel({-450, 600}), 0xFFFFFFFF);
 }
 
+class PaintCount final : public QObject {
+ public:
+  explicit PaintCount(QObject& widget) { widget.installEventFilter(this); }
+  int Count() const { return count_; }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    count_ += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+
+ private:
+  int count_ = 0;
+};
+
+TEST_F(PageCanvasTest, WhatIsShownAndHiddenAboveThePagePaintsNoScrollBar) {
+  auto* overlay = new QLabel(canvas_.viewport());
+  canvas_.PlaceOverlay(overlay, {0, 0, 1500, 1500});
+  const auto show = [overlay](bool shown) {
+    overlay->setVisible(shown);
+    QCoreApplication::processEvents();
+  };
+  // Whatever else the window has to paint is painted by then.
+  show(true);
+  show(false);
+  const PaintCount page(*canvas_.viewport()), bar(*canvas_.verticalScrollBar());
+  show(true);
+  show(false);
+  EXPECT_GT(page.Count(), 0);
+  EXPECT_EQ(bar.Count(), 0);
+}
+
 TEST_F(PageCanvasTest, ScrollingShowsWhatLiesFartherDown) {
   canvas_.EnsureVisible({3000, 45000, 1500, 1500});
   QCoreApplication::processEvents();

@@ -147,9 +147,9 @@ TEST_F(PageStripsTest, OfTheWindowComeWhenNothingHappensAndShowTheSame) {
   canvas.show();
   canvas.ShowList();
   QCoreApplication::processEvents();
-  EXPECT_FALSE(StripsAhead::Of(canvas).IsDone());
+  EXPECT_FALSE(canvas.IsPaintedAhead());
   const QImage direct = canvas.viewport()->grab().toImage();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return StripsAhead::Of(canvas).IsDone(); }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return canvas.IsPaintedAhead(); }));
   EXPECT_TRUE(AreAlike(canvas.viewport()->grab().toImage(), direct));
   // Further down, from the strips, and the same painted from the list.
   canvas.verticalScrollBar()->setValue(333);
@@ -162,7 +162,7 @@ TEST_F(PageStripsTest, OfTheWindowGoWithTheListThatTheyShow) {
   PageCanvas canvas(list_);
   canvas.resize(500, 400);
   canvas.show();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return StripsAhead::Of(canvas).IsDone(); }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return canvas.IsPaintedAhead(); }));
   list_.DrawRectColour(0, 0, 900, 900, 0xFF0000, true);
   canvas.ShowList();
   const QImage image = canvas.viewport()->grab().toImage();

@@ -9,6 +9,9 @@
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
+#include <functional>
+#include <optional>
+#include <utility>
 
 #include "app/recent_files.h"
 #include "base/files.h"
@@ -95,6 +98,34 @@ TEST_F(RecentWindow, AThumbnailShowsTheTopOfThePage) {
     for (int x = 0; x < picture.width(); ++x)
       dark += picture.pixelColor(x, y).lightness() < 160 ? 1 : 0;
   EXPECT_GT(dark, 100);
+}
+
+class FirstPaintOf final : public QObject {
+ public:
+  FirstPaintOf(QObject& widget, std::function<void()> painted) : painted_(std::move(painted)) {
+    widget.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint && painted_) std::exchange(painted_, nullptr)();
+    return false;
+  }
+
+ private:
+  std::function<void()> painted_;
+};
+
+TEST_F(RecentWindow, ThePageIsPaintedInFrontOfItsThumbnail) {
+  const std::string first = home.CopyOf("letter.kev"), second = home.CopyOf("invoice.kev");
+  Start({first});
+  QCoreApplication::processEvents();
+  std::optional<bool> wasThere;
+  const FirstPaintOf page(*window->findChild<PageCanvas*>()->viewport(),
+                          [&] { wasThere = !Thumbnail(second).isNull(); });
+  ASSERT_TRUE(designer->OpenTemplate(second));
+  EXPECT_EQ(wasThere, false);
+  EXPECT_FALSE(Thumbnail(second).isNull());
 }
 
 TEST_F(RecentWindow, AThumbnailHasNeitherSelectionNorGridNorZoomNorFilter) {

@@ -66,8 +66,8 @@ void PrintJson(const std::string& file, const Opened& opened, const std::vector<
   std::cout << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
-bool CheckFile(const std::string& file, const CheckChoice& choice) {
-  Opened opened = Open(file);
+bool CheckFile(const std::string& file, const CheckChoice& choice, KnownFolders& known) {
+  Opened opened = Open(file, known);
   std::vector<Finding> findings;
   if (opened.Outcome) findings = FindingsOf(file, opened, choice.strict);
   if (choice.json) {
@@ -84,8 +84,9 @@ bool CheckFile(const std::string& file, const CheckChoice& choice) {
 
 int Check(const CheckChoice& choice) {
   bool good = true;
+  KnownFolders known;
   for (const std::string& file : choice.files)
-    good = CheckFile(file, choice) && good;
+    good = CheckFile(file, choice, known) && good;
   return good ? kGood : kRefused;
 }
 

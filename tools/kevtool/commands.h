@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "barcode/painters.h"
+#include "base/known_folders.h"
 #include "template/reader.h"
 
 namespace kev::tool {
@@ -68,6 +69,8 @@ struct Opened {
 };
 // Reads a template as the designer opens one: what it refuses is refused here too.
 Opened Open(const std::string& file);
+// One of many, whose pictures may lie in folders that are known already.
+Opened Open(const std::string& file, KnownFolders& known);
 // Names the bar codes that could not be painted to their end, on standard error.
 void TellStopped(const std::string& file, const Document& document, const BarcodeState& bars);
 

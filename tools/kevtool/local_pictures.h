@@ -5,17 +5,20 @@
 
 #include <string>
 
+#include "base/known_folders.h"
 #include "document/object_creation.h"
 
 namespace kev::tool {
 
 class LocalPictures final : public PictureSource {
  public:
-  explicit LocalPictures(std::string folder) : folder_(std::move(folder)) {}
+  // What is known of the folders outlives it.
+  LocalPictures(std::string folder, KnownFolders& known) : folder_(std::move(folder)), known_(known) {}
   PictureAnswer Look(std::string_view path) override;
 
  private:
   std::string folder_;
+  KnownFolders& known_;
 };
 
 }  // namespace kev::tool

@@ -27,6 +27,11 @@ std::string_view RefusalReason(Refusal refusal) {
 }  // namespace
 
 Opened Open(const std::string& file) {
+  KnownFolders known;
+  return Open(file, known);
+}
+
+Opened Open(const std::string& file, KnownFolders& known) {
   Opened opened;
   const auto refuse = [&](std::string_view reason) {
     std::cerr << file << ": " << reason << '\n';
@@ -44,7 +49,7 @@ Opened Open(const std::string& file) {
     return opened;
   }
   const BuiltInMeasurer measurer;
-  LocalPictures pictures(FolderOf(AbsolutePath(file)));
+  LocalPictures pictures(FolderOf(AbsolutePath(file)), known);
   Result<ReadOutcome> outcome = ReadTemplateBytes(opened.Bytes, {measurer, pictures});
   if (outcome) {
     opened.Outcome = std::move(*outcome);

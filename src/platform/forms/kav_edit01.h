@@ -72,7 +72,7 @@ class KavEdit01 final : public QMainWindow, public DesignerView {
   void ShowFontTools(const FontTools& tools) override;
   std::optional<Colour> ChooseColour(const Colour& first) override;
   void ShowRecentFiles(const std::vector<std::string>& captions) override;
-  std::string PaintThumbnail(const ThumbnailLook& look) override { return page_.Thumbnail(look); }
+  std::string PaintThumbnail(const ThumbnailLook& look) override;
   void OpenWelcome(WelcomeRun& run) override;
   void OpenDocumentProperties(DocumentPropertiesRun& run) override;
   void ShowQuickPanel(const QuickPanel& panel, const std::string& title) override;

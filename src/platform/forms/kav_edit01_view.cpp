@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the designer shows in the main window: the page, its panels and the dialogs above it.
+#include <QCoreApplication>
 #include <QMenu>
 #include <QTimer>
 #include <utility>
@@ -74,6 +75,13 @@ void KavEdit01::CommandsChanged() {
   toolBars_->Show(enabled, designer_.Surface().Pointer().PendingTool);
   input_.RefreshCursor();
   page_.SelectionChanged();
+}
+
+// The page itself is painted first: nobody waits for the small picture.
+std::string KavEdit01::PaintThumbnail(const ThumbnailLook& look) {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+  return page_.Thumbnail(look);
 }
 
 void KavEdit01::OpenContextMenu(ContextMenu menu) {

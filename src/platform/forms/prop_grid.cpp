@@ -112,8 +112,7 @@ void PropGrid::NameColumns(const QString& caption, const QString& value) {
 void PropGrid::Show(const std::vector<PropertyRow>& rows, const CodePage& page) {
   const int row = CurrentRow();
   const bool keepFocus = committing_ && Holds(window()->focusWidget());
-  model_->Show(rows, page);
-  FitRows();
+  if (model_->Show(rows, page)) FitRows();
   if (keepFocus && !HasOpenCell()) setFocus(Qt::OtherFocusReason);
   if (CurrentRow() == 0 && (row > 0 || hasFocus()))
     SetCurrentRow(row > 0 && row <= model_->rowCount() ? row : 1);

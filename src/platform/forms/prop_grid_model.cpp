@@ -22,20 +22,21 @@ bool SameCaptions(const std::vector<PropertyRow>& a, const std::vector<PropertyR
 
 // Where the rows are those of before, only values that differ are shown anew: the current row keeps its
 // place, and what is being typed into a cell stays.
-void PropGridModel::Show(const std::vector<PropertyRow>& rows, const CodePage& page) {
+bool PropGridModel::Show(const std::vector<PropertyRow>& rows, const CodePage& page) {
   const bool samePage = page_ == &page;
   page_ = &page;
   if (!SameCaptions(rows, rows_)) {
     beginResetModel();
     rows_ = rows;
     endResetModel();
-    return;
+    return true;
   }
   const std::vector<PropertyRow> before = std::exchange(rows_, rows);
   for (int row = 0; row < rowCount(); ++row) {
     const auto i = static_cast<std::size_t>(row);
     if (!samePage || before[i] != rows_[i]) Q_EMIT dataChanged(index(row, 0), index(row, kValue));
   }
+  return false;
 }
 
 QString PropGridModel::TextAt(const QModelIndex& index) const {

@@ -21,7 +21,8 @@ class PropGridModel final : public QAbstractTableModel {
   static constexpr int kCaption = 0;
   static constexpr int kValue = 1;
 
-  void Show(const std::vector<PropertyRow>& rows, const CodePage& page);
+  // Whether the captions are other ones.
+  bool Show(const std::vector<PropertyRow>& rows, const CodePage& page);
   const std::vector<PropertyRow>& Rows() const { return rows_; }
   const PropertyRow& RowAt(const QModelIndex& index) const {
     return rows_[static_cast<std::size_t>(index.row())];

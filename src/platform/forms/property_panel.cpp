@@ -83,6 +83,7 @@ PanelTitle::PanelTitle(const QString& closeName, QWidget* parent) : QWidget(pare
 }
 
 void PanelTitle::SetTitle(const QString& title) {
+  if (title == title_) return;
   title_ = title;
   setAccessibleName(title);
   update();

@@ -27,6 +27,8 @@ constexpr int kBarHeight = 24;
 constexpr int kListHeight = 118;
 constexpr int kListWidth = 116;
 constexpr int kMargin = 8;
+const QColor kEdge(0xB8, 0xC4, 0xD3);
+const QColor kGround(0xF4, 0xF5, 0xF7);
 
 QuickSize SizeOf(const QSize& size) {
   return {size.width(), size.height()};
@@ -125,6 +127,8 @@ QuickPanelForm::QuickPanelForm(Designer& designer, PageCanvas& canvas)
   setAutoFillBackground(true);
   setFrameShape(QFrame::Box);
   setStyleSheet(QStringLiteral("#quickprops { border: 1px solid #b8c4d3; background: #f4f5f7; }"));
+  // What changes on the page below is nothing to it.
+  setAttribute(Qt::WA_OpaquePaintEvent);
   setCursor(Qt::ArrowCursor);
   labelPage_ = BuildLabelPage();
   shapePage_ = BuildShapePage();
@@ -256,7 +260,8 @@ void QuickPanelForm::ShowPanel(const QuickPanel& panel, const QString& title) {
   check2_->setChecked(panel.AlignToGrid);
   FitAndPlace();
   if (isHidden()) show();
-  raise();
+  // Also where it stands on top already, raising it would paint it anew.
+  if (canvas_.children().constLast() != this) raise();
 }
 
 void QuickPanelForm::FillLists() {
@@ -322,6 +327,12 @@ void QuickPanelForm::Leave() {
 bool QuickPanelForm::HasFocus() const {
   const QWidget* focus = focusWidget();
   return focus != nullptr && focus->hasFocus();
+}
+
+void QuickPanelForm::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), kEdge);
+  painter.fillRect(rect().adjusted(1, 1, -1, -1), kGround);
 }
 
 // Nothing that is typed here reaches the page below.

@@ -55,6 +55,7 @@ class QuickPanelForm final : public QFrame {
 
  protected:
   bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
