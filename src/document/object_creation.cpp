@@ -146,7 +146,7 @@ void RowFiller::Subsection() {
   record_.SectionName = SectionNameOf(line, page);
   record_.StartY = kCurrentYValue;
   record_.Content = isBase ? "Section: " + object_.sectionName
-                           : record_.SectionTitle + " [Starts in position: " + record_.StartY + "]";
+                           : record_.SectionTitle.Text() + " [Starts in position: " + record_.StartY.Text() + "]";
   record_.ColorR = record_.ColorG = record_.ColorB = 200;
   record_.FontName = "Arial";
   record_.FontSize = 8;

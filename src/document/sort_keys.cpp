@@ -14,8 +14,6 @@
 namespace kev {
 namespace {
 
-// Makes each number of a usual page six digits long.
-constexpr std::int64_t kKeyOffset = 200000;
 constexpr std::int32_t kEndBarX = 799999;
 
 struct Entry {
@@ -37,43 +35,6 @@ constexpr std::uint64_t PlaceOf(std::int32_t y, std::int32_t x) {
 constexpr std::int32_t YOf(std::uint64_t place) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(place >> 32) ^ 0x80000000U);
 }
-
-constexpr bool HasSixDigits(std::int64_t part) {
-  return part >= 100000 && part <= 999999;
-}
-
-constexpr auto kPairsOfDigits = [] {
-  std::array<char, 200> pairs{};
-  for (std::size_t n = 0; n < 100; ++n) {
-    pairs[2 * n] = static_cast<char>('0' + n / 10);
-    pairs[2 * n + 1] = static_cast<char>('0' + n % 10);
-  }
-  return pairs;
-}();
-
-char* PutSixDigits(char* at, std::int64_t part) {
-  auto rest = static_cast<std::uint32_t>(part);
-  for (int place = 4; place >= 0; place -= 2, rest /= 100)
-    std::copy_n(&kPairsOfDigits[rest % 100 * std::size_t{2}], 2, at + place);
-  return at + 6;
-}
-
-// Each layout writes the keys of all rows, and nearly all numbers have six digits.
-void StoreKey(std::string& key, std::int32_t y, std::int32_t x, int row) {
-  const std::array<std::int64_t, 3> parts = {y + kKeyOffset, x + kKeyOffset, row + kKeyOffset};
-  if (std::all_of(parts.begin(), parts.end(), HasSixDigits)) {
-    key.resize(kSortKeyLength);
-    char* at = key.data();
-    for (const std::int64_t part : parts)
-      at = PutSixDigits(at, part);
-    return;
-  }
-  key.clear();
-  for (const std::int64_t part : parts)
-    key += std::to_string(part);
-  key.resize(std::min(key.size(), kSortKeyLength));
-}
-static_assert(kSortKeyLength == 3 * 6);
 
 // Most objects of a page stand on a few positions. Remembers those that were met last.
 class KnownPositions {
@@ -165,7 +126,7 @@ SortedRows SortRows(const Document& document) {
 
 SortedRows SetSortKeys(const Document& document, std::span<ObjectRecord* const> rows) {
   const auto store = [&](std::size_t row, std::int32_t x) {
-    StoreKey(rows[row]->SortKey, rows[row]->AbsoluteY, x, static_cast<int>(row));
+    rows[row]->SortKey = {rows[row]->AbsoluteY, x, static_cast<int>(row)};
   };
   return Sorted(OccupiedRows(document, rows, store));
 }

@@ -79,7 +79,13 @@ class TextConversion {
     else
       missing_ = std::move(character);
   }
-  void Convert(std::optional<std::string>& text) {
+  template <std::convertible_to<std::string_view> Text>
+  void Convert(Text& text) {
+    std::string converted = text;
+    Convert(converted);
+    text = converted;
+  }
+  void Convert(RareOptional<std::string>& text) {
     if (text) Convert(*text);
   }
   template <typename Number>

@@ -15,8 +15,8 @@ namespace kev {
 namespace {
 
 void ShowTitle(ObjectRecord& bar, const CodePage& page) {
-  bar.Content = IsBaseBar(bar, page) ? "Section: " + bar.SectionTitle
-                                     : bar.SectionTitle + " [Starts in position: " + bar.StartY + "]";
+  bar.Content = IsBaseBar(bar, page) ? "Section: " + bar.SectionTitle.Text()
+                                     : bar.SectionTitle.Text() + " [Starts in position: " + bar.StartY.Text() + "]";
 }
 
 // Right below the last band of the section, above the bar that follows; laying out makes room.
@@ -105,7 +105,7 @@ BaseSection SectionOfBar(const ObjectRecord& bar, const CodePage& page) {
 }
 
 std::string_view HeadOfBar(const ObjectRecord& bar) {
-  const std::size_t blank = bar.SectionTitle.find(kBlank);
+  const std::size_t blank = bar.SectionTitle.Text().find(kBlank);
   if (blank == std::string::npos) return {};
   return Trim(std::string_view(bar.SectionTitle).substr(blank));
 }

@@ -29,7 +29,7 @@ constexpr std::size_t kMostTextBytes = 64UL * 1024 * 1024;
 constexpr std::size_t kMostAppliedBytes = 256UL * 1024 * 1024;
 
 static std::size_t TextBytes(const ObjectRecord& record) {
-  const auto optionalBytes = [](const std::optional<std::string>& text) { return text ? text->size() : 0; };
+  const auto optionalBytes = [](const RareOptional<std::string>& text) { return text ? text->size() : 0; };
   std::size_t bytes = record.Content.size() + record.FontName.size() + record.CharSet.size() +
                       record.Link.size() + record.Format.size() + record.XValue.size() +
                       record.X2Value.size() + record.PicturePath.size() + record.PictureFile.size() +
