@@ -53,7 +53,7 @@ void FillLabel(QuickPanel& panel, const Document& document, const std::vector<st
       panel.Fields.push_back({name, panel.Fields.size()});
     return;
   }
-  const int row = OwnerIndex(document).OwnerOf(panel.Object);
+  const int row = OwnerOf(document, panel.Object);
   if (row == 0) return;
   const ObjectRecord& bar = document.Objects[row];
   // Only the name of a head without fields ends with the bracket of the head; any other bracket is its own.

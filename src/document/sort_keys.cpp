@@ -49,21 +49,22 @@ class KnownPositions {
   }
 
  private:
-  static constexpr std::size_t kSlots = 128;
+  // So many that two positions of a page seldom share one.
+  static constexpr unsigned kSlotBits = 9;
   struct Known {
     std::string_view text;
     std::int32_t place = 0;
   };
 
   static std::size_t SlotOf(std::string_view text) {
-    std::size_t sum = 0;
+    std::uint32_t sum = 0;
     for (const char c : text)
       sum = sum * 31 + static_cast<unsigned char>(c);
-    return (sum ^ sum >> 7) % kSlots;
+    return sum * 2654435769U >> (32 - kSlotBits);
   }
 
   const Document& document_;
-  std::array<Known, kSlots> known_{};
+  std::array<Known, std::size_t{1} << kSlotBits> known_{};
 };
 
 struct Occupied {
