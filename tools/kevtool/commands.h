@@ -3,6 +3,7 @@
 // findings, 2 wrong usage. Results go to standard output, reasons to standard error.
 #pragma once
 
+#include <iostream>
 #include <optional>
 #include <string>
 #include <vector>
@@ -67,7 +68,7 @@ struct Opened {
   std::string Bytes;                   // of the plain form
 };
 // Reads a template as the designer opens one: what it refuses is refused here too.
-Opened Open(const std::string& file);
+Opened Open(const std::string& file, std::ostream& errors = std::cerr);
 // Names the bar codes that could not be painted to their end, on standard error.
 void TellStopped(const std::string& file, const Document& document, const BarcodeState& bars);
 

@@ -26,10 +26,10 @@ std::string_view RefusalReason(Refusal refusal) {
 
 }  // namespace
 
-Opened Open(const std::string& file) {
+Opened Open(const std::string& file, std::ostream& errors) {
   Opened opened;
   const auto refuse = [&](std::string_view reason) {
-    std::cerr << file << ": " << reason << '\n';
+    errors << file << ": " << reason << '\n';
     opened.Refused = reason;
   };
   Result<std::string> bytes = ReadPlainTemplate(file);
