@@ -10,8 +10,8 @@
 
 namespace kev {
 
-// The keys of a text, which must outlive it: only its first 100 lines count, the first line with a key wins, and a
-// line that begins with "#" or "[" holds none.
+// The keys of a text, which must outlive it: only its first 100 lines count, the first line with a key wins,
+// and a line that begins with "#" or "[" holds none.
 class KeyFile {
  public:
   static constexpr std::size_t kLinesLookedAt = 100;

@@ -6,6 +6,7 @@
 #include <array>
 #include <concepts>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace kev {
@@ -16,10 +17,12 @@ class FixedText {
   template <std::convertible_to<std::string_view> Text>
   FixedText& operator=(const Text& text) {
     const std::string_view kept = std::string_view(text).substr(0, kLength);
+    // Behind the text there are zeros, so that equal texts are equal bytes. The text may be a part of this
+    // one.
+    std::array<char, kLength> characters{};
+    std::copy(kept.begin(), kept.end(), characters.begin());
     size_ = static_cast<std::uint8_t>(kept.size());
-    // Behind the text there are zeros, so that equal texts are equal bytes.
-    characters_ = {};
-    std::copy(kept.begin(), kept.end(), characters_.begin());
+    characters_ = characters;
     return *this;
   }
 

@@ -145,8 +145,9 @@ void RowFiller::Subsection() {
   record_.SectionTitle = isBase ? object_.sectionName : object_.sectionName + " " + line;
   record_.SectionName = SectionNameOf(line, page);
   record_.StartY = kCurrentYValue;
-  record_.Content = isBase ? "Section: " + object_.sectionName
-                           : record_.SectionTitle.Text() + " [Starts in position: " + record_.StartY.Text() + "]";
+  record_.Content =
+      isBase ? "Section: " + object_.sectionName
+             : record_.SectionTitle.Text() + " [Starts in position: " + record_.StartY.Text() + "]";
   record_.ColorR = record_.ColorG = record_.ColorB = 200;
   record_.FontName = "Arial";
   record_.FontSize = 8;

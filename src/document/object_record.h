@@ -94,10 +94,10 @@ struct ObjectRecord {
   // With green and blue at -1, red is one of the sixteen basic colours.
   std::int16_t ColorR = 0, ColorG = 0, ColorB = 0;
   std::int16_t BackColorR = 0, BackColorG = 0, BackColorB = 0;
-  std::string XValue;   // a position expression
-  RareText X2Value;  // LINE: its other end
-  std::int32_t Y = 0;   // from the top of the owning subsection's body
-  FixedText<1> Align;   // "L", "R", "C" or empty, which means "L"
+  std::string XValue;  // a position expression
+  RareText X2Value;    // LINE: its other end
+  std::int32_t Y = 0;  // from the top of the owning subsection's body
+  FixedText<1> Align;  // "L", "R", "C" or empty, which means "L"
   std::int32_t Width = 0;
   std::int32_t Height = 0;
   Flag Bold = kFalse, Italic = kFalse, Strikethrough = kFalse, Underline = kFalse;
@@ -115,8 +115,8 @@ struct ObjectRecord {
   std::int32_t AbsoluteY = 0;  // from the top of the first bar on the surface
   Flag PrintFlag = kFalse;
   RareText Format;
-  FixedText<1> CaseMode;  // "N", "U", "L" or "F"
-  FixedText<7> ValueType; // "General", "Number" or "Text"
+  FixedText<1> CaseMode;   // "N", "U", "L" or "F"
+  FixedText<7> ValueType;  // "General", "Number" or "Text"
   std::int16_t LineWidth = 0;
   std::int16_t BarWidth = 0;
   RareText BarcodeKind;
@@ -129,7 +129,7 @@ struct ObjectRecord {
   std::int16_t OnlyIfFits = 0;
   Flag Filled = kFalse;
   Flag MayMoveVertically = kFalse, MayMoveHorizontally = kFalse, MayResize = kFalse;
-  FixedText<8> Handles; // "1" or "0" for each of the eight grips
+  FixedText<8> Handles;  // "1" or "0" for each of the eight grips
   Flag PictureFixedHeight = kFalse;
   Flag PictureFixedWidth = kFalse;
   std::vector<std::string> ChartValues;  // CHART: 93 texts in the order of the chart keys; else none

@@ -58,8 +58,8 @@ class ObjectTable {
   static const ObjectRecord& Blank();
   void AddBlocksTo(std::size_t row);
 
-  // The rows as far as they were ever asked for; all behind them are blank. Most documents are far smaller than
-  // the table. Blocks stay where they are when others are added.
+  // The rows as far as they were ever asked for; all behind them are blank. Most documents are far smaller
+  // than the table. Blocks stay where they are when others are added.
   std::vector<std::vector<ObjectRecord>> blocks_;
   // No row below this one is free, so that filling the table takes one walk and not one for each object.
   int firstMaybeFree_ = 1;

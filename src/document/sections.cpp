@@ -310,8 +310,8 @@ SortedRows DeriveGeometry(Document& document) {
   // A name that is shared may mean another bar than the one below the row.
   if (!bars.NamesAreUnique()) assigned.assign(assigned.size(), 0);
   SortedRows sorted = SetSortKeys(document, rows);
-  const std::vector<int> owners =
-      OwnersOf(document, rows, bars, [&](int row) { return rows[At(row)]->AbsoluteY; }, std::move(assigned));
+  const std::vector<int> owners = OwnersOf(
+      document, rows, bars, [&](int row) { return rows[At(row)]->AbsoluteY; }, std::move(assigned));
   InRows places{rows};
   LayOutRows(places, rows, sorted, owners);
   return sorted;

@@ -15,8 +15,9 @@ namespace kev {
 namespace {
 
 void ShowTitle(ObjectRecord& bar, const CodePage& page) {
-  bar.Content = IsBaseBar(bar, page) ? "Section: " + bar.SectionTitle.Text()
-                                     : bar.SectionTitle.Text() + " [Starts in position: " + bar.StartY.Text() + "]";
+  bar.Content = IsBaseBar(bar, page)
+                    ? "Section: " + bar.SectionTitle.Text()
+                    : bar.SectionTitle.Text() + " [Starts in position: " + bar.StartY.Text() + "]";
 }
 
 // Right below the last band of the section, above the bar that follows; laying out makes room.

@@ -28,7 +28,8 @@ std::string TextBoxPropsOf(const ObjectRecord& record) {
 std::string CommandWord(const ObjectRecord& record) {
   if (record.Content == kPageBreak) return ";\\np";
   if (record.Content == "@@execute") {
-    return ";Execute=" + record.ExecuteCommand.Text() + "," + record.ExecuteArg2.Text() + "," + record.ExecuteArg3.Text();
+    return ";Execute=" + record.ExecuteCommand.Text() + "," + record.ExecuteArg2.Text() + "," +
+           record.ExecuteArg3.Text();
   }
   if (record.Content == "@@postshow") return ";PostShow=" + record.ExecuteCommand.Text();
   if (record.Content == "@@page") return ";Page=" + record.CommandPayload.value_or("");

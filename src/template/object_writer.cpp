@@ -29,7 +29,8 @@ const CommentRow& CommentsOf(ObjectKind kind) {
 
 ObjectWriter::ObjectWriter(const Document& document, const WriteOptions& options, WriteReport& report)
     : document_(document), options_(options), report_(report), spacing_(document.Settings.SpacingTwips()) {
-  // About what a row takes. A text of this size that grows is moved again and again, to fresh memory each time.
+  // About what a row takes. A text of this size that grows is moved again and again, to fresh memory each
+  // time.
   constexpr std::size_t kBytesOfARow = 100;
   text_.reserve(kBytesOfARow * static_cast<std::size_t>(document.Objects.LastScanned()));
 }

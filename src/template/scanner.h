@@ -38,7 +38,8 @@ void AttachRows(std::vector<Finding>& findings, const std::vector<SourcePlace>& 
 // Whether the text of a block is made of commands and of nothing else.
 bool LooksLikeCommands(std::string_view block, const CodePage& page);
 
-// The prepared line: the line itself, as it nearly always stays, else `changed`, which is used again for each.
+// The prepared line: the line itself, as it nearly always stays, else `changed`, which is used again for
+// each.
 std::string_view PreprocessLine(std::string& changed, std::string_view line, char open, char close,
                                 const CodePage& page);
 

@@ -110,6 +110,13 @@ TEST(FixedText, EqualTextsAreEqualWhateverWasThereBefore) {
   EXPECT_FALSE(text == other);
 }
 
+TEST(FixedText, CanBeAssignedAPartOfItself) {
+  FixedText<4> text;
+  text = "abcd";
+  text = std::string_view(text).substr(2);
+  EXPECT_EQ(text, "cd");
+}
+
 // Records are copied and compared by the thousand, and a table of them is to stay in the cache.
 TEST(ObjectRecord, IsSmall) {
   EXPECT_LE(sizeof(ObjectRecord), 512U);

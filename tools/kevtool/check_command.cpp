@@ -60,7 +60,8 @@ Json ToJson(const Finding& finding, const Document& document) {
           {"object", object}};
 }
 
-void PrintJson(std::ostream& out, const std::string& file, const Opened& opened, const std::vector<Finding>& findings) {
+void PrintJson(std::ostream& out, const std::string& file, const Opened& opened,
+               const std::vector<Finding>& findings) {
   Json list = Json::array();
   for (const Finding& finding : findings)
     list.push_back(ToJson(finding, opened.Outcome->Read));
@@ -108,7 +109,8 @@ int Check(const CheckChoice& choice) {
   // A folder of templates is checked on all processors, some files at a time, and told in its order.
   constexpr std::size_t kFilesOfATask = 8;
   const std::span<const std::string> files = choice.files;
-  const auto policy = files.size() > kFilesOfATask ? std::launch::async | std::launch::deferred : std::launch::deferred;
+  const auto policy =
+      files.size() > kFilesOfATask ? std::launch::async | std::launch::deferred : std::launch::deferred;
   const std::size_t mostTasks = std::thread::hardware_concurrency() + 1;
   std::queue<std::future<std::vector<Told>>> tasks;
   bool good = true;
