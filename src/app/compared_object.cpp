@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <concepts>
 #include <map>
 #include <span>
 
@@ -131,11 +132,15 @@ constexpr auto kComparedKinds = std::to_array<ObjectKind>(
      ObjectKind::Label, ObjectKind::TextBox});
 
 struct Printer {
-  std::string operator()(const std::string& value) const { return value; }
+  template <std::convertible_to<std::string_view> Text>
+  std::string operator()(const Text& value) const {
+    return value;
+  }
+  std::string operator()(const OrderKey& value) const { return value.Text(); }
   std::string operator()(ObjectKind value) const { return std::string(KindText(value)); }
-  std::string operator()(const std::optional<double>& value) const { return FormatNumber(value.value_or(0)); }
-  std::string operator()(const std::optional<std::string>& value) const { return value.value_or(""); }
-  template <typename Integer>
+  std::string operator()(const RareOptional<double>& value) const { return FormatNumber(value.value_or(0)); }
+  std::string operator()(const RareOptional<std::string>& value) const { return value.value_or(""); }
+  template <std::integral Integer>
   std::string operator()(Integer value) const {
     return std::to_string(value);
   }

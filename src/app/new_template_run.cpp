@@ -35,7 +35,7 @@ std::vector<Finding> NamesWithColon(const Document& document, const std::vector<
     if (type.Name.find(':') == std::string::npos) continue;
     const std::string head = " [" + type.Name + ":";
     for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
-      if (document.Objects[row].SectionTitle.find(head) == std::string::npos) continue;
+      if (document.Objects[row].SectionTitle.Text().find(head) == std::string::npos) continue;
       findings.push_back({0, 0, FindingKind::NameWithColon, type.Name, row});
       break;
     }

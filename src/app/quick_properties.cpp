@@ -12,6 +12,7 @@
 #include "data/next_variable.h"
 #include "document/object_creation.h"
 #include "document/position.h"
+#include "document/sections.h"
 #include "surface/object_drag_end.h"
 
 namespace kev {
@@ -120,7 +121,7 @@ void QuickProperties::SetAlignToGrid(bool on) {
 void QuickProperties::SnapToGrid(int row) {
   Document& document = designer_.OpenDocument();
   ObjectRecord& record = document.Objects[row];
-  const int bar = BarOf(document, row);
+  const int bar = OwnerOf(document, row);
   record.XValue = WholePosition(SnappedX(document, row));
   CarryLineEnd(document, record);
   PlaceInBody(document, row, bar, ToInt32(SnapToStep(record.Y, GridStepOf(document))));

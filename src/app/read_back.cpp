@@ -57,7 +57,7 @@ class Report {
 
   static std::string Shown(const Document& document, int row) {
     const ObjectRecord& record = document.Objects[row];
-    const std::string& text = record.SectionTitle.empty() ? record.Content : record.SectionTitle;
+    const std::string& text = record.SectionTitle.empty() ? record.Content : record.SectionTitle.Text();
     return std::string(KindText(record.Kind)) + (text.empty() ? "" : ": ") + text;
   }
 

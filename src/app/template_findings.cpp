@@ -75,7 +75,7 @@ class PageCheck {
       return Note(FindingKind::OutsideBodies, kind + " Y: " + std::to_string(record.Y), row);
     const int writtenIn = PlaceOf(row, places_).Bar;
     if (writtenIn != 0 && writtenIn != owner)
-      Note(FindingKind::MovesSubsection, kind + ": " + bar.SectionTitle, row);
+      Note(FindingKind::MovesSubsection, kind + ": " + bar.SectionTitle.Text(), row);
   }
 
   const Document& document_;

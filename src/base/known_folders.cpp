@@ -16,6 +16,7 @@ KnownFolders::Names KnownFolders::Read(const std::string& folder) {
 }
 
 std::optional<std::string> KnownFolders::NameIn(const std::string& folder, std::string_view name) {
+  const std::lock_guard<std::mutex> alone(guard_);
   const auto [known, isNew] = folders_.try_emplace(folder);
   if (isNew) known->second = Read(folder);
   const auto found = known->second.find(Utf8Capitals(name));

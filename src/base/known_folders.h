@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The names in folders, each folder read once: for a run that looks for many files and ends before others
-// change them.
+// The names in folders, each folder read once: for a run that looks for many files, on several threads, and
+// ends before others change them.
 #pragma once
 
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +21,7 @@ class KnownFolders {
 
   static Names Read(const std::string& folder);
 
+  std::mutex guard_;
   std::unordered_map<std::string, Names> folders_;
 };
 

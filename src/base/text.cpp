@@ -7,17 +7,6 @@
 
 namespace kev {
 
-std::string_view TrimLeft(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlank);
-  return first == std::string_view::npos ? std::string_view{} : text.substr(first);
-}
-
-std::string_view Trim(std::string_view text) {
-  text = TrimLeft(text);
-  const std::size_t last = text.find_last_not_of(kBlank);
-  return last == std::string_view::npos ? std::string_view{} : text.substr(0, last + 1);
-}
-
 std::string_view NthToken(std::string_view text, std::size_t n, char separator) {
   for (; n > 1; --n) {
     const std::size_t end = text.find(separator);

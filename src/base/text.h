@@ -11,8 +11,17 @@ namespace kev {
 inline constexpr char kBlank = ' ';
 
 // Without the blanks at both ends; a tab is no blank.
-std::string_view Trim(std::string_view text);
-std::string_view TrimLeft(std::string_view text);
+inline std::string_view TrimLeft(std::string_view text) {
+  while (text.starts_with(kBlank))
+    text.remove_prefix(1);
+  return text;
+}
+inline std::string_view Trim(std::string_view text) {
+  text = TrimLeft(text);
+  while (text.ends_with(kBlank))
+    text.remove_suffix(1);
+  return text;
+}
 
 // The n-th part of `text`, counted from 1; empty where there are fewer parts.
 std::string_view NthToken(std::string_view text, std::size_t n, char separator);

@@ -155,7 +155,11 @@ std::string_view ValueAt(const ObjectRecord& record, std::size_t place) {
 }
 
 std::string BlockOf(const ObjectRecord& record, const Line& line) {
+  std::size_t size = 0;
+  for (const std::size_t place : line)
+    size += ChartKeys()[place].key.size() + ValueAt(record, place).size() + 2;
   std::string block;
+  block.reserve(size);
   for (const std::size_t place : line) {
     if (!block.empty()) block += ';';
     block.append(ChartKeys()[place].key).append("=").append(ValueAt(record, place));
@@ -182,10 +186,10 @@ std::optional<std::size_t> ChartKeyIndex(std::string_view capitals) {
 }
 
 void ChartDefinition::ResetChartDefaults() {
-  Values.clear();
-  for (const ChartKeyRow& row : ChartKeys())
-    Values.push_back(row.defaultValue);
   Values.resize(kChartSlotCount);
+  for (std::size_t at = 0; at < kChartKeyCount; ++at)
+    Values[at] = ChartKeys()[at].defaultValue;
+  Values.back().clear();
   Width.clear();
   Height.clear();
   Gradient.fill(255);
@@ -213,6 +217,7 @@ std::vector<std::string> ChartBlocks(const ObjectRecord& record) {
   static const std::size_t titles = PlaceOf("Graph_ShowSeriesTitles");
   std::vector<std::string> blocks = {"Graph_Height=" + std::to_string(record.Height) +
                                      ";Graph_Width=" + std::to_string(record.Width)};
+  blocks.reserve(lines.size() + 2);
   const bool hasPicture = !ValueAt(record, picture.front()).empty();
   for (const Line& line : lines)
     blocks.push_back(BlockOf(record, hasPicture && line == gradient ? picture : line));

@@ -53,11 +53,11 @@ void FillLabel(QuickPanel& panel, const Document& document, const std::vector<st
       panel.Fields.push_back({name, panel.Fields.size()});
     return;
   }
-  const int row = OwnerIndex(document).OwnerOf(panel.Object);
+  const int row = OwnerOf(document, panel.Object);
   if (row == 0) return;
   const ObjectRecord& bar = document.Objects[row];
   // Only the name of a head without fields ends with the bracket of the head; any other bracket is its own.
-  const bool hasFields = bar.SectionTitle.find(':') != std::string::npos;
+  const bool hasFields = bar.SectionTitle.Text().find(':') != std::string::npos;
   panel.RecordName = hasFields ? std::string_view(bar.SectionName) : WithoutBracket(bar.SectionName);
   panel.Fields = FieldsOfBar(bar, *document.Page);
 }
@@ -65,7 +65,7 @@ void FillLabel(QuickPanel& panel, const Document& document, const std::vector<st
 }  // namespace
 
 std::vector<QuickField> FieldsOfBar(const ObjectRecord& bar, const CodePage& page) {
-  const std::size_t colon = bar.SectionTitle.rfind(':');
+  const std::size_t colon = bar.SectionTitle.Text().rfind(':');
   if (IsMainSection(bar.SectionName, page) || colon == std::string::npos) return {};
   std::string_view rest = WithoutBracket(Trim(std::string_view(bar.SectionTitle).substr(colon + 1)));
   std::vector<QuickField> fields;

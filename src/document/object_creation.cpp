@@ -378,9 +378,9 @@ std::string SectionNameOf(std::string_view headLine, const CodePage& page) {
 
 std::string ContentOfBar(const ObjectRecord& bar) {
   // Behind a blank stands the head line, which the bar of a section lacks.
-  const bool isBase = bar.SectionTitle.find(kBlank) == std::string::npos;
-  return isBase ? "Section: " + bar.SectionTitle
-                : bar.SectionTitle + " [Starts in position: " + bar.StartY + "]";
+  const bool isBase = bar.SectionTitle.Text().find(kBlank) == std::string::npos;
+  return isBase ? "Section: " + bar.SectionTitle.Text()
+                : bar.SectionTitle.Text() + " [Starts in position: " + bar.StartY.Text() + "]";
 }
 
 }  // namespace kev

@@ -13,8 +13,9 @@ namespace kev {
 
 using FieldMember =
     std::variant<std::int16_t ObjectRecord::*, std::int32_t ObjectRecord::*, std::string ObjectRecord::*,
-                 ObjectKind ObjectRecord::*, std::optional<double> ObjectRecord::*,
-                 std::optional<std::string> ObjectRecord::*>;
+                 RareText ObjectRecord::*, FixedText<1> ObjectRecord::*, FixedText<7> ObjectRecord::*,
+                 FixedText<8> ObjectRecord::*, OrderKey ObjectRecord::*, ObjectKind ObjectRecord::*,
+                 RareOptional<double> ObjectRecord::*, RareOptional<std::string> ObjectRecord::*>;
 
 struct FieldRow {
   std::string_view name;

@@ -4,10 +4,12 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "document/fixed_text.h"
+#include "document/rare_text.h"
 
 namespace kev {
 
@@ -56,68 +58,82 @@ constexpr Flag ToFlag(bool value) {
 inline constexpr std::size_t kSortKeyLength = 18;
 inline constexpr std::size_t kStartYLength = 15;
 
+// Where a row stood when the rows were last sorted. The key is its text; each layout makes thousands of keys,
+// and only who prints one needs it.
+struct OrderKey {
+  std::int32_t Y = 0;
+  std::int32_t X = 0;
+  std::int32_t Row = 0;  // 0 where the row was never sorted
+
+  // The three with an offset that makes each number of a usual page six digits long, cut to the length of a
+  // key.
+  std::string Text() const;
+
+  bool operator==(const OrderKey&) const = default;
+};
+
 // A subsection with this start follows the running position.
 inline constexpr std::string_view kCurrentYValue = "Current Y Value";
 
 struct ObjectRecord {
-  std::optional<double> TextBoxExtraValue;
-  std::optional<std::string> TextBoxFrameValue;
+  RareOptional<double> TextBoxExtraValue;
+  RareOptional<std::string> TextBoxFrameValue;
   std::int32_t ShapeTag = 0;             // LABEL: width of the printed text, for the right handle
   std::int16_t ModifiableByEndUser = 0;  // 1 and 0, unlike the flags
   std::int32_t SectionCursorY = 0;       // bands: where the subsection's content ended
-  std::optional<std::string> CommandPayload;
-  std::string ExecuteArg2;
-  std::string ExecuteArg3;
+  RareOptional<std::string> CommandPayload;
+  RareText ExecuteArg2;
+  RareText ExecuteArg3;
   Flag LineFlag = kFalse;   // dashed
   Flag KeepOwner = kFalse;  // keeps its owner when objects are assigned again
   Flag Selected = kFalse;
-  std::string SortKey;
+  OrderKey SortKey;
   ObjectKind Kind = ObjectKind::None;
   std::string Content;
-  std::string ExecuteCommand;
+  RareText ExecuteCommand;
   // With green and blue at -1, red is one of the sixteen basic colours.
   std::int16_t ColorR = 0, ColorG = 0, ColorB = 0;
   std::int16_t BackColorR = 0, BackColorG = 0, BackColorB = 0;
-  std::string XValue;   // a position expression
-  std::string X2Value;  // LINE: its other end
-  std::int32_t Y = 0;   // from the top of the owning subsection's body
-  std::string Align;    // "L", "R", "C" or empty, which means "L"
+  std::string XValue;  // a position expression
+  RareText X2Value;    // LINE: its other end
+  std::int32_t Y = 0;  // from the top of the owning subsection's body
+  FixedText<1> Align;  // "L", "R", "C" or empty, which means "L"
   std::int32_t Width = 0;
   std::int32_t Height = 0;
   Flag Bold = kFalse, Italic = kFalse, Strikethrough = kFalse, Underline = kFalse;
   std::int32_t FontSize = 0;  // points
   std::string FontName;
   std::string CharSet;
-  std::string PicturePath;
-  std::string PictureFile;
-  std::string Link;
+  RareText PicturePath;
+  RareText PictureFile;
+  RareText Link;
   std::int16_t AlignToGrid = 0;  // 1 and 0, unlike the flags
-  std::string SectionTitle;
-  std::string SectionOwner;
+  RareText SectionTitle;
+  RareText SectionOwner;
   std::string OwnerName;
-  std::string SectionName;
+  RareText SectionName;
   std::int32_t AbsoluteY = 0;  // from the top of the first bar on the surface
   Flag PrintFlag = kFalse;
-  std::string Format;
-  std::string CaseMode;   // "N", "U", "L" or "F"
-  std::string ValueType;  // "General", "Number" or "Text"
+  RareText Format;
+  FixedText<1> CaseMode;   // "N", "U", "L" or "F"
+  FixedText<7> ValueType;  // "General", "Number" or "Text"
   std::int16_t LineWidth = 0;
   std::int16_t BarWidth = 0;
-  std::string BarcodeKind;
-  std::string BarcodeSample;
+  RareText BarcodeKind;
+  RareText BarcodeSample;
   Flag VerticalBar = kFalse;
-  std::string StartY;
+  RareText StartY;
   std::int32_t EndsAt = 0;  // SUBSECTION: height of its body
   Flag HeightGiven = kFalse;
   std::int16_t EndRow = 0;
   std::int16_t OnlyIfFits = 0;
   Flag Filled = kFalse;
   Flag MayMoveVertically = kFalse, MayMoveHorizontally = kFalse, MayResize = kFalse;
-  std::string Handles;  // "1" or "0" for each of the eight grips
+  FixedText<8> Handles;  // "1" or "0" for each of the eight grips
   Flag PictureFixedHeight = kFalse;
   Flag PictureFixedWidth = kFalse;
   std::vector<std::string> ChartValues;  // CHART: 93 texts in the order of the chart keys; else none
-  std::optional<std::string> Stretch;
+  RareOptional<std::string> Stretch;
 
   bool operator==(const ObjectRecord&) const = default;
 };

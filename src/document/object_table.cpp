@@ -3,38 +3,26 @@
 
 #include <algorithm>
 #include <memory>
-#include <stdexcept>
-
-#include "base/reasons.h"
 
 namespace kev {
 namespace {
 
-std::size_t CheckedRow(int row) {
-  if (row < 0 || row > ObjectTable::kLastRow) throw std::out_of_range(kReasonTooManyObjects);
-  return static_cast<std::size_t>(row);
-}
-
-// Made anew in its place: to assign a blank record costs three times as much.
-void Blank(ObjectRecord& record) {
+// In its place: to assign a blank record costs three times as much.
+void MakeAnew(ObjectRecord& record) {
   std::destroy_at(&record);
   std::construct_at(&record);
 }
 
 }  // namespace
 
-ObjectRecord& ObjectTable::operator[](int row) {
-  const std::size_t at = CheckedRow(row);
-  // At its end a deque grows without moving what it holds.
-  while (rows_.size() <= at)
-    rows_.emplace_back();
-  return rows_[at];
+const ObjectRecord& ObjectTable::Blank() {
+  static const ObjectRecord blank;
+  return blank;
 }
 
-const ObjectRecord& ObjectTable::operator[](int row) const {
-  static const ObjectRecord blank;
-  const std::size_t at = CheckedRow(row);
-  return at < rows_.size() ? rows_[at] : blank;
+void ObjectTable::AddBlocksTo(std::size_t row) {
+  while (row >= blocks_.size() * kBlockRows)
+    blocks_.emplace_back(kBlockRows);
 }
 
 void ObjectTable::GrowIfFull() {
@@ -54,12 +42,13 @@ int ObjectTable::TakeFreeRow() {
 }
 
 void ObjectTable::ClearRow(int row) {
-  Blank((*this)[row]);
+  MakeAnew((*this)[row]);
   RowChanged(row);
 }
 
 void ObjectTable::Restart() {
-  std::for_each(rows_.begin(), rows_.end(), Blank);
+  for (std::vector<ObjectRecord>& block : blocks_)
+    std::for_each(block.begin(), block.end(), MakeAnew);
   ObjectCount = kFirstCount;
   CurrentObject = FocusObject = SelectionCount = 0;
   firstMaybeFree_ = 1;

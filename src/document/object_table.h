@@ -2,8 +2,10 @@
 // The table of all objects, rows 1 to 2001. ObjectKind::None marks a free row.
 #pragma once
 
-#include <deque>
+#include <stdexcept>
+#include <vector>
 
+#include "base/reasons.h"
 #include "document/object_record.h"
 
 namespace kev {
@@ -16,8 +18,15 @@ class ObjectTable {
   // An index outside 0 to 2001 throws std::out_of_range; this is how the limit of the table shows.
   // References stay good while the table lives, except that a row which was never asked for to be changed is
   // read from one blank record.
-  ObjectRecord& operator[](int row);
-  const ObjectRecord& operator[](int row) const;
+  ObjectRecord& operator[](int row) {
+    const std::size_t at = Checked(row);
+    if (at >= blocks_.size() * kBlockRows) AddBlocksTo(at);
+    return blocks_[at / kBlockRows][at % kBlockRows];
+  }
+  const ObjectRecord& operator[](int row) const {
+    const std::size_t at = Checked(row);
+    return at < blocks_.size() * kBlockRows ? blocks_[at / kBlockRows][at % kBlockRows] : Blank();
+  }
 
   // Where loops over the rows end. It grows by ten and may step beyond the table.
   int ObjectCount = kFirstCount;
@@ -40,9 +49,18 @@ class ObjectTable {
   void RowChanged(int row);
 
  private:
-  // The rows that were ever asked for; all behind them are blank. Most documents are far smaller than the
-  // table, and the undo store holds many of them.
-  std::deque<ObjectRecord> rows_;
+  static constexpr std::size_t kBlockRows = 16;
+
+  static std::size_t Checked(int row) {
+    if (row < 0 || row > kLastRow) throw std::out_of_range(kReasonTooManyObjects);
+    return static_cast<std::size_t>(row);
+  }
+  static const ObjectRecord& Blank();
+  void AddBlocksTo(std::size_t row);
+
+  // The rows as far as they were ever asked for; all behind them are blank. Most documents are far smaller
+  // than the table. Blocks stay where they are when others are added.
+  std::vector<std::vector<ObjectRecord>> blocks_;
   // No row below this one is free, so that filling the table takes one walk and not one for each object.
   int firstMaybeFree_ = 1;
 };

@@ -6,6 +6,7 @@
 #include <limits>
 #include <set>
 #include <stdexcept>
+#include <utility>
 
 #include "base/numbers.h"
 #include "base/reasons.h"
@@ -16,16 +17,49 @@
 namespace kev {
 namespace {
 
+std::size_t At(int row) {
+  return static_cast<std::size_t>(row);
+}
+
 std::int64_t BodyTop(const ObjectRecord& bar) {
   return std::int64_t{bar.AbsoluteY} + kBarHeight;
 }
+
+// Both ends of a body belong to it.
+bool HoldsPlace(std::int64_t top, std::int32_t endsAt, std::int64_t y) {
+  return y >= top && y <= top + endsAt;
+}
+
+// The bars of all subsections.
+class Bars {
+ public:
+  explicit Bars(RowView rows) {
+    for (std::size_t row = 1; row < rows.size(); ++row) {
+      if (rows[row]->Kind != ObjectKind::Subsection) continue;
+      rows_.push_back(static_cast<int>(row));
+      byName_[rows[row]->SectionName].push_back(static_cast<int>(row));
+    }
+  }
+
+  const std::vector<int>& Rows() const { return rows_; }
+  // Nothing where no bar has the name.
+  const std::vector<int>* Named(std::string_view name) const {
+    const auto bars = byName_.find(name);
+    return bars == byName_.end() ? nullptr : &bars->second;
+  }
+  bool NamesAreUnique() const { return byName_.size() == rows_.size(); }
+
+ private:
+  std::vector<int> rows_;
+  std::unordered_map<std::string_view, std::vector<int>> byName_;
+};
 
 // Which body holds a place, for every place at once: stretches from top to bottom in which the answer is the
 // same.
 class BodyIndex {
  public:
-  explicit BodyIndex(RowView rows) {
-    const std::vector<Edge> edges = EdgesOf(rows);
+  BodyIndex(RowView rows, const Bars& bars) {
+    const std::vector<Edge> edges = EdgesOf(rows, bars);
     std::set<int> open;
     for (std::size_t at = 0; at < edges.size();) {
       const std::int64_t y = edges[at].y;
@@ -58,14 +92,14 @@ class BodyIndex {
     std::int64_t end = std::numeric_limits<std::int64_t>::max();
   };
 
-  static std::vector<Edge> EdgesOf(RowView rows) {
+  static std::vector<Edge> EdgesOf(RowView rows, const Bars& bars) {
     std::vector<Edge> edges;
-    for (std::size_t row = 1; row < rows.size(); ++row) {
-      const ObjectRecord& bar = *rows[row];
+    for (const int row : bars.Rows()) {
+      const ObjectRecord& bar = *rows[At(row)];
       // A body that ends above its top holds nothing.
-      if (bar.Kind != ObjectKind::Subsection || bar.EndsAt < 0) continue;
-      edges.push_back({BodyTop(bar), static_cast<int>(row), true});
-      edges.push_back({BodyTop(bar) + bar.EndsAt + 1, static_cast<int>(row), false});
+      if (bar.EndsAt < 0) continue;
+      edges.push_back({BodyTop(bar), row, true});
+      edges.push_back({BodyTop(bar) + bar.EndsAt + 1, row, false});
     }
     std::sort(edges.begin(), edges.end(), [](const Edge& a, const Edge& b) { return a.y < b.y; });
     return edges;
@@ -89,14 +123,9 @@ int BarHolding(const std::vector<int>& bars, std::int64_t y, const Document& doc
                const Places& placeOf) {
   if (bars.size() == 1) return bars.front();
   const auto holding = std::find_if(bars.begin(), bars.end(), [&](int bar) {
-    const std::int64_t top = std::int64_t{placeOf(bar)} + kBarHeight;
-    return y >= top && y <= top + document.Objects[bar].EndsAt;
+    return HoldsPlace(std::int64_t{placeOf(bar)} + kBarHeight, document.Objects[bar].EndsAt, y);
   });
   return holding == bars.end() ? bars.front() : *holding;
-}
-
-std::size_t At(int row) {
-  return static_cast<std::size_t>(row);
 }
 
 BandLayout PresentLayout(RowView rows) {
@@ -111,90 +140,125 @@ BandLayout PresentLayout(RowView rows) {
   return layout;
 }
 
-// A bar whose end lies outside the table fails like anything else that reaches there.
-std::int32_t& PlaceOfEnd(BandLayout& layout, int row) {
-  if (row < 0 || row > ObjectTable::kLastRow) throw std::out_of_range(kReasonTooManyObjects);
-  return layout.AbsoluteY[At(row)];
-}
+using Rows = std::span<ObjectRecord* const>;
 
-void LayOutBars(BandLayout& layout, RowView rows, const SortedRows& sorted) {
+// Where rows come to stand: in a layout of their own, or in the rows themselves.
+struct InLayout {
+  BandLayout& layout;
+
+  std::int32_t& Place(int row) { return layout.AbsoluteY[At(row)]; }
+  std::int32_t& Fill(int row) { return layout.SectionCursorY[At(row)]; }
+};
+
+struct InRows {
+  Rows rows;
+  std::int32_t nowhere = 0;  // for the end of a bar that nobody has used yet
+
+  std::int32_t& Place(int row) {
+    const bool isUsed = At(row) < rows.size() && rows[At(row)]->Kind != ObjectKind::None;
+    return isUsed ? rows[At(row)]->AbsoluteY : nowhere;
+  }
+  std::int32_t& Fill(int row) { return rows[At(row)]->SectionCursorY; }
+};
+
+template <typename Places>
+void LayOutBars(Places& places, RowView rows, const SortedRows& sorted) {
   std::int64_t running = 0;
   for (const int row : sorted.Rows) {
     const ObjectRecord& bar = *rows[At(row)];
     if (bar.Kind != ObjectKind::Section && bar.Kind != ObjectKind::Subsection) continue;
-    layout.AbsoluteY[At(row)] = Fit32(running);
-    if (bar.EndRow != 0) PlaceOfEnd(layout, bar.EndRow) = Fit32(running + kBarHeight + bar.EndsAt);
+    places.Place(row) = Fit32(running);
+    // A bar whose end lies outside the table fails like anything else that reaches there.
+    if (bar.EndRow < 0 || bar.EndRow > ObjectTable::kLastRow) throw std::out_of_range(kReasonTooManyObjects);
+    if (bar.EndRow != 0) places.Place(bar.EndRow) = Fit32(running + kBarHeight + bar.EndsAt);
     running += std::int64_t{kBarHeight} + bar.EndsAt + kBandGap;
   }
 }
 
-using Rows = std::span<ObjectRecord* const>;
+// The owners are those of before the bars move, while bodies and objects still lie where they were.
+template <typename Places>
+void LayOutRows(Places& places, RowView rows, const SortedRows& sorted, const std::vector<int>& owners) {
+  LayOutBars(places, rows, sorted);
+  for (const int row : sorted.Rows) {
+    const int owner = owners[At(row)];
+    if (owner == 0) continue;
+    const std::int64_t top = std::int64_t{places.Place(owner)} + kBarHeight;
+    places.Place(row) = Fit32(top + rows[At(row)]->Y);
+    places.Fill(owner) = std::min(places.Fill(owner), rows[At(owner)]->EndsAt);
+  }
+}
 
-void Assign(Document& document, Rows rows) {
-  BodyIndex bodies(rows);
-  for (ObjectRecord* const each : rows.subspan(1)) {
-    ObjectRecord& record = *each;
+// Gives the bar of each row that was given to one, 0 for the others.
+std::vector<int> Assign(Document& document, Rows rows, const Bars& bars) {
+  std::vector<int> assigned(ObjectTable::kLastRow + 1);
+  BodyIndex bodies(rows, bars);
+  for (std::size_t row = 1; row < rows.size(); ++row) {
+    ObjectRecord& record = *rows[row];
     if (record.Kind == ObjectKind::None || IsBand(record.Kind) || record.KeepOwner != 0) continue;
     const int owner = bodies.LastHolding(record.AbsoluteY);
     if (owner == 0) continue;
     const ObjectRecord& bar = *rows[At(owner)];
     if (record.OwnerName != bar.SectionName) record.OwnerName = bar.SectionName;
     record.Y = Fit32(record.AbsoluteY - BodyTop(bar));
+    assigned[row] = owner;
   }
-  for (const ObjectRecord* const bar : rows.subspan(1)) {
-    if (bar->Kind != ObjectKind::Subsection || bar->EndRow == 0) continue;
-    ObjectRecord& end = document.Objects[bar->EndRow];
-    end.OwnerName = bar->SectionName;
-    end.Y = bar->EndsAt;
+  for (const int row : bars.Rows()) {
+    const ObjectRecord& bar = *rows[At(row)];
+    if (bar.EndRow == 0) continue;
+    ObjectRecord& end = document.Objects[bar.EndRow];
+    end.OwnerName = bar.SectionName;
+    end.Y = bar.EndsAt;
+    assigned[At(bar.EndRow)] = 0;
   }
+  return assigned;
 }
 
-std::vector<int> OwnersOf(const Document& document, RowView rows, const BandLayout& layout) {
-  std::unordered_map<std::string_view, std::vector<int>> byName;
-  for (std::size_t row = 1; row < rows.size(); ++row) {
-    if (rows[row]->Kind == ObjectKind::Subsection)
-      byName[rows[row]->SectionName].push_back(static_cast<int>(row));
-  }
-  std::vector<int> owners(ObjectTable::kLastRow + 1);
+// The bar of each row by its name; `owners` holds those that are known already.
+template <typename PlaceOf>
+std::vector<int> OwnersOf(const Document& document, RowView rows, const Bars& bars, const PlaceOf& placeOf,
+                          std::vector<int> owners = std::vector<int>(ObjectTable::kLastRow + 1)) {
   // Most rows follow one of the same owner.
-  auto bars = byName.end();
+  std::string_view name;
+  const std::vector<int>* named = bars.Named(name);
   for (std::size_t row = 1; row < rows.size(); ++row) {
     const ObjectRecord& record = *rows[row];
-    if (record.Kind == ObjectKind::None || IsBand(record.Kind)) continue;
-    if (bars == byName.end() || bars->first != record.OwnerName) bars = byName.find(record.OwnerName);
-    if (bars == byName.end()) continue;
-    owners[row] = BarHolding(bars->second, layout.AbsoluteY[row], document,
-                             [&](int bar) { return layout.AbsoluteY[At(bar)]; });
+    if (owners[row] != 0 || record.Kind == ObjectKind::None || IsBand(record.Kind)) continue;
+    if (record.OwnerName != name) named = bars.Named(name = record.OwnerName);
+    if (named == nullptr) continue;
+    owners[row] = BarHolding(*named, placeOf(static_cast<int>(row)), document, placeOf);
   }
   return owners;
 }
 
 BandLayout LayOut(const Document& document, RowView rows, const SortedRows& sorted) {
   BandLayout layout = PresentLayout(rows);
-  // Owners are found before the bars move, while bodies and objects still lie where they were.
-  const std::vector<int> owners = OwnersOf(document, rows, layout);
-  LayOutBars(layout, rows, sorted);
-  for (const int row : sorted.Rows) {
-    const int owner = owners[At(row)];
-    if (owner == 0) continue;
-    const std::int64_t top = std::int64_t{layout.AbsoluteY[At(owner)]} + kBarHeight;
-    layout.AbsoluteY[At(row)] = Fit32(top + rows[At(row)]->Y);
-    layout.SectionCursorY[At(owner)] = std::min(layout.SectionCursorY[At(owner)], rows[At(owner)]->EndsAt);
-  }
+  const std::vector<int> owners =
+      OwnersOf(document, rows, Bars(rows), [&](int row) { return layout.AbsoluteY[At(row)]; });
+  InLayout places{layout};
+  LayOutRows(places, rows, sorted, owners);
   return layout;
-}
-
-void Store(Rows rows, const SortedRows& sorted, const BandLayout& layout) {
-  for (const int row : sorted.Rows) {
-    rows[At(row)]->AbsoluteY = layout.AbsoluteY[At(row)];
-    rows[At(row)]->SectionCursorY = layout.SectionCursorY[At(row)];
-  }
 }
 
 }  // namespace
 
 void AssignObjects(Document& document) {
-  Assign(document, RowsOf(document.Objects));
+  const auto rows = RowsOf(document.Objects);
+  Assign(document, rows, Bars(rows));
+}
+
+int OwnerOf(const Document& document, int row) {
+  const ObjectRecord& record = document.Objects[row];
+  const bool isEnd = record.Kind == ObjectKind::EndOfSubsection;
+  int first = 0;
+  for (int other = 1; other <= document.Objects.LastScanned(); ++other) {
+    const ObjectRecord& bar = document.Objects[other];
+    if (bar.Kind != ObjectKind::Subsection) continue;
+    if (isEnd && bar.EndRow == row) return other;
+    if (isEnd || bar.SectionName != record.OwnerName) continue;
+    if (HoldsPlace(BodyTop(bar), bar.EndsAt, record.AbsoluteY)) return other;
+    if (first == 0) first = other;
+  }
+  return first;
 }
 
 OwnerIndex::OwnerIndex(const Document& document) : document_(document) {
@@ -219,7 +283,8 @@ int OwnerIndex::OwnerOf(int row) const {
 }
 
 std::vector<int> OwnersIn(const Document& document, const BandLayout& layout) {
-  return OwnersOf(document, RowsOf(document.Objects), layout);
+  const auto rows = RowsOf(document.Objects);
+  return OwnersOf(document, rows, Bars(rows), [&](int row) { return layout.AbsoluteY[At(row)]; });
 }
 
 BandLayout LayOutBands(const Document& document, const SortedRows& sorted) {
@@ -227,7 +292,11 @@ BandLayout LayOutBands(const Document& document, const SortedRows& sorted) {
 }
 
 void StoreLayout(Document& document, const SortedRows& sorted, const BandLayout& layout) {
-  Store(RowsOf(document.Objects), sorted, layout);
+  for (const int row : sorted.Rows) {
+    ObjectRecord& record = document.Objects[row];
+    record.AbsoluteY = layout.AbsoluteY[At(row)];
+    record.SectionCursorY = layout.SectionCursorY[At(row)];
+  }
 }
 
 void NormaliseSubsections(Document& document, const SortedRows& sorted) {
@@ -236,9 +305,15 @@ void NormaliseSubsections(Document& document, const SortedRows& sorted) {
 
 SortedRows DeriveGeometry(Document& document) {
   const auto rows = RowsOf(document.Objects);
-  Assign(document, rows);
+  const Bars bars(rows);
+  std::vector<int> assigned = Assign(document, rows, bars);
+  // A name that is shared may mean another bar than the one below the row.
+  if (!bars.NamesAreUnique()) assigned.assign(assigned.size(), 0);
   SortedRows sorted = SetSortKeys(document, rows);
-  Store(rows, sorted, LayOut(document, rows, sorted));
+  const std::vector<int> owners = OwnersOf(
+      document, rows, bars, [&](int row) { return rows[At(row)]->AbsoluteY; }, std::move(assigned));
+  InRows places{rows};
+  LayOutRows(places, rows, sorted, owners);
   return sorted;
 }
 

@@ -24,12 +24,14 @@ void NormaliseSubsections(Document& document, const SortedRows& sorted);
 // The geometry chain: assign, sort, lay out. The result is in the order of before the bands moved.
 SortedRows DeriveGeometry(Document& document);
 
-// Finds the bar of a row: by name, and where several share it the one whose body holds the row, else the
-// first.
+// The bar of a row: by name, and where several share it the one whose body holds the row, else the first. 0
+// when no subsection has the owner's name.
+int OwnerOf(const Document& document, int row);
+
+// The same for many rows of a document that stays as it is.
 class OwnerIndex {
  public:
   explicit OwnerIndex(const Document& document);
-  // 0 when no subsection has the owner's name.
   int OwnerOf(int row) const;
 
  private:

@@ -14,8 +14,6 @@
 namespace kev {
 namespace {
 
-// Makes each number of a usual page six digits long.
-constexpr std::int64_t kKeyOffset = 200000;
 constexpr std::int32_t kEndBarX = 799999;
 
 struct Entry {
@@ -38,43 +36,6 @@ constexpr std::int32_t YOf(std::uint64_t place) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(place >> 32) ^ 0x80000000U);
 }
 
-constexpr bool HasSixDigits(std::int64_t part) {
-  return part >= 100000 && part <= 999999;
-}
-
-constexpr auto kPairsOfDigits = [] {
-  std::array<char, 200> pairs{};
-  for (std::size_t n = 0; n < 100; ++n) {
-    pairs[2 * n] = static_cast<char>('0' + n / 10);
-    pairs[2 * n + 1] = static_cast<char>('0' + n % 10);
-  }
-  return pairs;
-}();
-
-char* PutSixDigits(char* at, std::int64_t part) {
-  auto rest = static_cast<std::uint32_t>(part);
-  for (int place = 4; place >= 0; place -= 2, rest /= 100)
-    std::copy_n(&kPairsOfDigits[rest % 100 * std::size_t{2}], 2, at + place);
-  return at + 6;
-}
-
-// Each layout writes the keys of all rows, and nearly all numbers have six digits.
-void StoreKey(std::string& key, std::int32_t y, std::int32_t x, int row) {
-  const std::array<std::int64_t, 3> parts = {y + kKeyOffset, x + kKeyOffset, row + kKeyOffset};
-  if (std::all_of(parts.begin(), parts.end(), HasSixDigits)) {
-    key.resize(kSortKeyLength);
-    char* at = key.data();
-    for (const std::int64_t part : parts)
-      at = PutSixDigits(at, part);
-    return;
-  }
-  key.clear();
-  for (const std::int64_t part : parts)
-    key += std::to_string(part);
-  key.resize(std::min(key.size(), kSortKeyLength));
-}
-static_assert(kSortKeyLength == 3 * 6);
-
 // Most objects of a page stand on a few positions. Remembers those that were met last.
 class KnownPositions {
  public:
@@ -88,21 +49,22 @@ class KnownPositions {
   }
 
  private:
-  static constexpr std::size_t kSlots = 128;
+  // So many that two positions of a page seldom share one.
+  static constexpr unsigned kSlotBits = 9;
   struct Known {
     std::string_view text;
     std::int32_t place = 0;
   };
 
   static std::size_t SlotOf(std::string_view text) {
-    std::size_t sum = 0;
+    std::uint32_t sum = 0;
     for (const char c : text)
       sum = sum * 31 + static_cast<unsigned char>(c);
-    return (sum ^ sum >> 7) % kSlots;
+    return sum * 2654435769U >> (32 - kSlotBits);
   }
 
   const Document& document_;
-  std::array<Known, kSlots> known_{};
+  std::array<Known, std::size_t{1} << kSlotBits> known_{};
 };
 
 struct Occupied {
@@ -165,7 +127,7 @@ SortedRows SortRows(const Document& document) {
 
 SortedRows SetSortKeys(const Document& document, std::span<ObjectRecord* const> rows) {
   const auto store = [&](std::size_t row, std::int32_t x) {
-    StoreKey(rows[row]->SortKey, rows[row]->AbsoluteY, x, static_cast<int>(row));
+    rows[row]->SortKey = {rows[row]->AbsoluteY, x, static_cast<int>(row)};
   };
   return Sorted(OccupiedRows(document, rows, store));
 }

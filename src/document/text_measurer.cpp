@@ -2,6 +2,7 @@
 #include "document/text_measurer.h"
 
 #include <array>
+#include <cstdint>
 
 #include "base/code_page.h"
 #include "document/font_metrics_table.h"
@@ -35,9 +36,10 @@ const FontMetricsRow& MetricsOf(const FontSpec& font) {
 
 TextExtent BuiltInMeasurer::Measure(const FontSpec& font, std::string_view text) const {
   const FontMetricsRow& metrics = MetricsOf(font);
-  double advance = 0;
+  std::uint64_t sum = 0;
   for (const char c : text)
-    advance += metrics.advance[static_cast<unsigned char>(c)];
+    sum += metrics.advance[static_cast<unsigned char>(c)];
+  const auto advance = static_cast<double>(sum);
   const double unit = font.Size * kTwipsPerPoint / kUnitsPerEm;
   return {advance * unit, (metrics.ascent + metrics.descent) * unit};
 }

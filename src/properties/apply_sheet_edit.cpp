@@ -68,7 +68,7 @@ void StoreRow(const RowTarget& target, const ObjectRow& row, std::size_t number,
 // Objects are assigned to bodies by where they lie on the surface, so that follows first.
 void MoveOnSurface(const RowTarget& target) {
   const Document& document = target.TheDocument();
-  const int owner = OwnerIndex(document).OwnerOf(target.object);
+  const int owner = OwnerOf(document, target.object);
   if (owner == 0) return;
   ObjectRecord& record = target.Record();
   record.AbsoluteY = Fit32(std::int64_t{document.Objects[owner].AbsoluteY} + kBarHeight + record.Y);

@@ -74,7 +74,7 @@ void StoreX2(const RowTarget& target, std::string_view text) {
 Verdict CheckY(const RowTarget& target, std::string_view text) {
   const std::int32_t y = Int32Of(text);
   const Document& document = target.TheDocument();
-  const int owner = OwnerIndex(document).OwnerOf(target.object);
+  const int owner = OwnerOf(document, target.object);
   const bool below = owner != 0 && y > document.Objects[owner].EndsAt;
   if (y < 0 || below) return RefusedWith(kTextPositionOutsideSection);
   return std::nullopt;

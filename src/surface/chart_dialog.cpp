@@ -30,7 +30,7 @@ bool TooSmall(const ChartWizard& wizard, std::string_view control) {
 int RefusalOfY(const ChartWizard& wizard, const Document& document) {
   if (!Changed(wizard, "combo_graphY")) return 0;
   const std::int32_t y = Int32Of(wizard.Now.combo_graphY);
-  const int owner = OwnerIndex(document).OwnerOf(wizard.Row);
+  const int owner = OwnerOf(document, wizard.Row);
   const bool below = owner != 0 && y > document.Objects[owner].EndsAt;
   return y < 0 || below ? kTextPositionOutsideSection : 0;
 }
@@ -39,7 +39,7 @@ void StorePlace(ObjectRecord& record, const ChartWizard& wizard, const Document&
   if (Changed(wizard, "combo_graphX")) record.XValue = StoredPosition(wizard.Now.combo_graphX);
   if (!Changed(wizard, "combo_graphY")) return;
   record.Y = Int32Of(wizard.Now.combo_graphY);
-  const int owner = OwnerIndex(document).OwnerOf(wizard.Row);
+  const int owner = OwnerOf(document, wizard.Row);
   const std::int64_t body = owner == 0 ? 0 : std::int64_t{document.Objects[owner].AbsoluteY} + kBarHeight;
   record.AbsoluteY = Fit32(body + record.Y);
 }

@@ -79,7 +79,13 @@ class TextConversion {
     else
       missing_ = std::move(character);
   }
-  void Convert(std::optional<std::string>& text) {
+  template <std::convertible_to<std::string_view> Text>
+  void Convert(Text& text) {
+    std::string converted = text;
+    Convert(converted);
+    text = converted;
+  }
+  void Convert(RareOptional<std::string>& text) {
     if (text) Convert(*text);
   }
   template <typename Number>
@@ -111,12 +117,13 @@ void ConvertTexts(ObjectRecord& record, TextConversion& conversion) {
 
 // --- Pasting ---
 
-std::vector<ObjectRecord> RecordsOf(const ClipboardTable& clipboard) {
-  std::vector<ObjectRecord> records;
-  records.reserve(clipboard.Rows.size());
-  for (const auto& [row, record] : clipboard.Rows)
-    records.push_back(record);
-  return records;
+// In the texts of another page than theirs, or the character that it does not hold.
+std::optional<std::string> ConvertRecords(std::map<int, ObjectRecord>& records, const CodePage& from,
+                                          const CodePage& to) {
+  TextConversion conversion(from, to);
+  for (auto& [row, record] : records)
+    ConvertTexts(record, conversion);
+  return conversion.Missing();
 }
 
 // Twips.
@@ -125,9 +132,9 @@ struct Corner {
   std::int64_t Y = std::numeric_limits<std::int32_t>::max();
 };
 
-Corner CornerOf(const std::vector<ObjectRecord>& records) {
+Corner CornerOf(const std::map<int, ObjectRecord>& records) {
   Corner corner;
-  for (const ObjectRecord& record : records) {
+  for (const auto& [row, record] : records) {
     corner.X = std::min(corner.X, NumericPrefix(record.XValue));
     corner.Y = std::min(corner.Y, std::int64_t{record.AbsoluteY});
   }
@@ -166,17 +173,17 @@ int FreeRowFrom(int first, const ObjectTable& objects) {
   throw std::out_of_range(kReasonTooManyObjects);
 }
 
-std::vector<int> PutIntoTable(PageWork& work, std::vector<ObjectRecord> records, int bar) {
+std::vector<int> PutIntoTable(PageWork& work, const std::map<int, ObjectRecord>& records, int bar) {
   ObjectTable& objects = work.document.Objects;
   RaiseCount(objects, records.size());
   const Corner corner = CornerOf(records);
   std::vector<int> rows;
-  for (ObjectRecord& record : records) {
+  for (const auto& [source, copied] : records) {
     const int row = FreeRowFrom(rows.empty() ? 1 : rows.back() + 1, objects);
+    ObjectRecord& record = objects[row] = copied;
     MoveFrom(record, corner, work);
     GiveTo(std::as_const(objects)[bar], record);
     record.Selected = kTrue;
-    objects[row] = std::move(record);
     rows.push_back(row);
   }
   return rows;
@@ -226,16 +233,15 @@ std::optional<std::string> PasteObjects(PageWork& work, const ClipboardTable& cl
     work.services.ShowBox(kTextNoSubsectionHere, BoxIcon::Critical);
     return std::nullopt;
   }
-  std::vector<ObjectRecord> records = RecordsOf(clipboard);
-  if (work.document.Page != clipboard.Page) {
-    TextConversion conversion(*clipboard.Page, *work.document.Page);
-    for (ObjectRecord& record : records)
-      ConvertTexts(record, conversion);
-    if (conversion.Missing()) return conversion.Missing();
+  const bool isOfThisPage = work.document.Page == clipboard.Page;
+  std::map<int, ObjectRecord> converted;
+  if (!isOfThisPage) {
+    converted = clipboard.Rows;
+    if (auto missing = ConvertRecords(converted, *clipboard.Page, *work.document.Page)) return missing;
   }
   work.services.PushUndo();
   EndGroup(work);
-  ShowPasted(work, PutIntoTable(work, std::move(records), bar));
+  ShowPasted(work, PutIntoTable(work, isOfThisPage ? clipboard.Rows : converted, bar));
   return std::nullopt;
 }
 

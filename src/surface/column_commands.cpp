@@ -90,8 +90,8 @@ int SlotOfPreviousName(const Document& document, std::string_view name) {
 }
 
 // A "$" word that was no column is dropped.
-void RenameField(std::string& field, const Document& document) {
-  if (field.find('$') == std::string::npos) return;
+std::string Renamed(std::string_view field, const Document& document) {
+  if (field.find('$') == std::string_view::npos) return std::string(field);
   std::string renamed;
   const Tokens tokens = SplitTokens(field, kBlank);
   for (std::size_t n = 1; n <= tokens.Count(); ++n) {
@@ -101,15 +101,15 @@ void RenameField(std::string& field, const Document& document) {
       renamed += document.Columns[slot].Name;
     }
   }
-  field = Trim(renamed);
+  return std::string(Trim(renamed));
 }
 
 void RenameInObjects(Document& document) {
   for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
     ObjectRecord& record = document.Objects[row];
     if (record.Kind == ObjectKind::None) continue;
-    RenameField(record.XValue, document);
-    RenameField(record.X2Value, document);
+    record.XValue = Renamed(record.XValue, document);
+    record.X2Value = Renamed(record.X2Value, document);
   }
 }
 

@@ -103,7 +103,7 @@ void ApplyChange(ObjectTable& objects, int barRow, const BodyChange& change) {
 
 std::unique_ptr<Gesture> BeginEndBarDrag(PageWork& work, CanvasPoint at) {
   const int row = work.document.Objects.CurrentObject;
-  if (BarOf(work.document, row) == 0) return nullptr;
+  if (OwnerOf(work.document, row) == 0) return nullptr;
   work.pointer.ObjectDrag = true;
   work.pointer.DragX0 = at.X;
   work.pointer.DragY0 = at.Y;
@@ -113,7 +113,7 @@ std::unique_ptr<Gesture> BeginEndBarDrag(PageWork& work, CanvasPoint at) {
 
 void EndEndBarDrag(PageWork& work, int endRow) {
   work.services.PushUndo();
-  const int bar = BarOf(work.document, endRow);
+  const int bar = OwnerOf(work.document, endRow);
   const std::int32_t endY = TwipsOf(work.pointer.Overlay[1].Top, work.ZoomFactor);
   RememberOverlayPlace(work.pointer);
   const BodyChange change = PlanChange(work.document, bar, endY);

@@ -82,7 +82,7 @@ void InsertFromMenu(InsertionWork& work, Insertion what) {
 
 void PutNextVariable(InsertionWork& work, int row, bool withSnapshot) {
   PageWork& page = work.page;
-  const int bar = OwnerIndex(page.document).OwnerOf(row);
+  const int bar = OwnerOf(page.document, row);
   const NextVariable next = FindNextVariable(page.document, bar, work.SampleDataPath);
   if (next.FileMissing) return TellKedMissing(work);
   if (!next.Name) return;

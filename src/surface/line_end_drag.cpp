@@ -2,6 +2,7 @@
 // An ANYLINE by one of its ends, or whole by the line between them.
 #include "base/numbers.h"
 #include "document/position.h"
+#include "document/sections.h"
 #include "surface/gesture.h"
 #include "surface/object_drag_end.h"
 #include "surface/overlay.h"
@@ -30,7 +31,7 @@ void TakeFirstEnd(PageWork& work, int row) {
   ObjectRecord& record = document.Objects[row];
   const CanvasPoint farEnd{RoundToEven(XOf(document, record) + record.Width),
                            static_cast<double>(record.AbsoluteY) + record.Height};
-  const int cameFrom = BarOf(document, row);
+  const int cameFrom = OwnerOf(document, row);
   record.XValue = WholePosition(work.pointer.LineStart.X / work.ZoomFactor);
   record.AbsoluteY = TwipsOf(work.pointer.LineStart.Y, work.ZoomFactor);
   const int bar = SettleInBody(document, row, cameFrom);
@@ -55,7 +56,7 @@ void TakeSecondEnd(PageWork& work, int row) {
 
 void TakeWholeLine(PageWork& work, int row) {
   ObjectRecord& record = work.document.Objects[row];
-  const int cameFrom = BarOf(work.document, row);
+  const int cameFrom = OwnerOf(work.document, row);
   if (record.MayMoveHorizontally == kTrue)
     record.XValue = WholePosition(work.pointer.LineStart.X / work.ZoomFactor);
   if (record.MayMoveVertically == kTrue)

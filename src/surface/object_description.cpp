@@ -60,7 +60,7 @@ std::string ContentOf(const ObjectRecord& record) {
     case ObjectKind::Chart:
       return record.ChartValues.size() > slot::kTitle ? record.ChartValues[slot::kTitle] : std::string();
     case ObjectKind::Picture:
-      return record.PictureFile.substr(record.PictureFile.find_last_of("/\\") + 1);
+      return record.PictureFile.Text().substr(record.PictureFile.Text().find_last_of("/\\") + 1);
     case ObjectKind::Barcode:
       return WithKindOfCode(record);
     case ObjectKind::Command:

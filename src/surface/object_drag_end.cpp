@@ -90,10 +90,6 @@ bool SnapsToGrid(const ObjectRecord& record) {
   return record.AlignToGrid == 1;
 }
 
-int BarOf(const Document& document, int row) {
-  return OwnerIndex(document).OwnerOf(row);
-}
-
 void PlaceInBody(Document& document, int row, int bar, std::int32_t y) {
   const std::int64_t top = bar == 0 ? 0 : std::int64_t{document.Objects[bar].AbsoluteY} + kBarHeight;
   document.Objects[row].Y = y;
@@ -102,7 +98,7 @@ void PlaceInBody(Document& document, int row, int bar, std::int32_t y) {
 
 int SettleInBody(Document& document, int row, int cameFrom) {
   AssignObjects(document);
-  const int bar = BarOf(document, row);
+  const int bar = OwnerOf(document, row);
   const ObjectRecord& record = document.Objects[row];
   if (bar != 0 && BodyHolds(document.Objects[bar], record.AbsoluteY)) return bar;
   if (cameFrom != 0) PlaceInBody(document, row, cameFrom, record.Y);
@@ -142,7 +138,7 @@ void RememberOverlayPlace(PointerState& pointer) {
 
 void EndObjectDrag(PageWork& work, int row) {
   work.services.PushUndo();
-  const int cameFrom = BarOf(work.document, row);
+  const int cameFrom = OwnerOf(work.document, row);
   TakeOverlayPlace(work, work.document.Objects[row]);
   ComeToRest(work.document, row, cameFrom);
   RememberOverlayPlace(work.pointer);
@@ -152,7 +148,7 @@ void EndObjectDrag(PageWork& work, int row) {
 void EndBoxDrag(PageWork& work, int row) {
   work.document.Objects.CurrentObject = row;
   work.services.PushUndo();
-  const int cameFrom = BarOf(work.document, row);
+  const int cameFrom = OwnerOf(work.document, row);
   TakeNewPlace(work, work.document.Objects[row]);
   ComeToRest(work.document, row, cameFrom);
   RememberOverlayPlace(work.pointer);

@@ -18,9 +18,6 @@ std::string WholePosition(double twips);
 double GridStepOf(const Document& document);
 bool SnapsToGrid(const ObjectRecord& record);
 
-// The bar of the row while the row still stands where the drag began; 0 without one.
-int BarOf(const Document& document, int row);
-
 // Gives a row whose AbsoluteY was set its subsection. Outside all bodies it springs back into the one it came
 // from. Returns the bar, 0 without one.
 int SettleInBody(Document& document, int row, int cameFrom);

@@ -14,8 +14,9 @@ constexpr std::size_t kCaptionLength = 200;
 
 std::string CaptionOf(const ObjectRecord& record, const CodePage& page) {
   const std::string name = page.Upper(record.SectionTitle);
-  if (name == "[HEADER]" || name == "[DATA]" || name == "[FOOTER]") return "Section: " + record.SectionTitle;
-  std::string caption = record.SectionTitle.substr(0, kCaptionLength);
+  if (name == "[HEADER]" || name == "[DATA]" || name == "[FOOTER]")
+    return "Section: " + record.SectionTitle.Text();
+  std::string caption = record.SectionTitle.Text().substr(0, kCaptionLength);
   caption += " [Starts in position: ";
   caption += Trim(record.StartY);
   caption += ']';

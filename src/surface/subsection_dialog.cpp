@@ -155,7 +155,7 @@ SubsectionDialog OpenSubsection(const Document& document, int row, const std::ve
 
 BaseSection SectionOfRow(const Document& document, int row) {
   const ObjectKind kind = document.Objects[row].Kind;
-  const int bar = kind == ObjectKind::Subsection ? row : OwnerIndex(document).OwnerOf(row);
+  const int bar = kind == ObjectKind::Subsection ? row : OwnerOf(document, row);
   if (row == 0 || bar == 0) return BaseSection::Data;
   return SectionOfBar(document.Objects[bar], *document.Page);
 }

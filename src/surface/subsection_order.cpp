@@ -15,7 +15,7 @@ enum class Side : std::uint8_t { Above, Below };
 
 // The subsection that bears the name of its section and opens it.
 bool OpensSection(const ObjectRecord& bar) {
-  return bar.SectionOwner == "[" + bar.SectionName;
+  return bar.SectionOwner == "[" + bar.SectionName.Text();
 }
 
 // The next subsection on that side of the page; 0 at its end.

@@ -100,7 +100,7 @@ BaseSection SectionOfBar(const ObjectRecord& bar, const CodePage& page) {
 }
 
 std::string_view HeadOfBar(const ObjectRecord& bar) {
-  const std::size_t blank = bar.SectionTitle.find(kBlank);
+  const std::size_t blank = bar.SectionTitle.Text().find(kBlank);
   if (blank == std::string::npos) return {};
   return Trim(std::string_view(bar.SectionTitle).substr(blank));
 }

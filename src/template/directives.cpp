@@ -62,41 +62,18 @@ constexpr double kLargest32 = std::numeric_limits<std::int32_t>::max();
 constexpr double kLargest16 = std::numeric_limits<std::int16_t>::max();
 constexpr double kBrightest = 255, kLastBasicColour = 15;
 
-constexpr auto kTextStores = std::to_array<std::pair<Action, std::string AttributeState::*>>({
-    {Action::Format, &AttributeState::AttrFormat},
-    {Action::Link, &AttributeState::AttrLink},
-    {Action::FontName, &AttributeState::AttrFontName},
-    {Action::CharSet, &AttributeState::AttrCharSet},
-    {Action::TextBoxProps, &AttributeState::TextBoxProps},
-});
-
-struct NumberStore {
-  Action action;
-  double AttributeState::*member;
-  double largest;  // of the field that it fills
-};
-
-constexpr auto kNumberStores = std::to_array<NumberStore>({
-    {Action::LineWidth, &AttributeState::AttrLineWidth, kLargest16},
-    {Action::BarHeight, &AttributeState::AttrBarHeight, kLargest32},
-    {Action::BarWidth, &AttributeState::AttrBarWidth, kLargest16},
-    {Action::Size, &AttributeState::AttrSize, kLargest32},
-});
-
-constexpr auto kYesStores = std::to_array<std::pair<Action, Flag AttributeState::*>>({
-    {Action::Italic, &AttributeState::AttrItalic},
-    {Action::Underline, &AttributeState::AttrUnderline},
-    {Action::Bold, &AttributeState::AttrBold},
-    {Action::Trim, &AttributeState::AttrTrim},
-});
-
 // One item of a block: its key, and the value behind the first "=".
 class Item {
  public:
   Item(ReaderState& state, std::string_view text, bool mayHoldDisarmed) : state_(state) {
     const std::size_t equals = text.find('=');
     name_ = Trim(text.substr(0, equals));
-    key_ = state.document.Page->Upper(name_);
+    // A longer name is none of the keys.
+    if (name_.size() <= capitals_.size()) {
+      const CodePage& page = *state.document.Page;
+      std::transform(name_.begin(), name_.end(), capitals_.begin(), [&](char c) { return page.Upper(c); });
+      key_ = {capitals_.data(), name_.size()};
+    }
     if (equals != std::string_view::npos) value_ = text.substr(equals + 1);
     if (mayHoldDisarmed) RestoreDelimiters();
   }
@@ -115,9 +92,9 @@ class Item {
     value_ = restored_;
   }
   void ApplyAttribute(const DirectiveRow& row);
-  bool StoreText(Action action);
-  bool StoreNumber(Action action);
-  bool StoreYes(Action action);
+  void ApplyState(const DirectiveRow& row);
+  void StoreNumber(double& number, double largest);  // `largest`: of the field that it fills
+  void StoreYes(Flag& flag);
   void SetSymbology(int symbology);
   void NoteIfAbove(double largest, std::string_view number);
   void NoteOutside(double smallest, double largest, std::string_view number);
@@ -137,22 +114,31 @@ class Item {
   void Begin(NewObject& object, ObjectKind kind);
 
   // The n-th value between commas.
-  std::string_view Part(std::size_t n) const {
+  std::string_view Part(std::size_t n) {
+    if (!parts_) TakeParts();
+    return (*parts_)[n - 1];
+  }
+  void TakeParts() {
     CheckTokenCount(value_, ',');
-    return NthToken(value_, n, ',');
+    parts_.emplace();
+    std::optional<std::string_view> rest = value_;
+    for (std::size_t n = 0; n < parts_->size() && rest; ++n)
+      (*parts_)[n] = TakeToken(rest, ',');
   }
   AttributeState& attributes() { return state_.attributes; }
   LayoutCursor& cursor() { return state_.cursor; }
 
   ReaderState& state_;
   std::string_view name_;
-  std::string key_;
+  std::array<char, 32> capitals_{};  // of the name
+  std::string_view key_;             // in there
   std::string_view value_;
+  std::optional<std::array<std::string_view, 6>> parts_;  // no directive has more
   std::string restored_;
 };
 
 void Item::Apply() {
-  if (key_.empty()) return;
+  if (name_.empty()) return;
   if (const DirectiveRow* row = FindDirective(key_)) {
     if (row->action >= Action::PageBreak) return ApplyCreation(*row);
     return ApplyAttribute(*row);
@@ -162,40 +148,61 @@ void Item::Apply() {
   if (key_.ends_with("_FORMAT") && !value_.empty()) state_.Note(FindingKind::WillNotComeBack, name_);
 }
 
+void Item::StoreNumber(double& number, double largest) {
+  NoteIfAbove(largest, value_);
+  NoteUnlessNumber(value_);
+  number = NumericPrefix(value_);
+}
+
+void Item::StoreYes(Flag& flag) {
+  flag = ToFlag(IsYes(value_));
+  NoteUnlessIn({"Y", "YES", "1", "N", "NO", "0"});
+}
+
 // Values that are stored as they stand.
-bool Item::StoreText(Action action) {
-  for (const auto& [stored, member] : kTextStores) {
-    if (stored == action) attributes().*member = value_;
-    if (stored == action) return true;
-  }
-  return false;
-}
-
-bool Item::StoreNumber(Action action) {
-  for (const NumberStore& row : kNumberStores) {
-    if (row.action != action) continue;
-    NoteIfAbove(row.largest, value_);
-    NoteUnlessNumber(value_);
-    attributes().*row.member = NumericPrefix(value_);
-    return true;
-  }
-  return false;
-}
-
-bool Item::StoreYes(Action action) {
-  for (const auto& [stored, member] : kYesStores) {
-    if (stored != action) continue;
-    attributes().*member = ToFlag(IsYes(value_));
-    NoteUnlessIn({"Y", "YES", "1", "N", "NO", "0"});
-    // The writer never switches trimming off, so blanks around a text are gone after a save.
-    if (action == Action::Trim && !IsYes(value_)) state_.Note(FindingKind::WillNotComeBack, name_);
-    return true;
-  }
-  return false;
-}
-
 void Item::ApplyAttribute(const DirectiveRow& row) {
-  if (StoreText(row.action) || StoreNumber(row.action) || StoreYes(row.action)) return;
+  AttributeState& state = attributes();
+  switch (row.action) {
+    case Action::Format:
+      state.AttrFormat = value_;
+      return;
+    case Action::Link:
+      state.AttrLink = value_;
+      return;
+    case Action::FontName:
+      state.AttrFontName = value_;
+      return;
+    case Action::CharSet:
+      state.AttrCharSet = value_;
+      return;
+    case Action::TextBoxProps:
+      state.TextBoxProps = value_;
+      return;
+    case Action::LineWidth:
+      return StoreNumber(state.AttrLineWidth, kLargest16);
+    case Action::BarHeight:
+      return StoreNumber(state.AttrBarHeight, kLargest32);
+    case Action::BarWidth:
+      return StoreNumber(state.AttrBarWidth, kLargest16);
+    case Action::Size:
+      return StoreNumber(state.AttrSize, kLargest32);
+    case Action::Italic:
+      return StoreYes(state.AttrItalic);
+    case Action::Underline:
+      return StoreYes(state.AttrUnderline);
+    case Action::Bold:
+      return StoreYes(state.AttrBold);
+    case Action::Trim:
+      StoreYes(state.AttrTrim);
+      // The writer never switches trimming off, so blanks around a text are gone after a save.
+      if (!IsYes(value_)) state_.Note(FindingKind::WillNotComeBack, name_);
+      return;
+    default:
+      return ApplyState(row);
+  }
+}
+
+void Item::ApplyState(const DirectiveRow& row) {
   AttributeState& state = attributes();
   switch (row.action) {
     case Action::Def:

@@ -28,9 +28,10 @@ std::string TextBoxPropsOf(const ObjectRecord& record) {
 std::string CommandWord(const ObjectRecord& record) {
   if (record.Content == kPageBreak) return ";\\np";
   if (record.Content == "@@execute") {
-    return ";Execute=" + record.ExecuteCommand + "," + record.ExecuteArg2 + "," + record.ExecuteArg3;
+    return ";Execute=" + record.ExecuteCommand.Text() + "," + record.ExecuteArg2.Text() + "," +
+           record.ExecuteArg3.Text();
   }
-  if (record.Content == "@@postshow") return ";PostShow=" + record.ExecuteCommand;
+  if (record.Content == "@@postshow") return ";PostShow=" + record.ExecuteCommand.Text();
   if (record.Content == "@@page") return ";Page=" + record.CommandPayload.value_or("");
   return {};
 }

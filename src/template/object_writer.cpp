@@ -28,7 +28,12 @@ const CommentRow& CommentsOf(ObjectKind kind) {
 }  // namespace
 
 ObjectWriter::ObjectWriter(const Document& document, const WriteOptions& options, WriteReport& report)
-    : document_(document), options_(options), report_(report), spacing_(document.Settings.SpacingTwips()) {}
+    : document_(document), options_(options), report_(report), spacing_(document.Settings.SpacingTwips()) {
+  // About what a row takes. A text of this size that grows is moved again and again, to fresh memory each
+  // time.
+  constexpr std::size_t kBytesOfARow = 100;
+  text_.reserve(kBytesOfARow * static_cast<std::size_t>(document.Objects.LastScanned()));
+}
 
 void ObjectWriter::Line(std::string_view text) {
   text_ += text;
@@ -182,11 +187,10 @@ void ObjectWriter::Flags(const ObjectRecord& record) {
 void ObjectWriter::VerticalStep(const ObjectRecord& record) {
   if (record.Y <= 0) return;
   const std::int64_t step = std::int64_t{record.Y} - state_.CursorY;
-  const CommentRow& comments = CommentsOf(record.Kind);
   if (step == spacing_) {
-    BlockLineWithComment(comments.oneStep, "\\n");
+    BlockLineWithComment(CommentsOf(record.Kind).oneStep, "\\n");
   } else if (step != 0) {
-    BlockLineWithComment(comments.otherStep, "Spacing=", step, ";\\n");
+    BlockLineWithComment(CommentsOf(record.Kind).otherStep, "Spacing=", step, ";\\n");
   }
   state_.CursorY = record.Y;
 }
@@ -335,28 +339,24 @@ void ObjectWriter::LabelAttributes(const ObjectRecord& record) {
   BeginBlockLine();
   const Colour colour = TextColourOf(record);
   if (colour != state_.Color) Add("c=", ColourText(colour), ";");
-  if (record.FontName != state_.FontName) Add("f=", record.FontName, ";");
-  if (record.CharSet != state_.CharSet) Add("cs=", record.CharSet, ";");
+  if (record.FontName != state_.FontName) Add("f=", state_.FontName = record.FontName, ";");
+  if (record.CharSet != state_.CharSet) Add("cs=", state_.CharSet = record.CharSet, ";");
   if (record.FontSize != state_.Size) Add("s=", record.FontSize, ";");
   if (record.Bold != state_.Bold) Add(record.Bold != 0 ? "b=y;" : "b=n;");
   if (record.Underline != state_.Underline) Add(record.Underline != 0 ? "u=y;" : "u=n;");
   if (record.Italic != state_.Italic) Add(record.Italic != 0 ? "i=y;" : "i=n;");
   if (record.Strikethrough != state_.Strike) Add(record.Strikethrough != 0 ? "st=y;" : "st=n;");
   const std::string_view caseMode = record.CaseMode.empty() ? "N" : std::string_view(record.CaseMode);
-  if (caseMode != state_.Case) Add(CaseItems(caseMode));
+  if (caseMode != state_.Case) Add(CaseItems(state_.Case = caseMode));
   const std::string_view align = record.Align.empty() ? "L" : std::string_view(record.Align);
   Flags(record);
-  if (align != state_.Align) Add("a=", align, ";");
+  if (align != state_.Align) Add("a=", state_.Align = align, ";");
   state_.Color = colour;
-  state_.FontName = record.FontName;
-  state_.CharSet = record.CharSet;
   state_.Size = record.FontSize;
   state_.Bold = record.Bold;
   state_.Underline = record.Underline;
   state_.Italic = record.Italic;
   state_.Strike = record.Strikethrough;
-  state_.Case = caseMode;
-  state_.Align = align;
   if (BlockIsEmpty()) return text_.resize(before);
   DropLastSeparator();
   EndBlockLine(kPlain);

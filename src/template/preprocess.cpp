@@ -45,29 +45,31 @@ std::string_view TextOf(const Block& block, std::string_view line) {
 }
 
 // What is judged once it is known where the next block begins.
-void Disarm(std::string& result, std::string_view line, const Block& block, std::size_t next,
+void Disarm(std::string& changed, std::string_view line, const Block& block, std::size_t next,
             const CodePage& page) {
   const bool textBehind = !Trim(line.substr(block.close + 1, next - block.close - 1)).empty();
   const bool hasBraces = line[block.open] == '{' && line[block.close] == '}';
   // Most blocks stand alone, and whatever they hold, nothing about them changes.
   if ((!textBehind && hasBraces) || HasPosition(TextOf(block, line), page)) return;
   // A block that stays a command gets back braces, whatever the document's own characters are.
-  result[block.open] = textBehind ? kDisarmedOpen : '{';
-  result[block.close] = textBehind ? kDisarmedClose : '}';
+  if (changed.empty()) changed = line;
+  changed[block.open] = textBehind ? kDisarmedOpen : '{';
+  changed[block.close] = textBehind ? kDisarmedClose : '}';
 }
 
 }  // namespace
 
 // An open character inside an open block begins the block anew; a close character without one judges nothing.
-void PreprocessLine(std::string& result, std::string_view line, char open, char close, const CodePage& page) {
-  result.assign(line);
-  if (TrimLeft(line).starts_with('[')) return;
+std::string_view PreprocessLine(std::string& changed, std::string_view line, char open, char close,
+                                const CodePage& page) {
+  changed.clear();
+  if (TrimLeft(line).starts_with('[')) return line;
   std::optional<Block> before;
   constexpr std::size_t kNone = std::string_view::npos;
   std::size_t begin = kNone;
   for (std::size_t at = 0; (at = FindEither(line, at, open, close)) < line.size(); ++at) {
     if (line[at] == close && begin != kNone) {
-      if (before) Disarm(result, line, *before, begin, page);
+      if (before) Disarm(changed, line, *before, begin, page);
       before = {begin, at};
       CheckTokenCount(TextOf(*before, line), ';');
       begin = kNone;
@@ -75,13 +77,13 @@ void PreprocessLine(std::string& result, std::string_view line, char open, char 
       begin = at;
     }
   }
-  if (before) Disarm(result, line, *before, line.size(), page);
+  if (before) Disarm(changed, line, *before, line.size(), page);
+  return changed.empty() ? line : changed;
 }
 
 std::string PreprocessLine(std::string_view line, char open, char close, const CodePage& page) {
-  std::string result;
-  PreprocessLine(result, line, open, close, page);
-  return result;
+  std::string changed;
+  return std::string(PreprocessLine(changed, line, open, close, page));
 }
 
 }  // namespace kev

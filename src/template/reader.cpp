@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <stdexcept>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -29,7 +28,7 @@ constexpr std::size_t kMostTextBytes = 64UL * 1024 * 1024;
 constexpr std::size_t kMostAppliedBytes = 256UL * 1024 * 1024;
 
 static std::size_t TextBytes(const ObjectRecord& record) {
-  const auto optionalBytes = [](const std::optional<std::string>& text) { return text ? text->size() : 0; };
+  const auto optionalBytes = [](const RareOptional<std::string>& text) { return text ? text->size() : 0; };
   std::size_t bytes = record.Content.size() + record.FontName.size() + record.CharSet.size() +
                       record.Link.size() + record.Format.size() + record.XValue.size() +
                       record.X2Value.size() + record.PicturePath.size() + record.PictureFile.size() +
@@ -118,15 +117,11 @@ std::string_view WithoutLeadingTabs(std::string_view line) {
   return line;
 }
 
-const SettingRow* FindHeadKey(const std::string& capitals) {
-  static const auto keys = [] {
-    std::unordered_map<std::string, const SettingRow*> all;
-    for (const SettingRow& row : SettingRows())
-      all.emplace(CodePage::Default().Upper(row.key), &row);
-    return all;
-  }();
-  const auto found = keys.find(capitals);
-  return found == keys.end() ? nullptr : found->second;
+// Asked for many lines that hold something else: the lengths rule most of them out.
+const SettingRow* FindHeadKey(std::string_view name, const CodePage& page) {
+  for (const SettingRow& row : SettingRows())
+    if (row.key.size() == name.size() && page.EqualsIgnoringCase(row.key, name)) return &row;
+  return nullptr;
 }
 
 class TemplateReader {
@@ -169,8 +164,9 @@ class TemplateReader {
   Document document_;
   ReaderState state_;
   std::string currentSection_{kHeader};
-  std::string prepared_;  // the line as it is scanned
+  std::string changed_;  // the line as it is scanned, where that is not as it stands
   std::string textBuffer_;
+  NewObject flushed_;  // used again for each text
   std::string commandBuffer_;
   std::unordered_set<std::string> columns_;  // the names so far, in capitals
   bool inBlock_ = false;
@@ -244,14 +240,14 @@ void TemplateReader::CheckHeadLine(std::string_view line, const KeyFile& keys, b
     if (inHead && visible != kGeneratedLine) state_.Note(FindingKind::LostText, visible);
     return;
   }
-  const std::string key = page_.Upper(line.substr(0, equals));
-  const SettingRow* row = FindHeadKey(key);
+  const std::string_view key = line.substr(0, equals);
+  const SettingRow* row = FindHeadKey(key, page_);
   if (row == nullptr) {
-    if (inHead) state_.Note(FindingKind::UnknownKey, Trim(line.substr(0, equals)));
+    if (inHead) state_.Note(FindingKind::UnknownKey, Trim(key));
   } else if (state_.line > KeyFile::kLinesLookedAt) {
     state_.Note(FindingKind::LateKey, line);
   } else if (keys.Line(key) != state_.line) {
-    state_.Note(FindingKind::RepeatedKey, key);
+    state_.Note(FindingKind::RepeatedKey, page_.Upper(key));
   } else {
     CheckHeadValue(*row, Trim(line.substr(equals + 1)));
   }
@@ -335,12 +331,12 @@ void TemplateReader::ReadLayout() {
 
 void TemplateReader::ReadLayoutLine(std::string_view line) {
   const DocumentSettings& settings = document_.Settings;
-  PreprocessLine(prepared_, line, settings.OpenCharacter(), settings.CloseCharacter(), page_);
-  if (prepared_ != line) NoteDisarmedBlocks(line, prepared_);
-  const std::string_view content = WithoutLeadingTabs(prepared_);
-  const std::string_view trimmed = Trim(content);
+  const std::string_view prepared =
+      PreprocessLine(changed_, line, settings.OpenCharacter(), settings.CloseCharacter(), page_);
+  if (prepared.data() != line.data() && prepared != line) NoteDisarmedBlocks(line, prepared);
+  const std::string_view trimmed = Trim(WithoutLeadingTabs(prepared));
   if (!trimmed.starts_with('['))
-    return ScanContent(trimmed, static_cast<std::size_t>(trimmed.data() - prepared_.data()));
+    return ScanContent(trimmed, static_cast<std::size_t>(trimmed.data() - prepared.data()));
   if (state_.cursor.OpenSubsection != 0) CloseSubsection();
   const std::string capitals = page_.Upper(trimmed);
   if (capitals == "[DATA]" || capitals == "[FOOTER]") currentSection_ = capitals;
@@ -440,7 +436,7 @@ void TemplateReader::Flush() {
   textIsFlushed_ = true;
   if (!hasText_) return;
   AttributeState& attributes = state_.attributes;
-  NewObject object;
+  NewObject& object = flushed_;
   object.text = textBuffer_;
   if (object.text.find('\1') != std::string::npos) {
     ReplaceAll(object.text, '\1', document_.Settings.OpenCharacter());

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 #include "base/text.h"
 
@@ -31,11 +32,33 @@ std::optional<std::size_t> BlockOf(std::string_view line) {
   return static_cast<std::size_t>(found - kMarkers.begin());
 }
 
+// The lines of one block, as pieces of stage one: all that stands together there is one piece.
+class BlockLines {
+ public:
+  // `rest` is the text from the beginning of the line on.
+  void Add(std::string_view line, std::string_view rest) {
+    const bool ends = rest.substr(line.size(), kLineEnd.size()) == kLineEnd;
+    const std::string_view whole = rest.substr(0, line.size() + (ends ? kLineEnd.size() : 0));
+    if (!pieces_.empty() && pieces_.back().data() + pieces_.back().size() == whole.data())
+      pieces_.back() = {pieces_.back().data(), pieces_.back().size() + whole.size()};
+    else
+      pieces_.push_back(whole);
+    if (!ends) pieces_.push_back(kLineEnd);
+  }
+  void AppendTo(std::string& text) const {
+    for (const std::string_view piece : pieces_)
+      text += piece;
+  }
+
+ private:
+  std::vector<std::string_view> pieces_;
+};
+
 }  // namespace
 
 std::string RegroupBySection(std::string_view stageOne, const CodePage& page) {
-  std::array<std::string, kMarkers.size()> blocks;
-  std::string* current = nullptr;
+  std::array<BlockLines, kMarkers.size()> blocks;
+  BlockLines* current = nullptr;
   std::string text;
   text.reserve(stageOne.size() + kAddedBytes);
   bool inHead = true;
@@ -45,23 +68,17 @@ std::string RegroupBySection(std::string_view stageOne, const CodePage& page) {
     if (inHead) {
       AddLine(text, line);
       inHead = !page.EqualsIgnoringCase(Trim(line), "[HEADER]");
-      continue;
-    }
-    if (const std::optional<std::size_t> block = BlockOf(line)) {
+    } else if (const std::optional<std::size_t> block = BlockOf(line)) {
       current = &blocks[*block];
     } else if (current != nullptr) {
-      // Nearly all lines end as they should and go on as they are.
-      if (rest.substr(line.size(), kLineEnd.size()) == kLineEnd)
-        *current += rest.substr(0, line.size() + kLineEnd.size());
-      else
-        AddLine(*current, line);
+      current->Add(line, rest);
     }
   }
-  text += blocks[0];
+  blocks[0].AppendTo(text);
   AddLine(text, "[FOOTER]");
-  text += blocks[1];
+  blocks[1].AppendTo(text);
   AddLine(text, "[DATA]");
-  text += blocks[2];
+  blocks[2].AppendTo(text);
   return text;
 }
 

@@ -38,8 +38,10 @@ void AttachRows(std::vector<Finding>& findings, const std::vector<SourcePlace>& 
 // Whether the text of a block is made of commands and of nothing else.
 bool LooksLikeCommands(std::string_view block, const CodePage& page);
 
-// Prepares a line into a text that is used again for each.
-void PreprocessLine(std::string& result, std::string_view line, char open, char close, const CodePage& page);
+// The prepared line: the line itself, as it nearly always stays, else `changed`, which is used again for
+// each.
+std::string_view PreprocessLine(std::string& changed, std::string_view line, char open, char close,
+                                const CodePage& page);
 
 // Where the next of two characters stands, from `from` on; the size of the text where there is none.
 inline std::size_t FindEither(std::string_view text, std::size_t from, char one, char other) {

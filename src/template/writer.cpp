@@ -20,7 +20,7 @@ namespace {
 
 // What stands behind the first blank of the title: the head line as the file had it.
 std::string_view HeadLine(const ObjectRecord& bar) {
-  const std::size_t blank = bar.SectionTitle.find(kBlank);
+  const std::size_t blank = bar.SectionTitle.Text().find(kBlank);
   return blank == std::string::npos ? std::string_view{}
                                     : Trim(std::string_view(bar.SectionTitle).substr(blank));
 }

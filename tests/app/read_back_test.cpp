@@ -79,7 +79,7 @@ TEST_F(ReadingBack, WhatAKindNeverShowsIsNotCompared) {
   page_.Objects[2].FontName = "Courier New";
   page_.Objects[1].LineWidth = 4;
   page_.Objects[1].Selected = kTrue;
-  page_.Objects[1].SortKey = "x";
+  page_.Objects[1].SortKey = {7, 7, 7};
   EXPECT_TRUE(CompareReadBack(page_, file_).Same());
 }
 

@@ -117,7 +117,7 @@ TEST_F(RecoveryTest, WritingLeavesTheRowsAsTheyStand) {
   document_ = random.SaneDocument();
   for (int row = 1; row <= document_.Objects.LastScanned(); ++row) {
     if (document_.Objects[row].Kind == ObjectKind::Subsection) document_.Objects[row].AbsoluteY += 77;
-    document_.Objects[row].SortKey = "as it was";
+    document_.Objects[row].SortKey = {7, 7, row};
   }
   std::vector<ObjectRecord> before;
   for (int row = 1; row <= document_.Objects.LastScanned(); ++row)

@@ -33,7 +33,7 @@ std::vector<const ObjectRecord*> RowsOf(const Document& document, ObjectKind kin
 
 int EndOf(const Document& document, std::string_view name) {
   for (const ObjectRecord* bar : RowsOf(document, ObjectKind::Subsection))
-    if (bar->SectionName.starts_with(name)) return bar->EndsAt;
+    if (bar->SectionName.Text().starts_with(name)) return bar->EndsAt;
   ADD_FAILURE() << name;
   return -1;
 }

@@ -44,9 +44,39 @@ TEST(BandLayout, KnowsTheOwnersAsTheyStandInIt) {
     StoreLayout(document, sorted, layout);
     const OwnerIndex index(document);
     for (const int row : sorted.Rows) {
+      ASSERT_EQ(OwnerOf(document, row), index.OwnerOf(row)) << row;
       if (IsBand(document.Objects[row].Kind)) continue;
       ASSERT_EQ(owners[static_cast<std::size_t>(row)], index.OwnerOf(row)) << row;
     }
+  }
+}
+
+void ShareNames(Document& document) {
+  for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
+    ObjectRecord& record = document.Objects[row];
+    if (record.Kind == ObjectKind::Subsection)
+      record.SectionName = "SHARED";
+    else if (record.Kind != ObjectKind::None)
+      record.OwnerName = "SHARED";
+  }
+}
+
+// The chain takes short cuts from one step to the next.
+TEST(BandLayout, OfTheGeometryChainIsThatOfItsStepsOneByOne) {
+  for (std::uint32_t seed = 1; seed <= kRuns; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    Document whole = TemplateGenerator(seed).SaneDocument();
+    for (int row = 1; row <= whole.Objects.LastScanned(); row += 3)
+      if (whole.Objects[row].Kind != ObjectKind::None) whole.Objects[row].AbsoluteY += 700;
+    if (seed % 2 == 0) ShareNames(whole);
+    Document steps = whole;
+    const SortedRows sorted = DeriveGeometry(whole);
+    AssignObjects(steps);
+    const SortedRows expected = SetSortKeys(steps);
+    NormaliseSubsections(steps, expected);
+    ASSERT_EQ(sorted.Rows, expected.Rows);
+    for (int row = 1; row <= steps.Objects.LastScanned(); ++row)
+      ASSERT_EQ(whole.Objects[row], steps.Objects[row]) << row;
   }
 }
 

@@ -18,7 +18,7 @@ TEST(SortKeys, JoinPlaceAndRowAsThreeNumbersOfSixDigits) {
   Document document;
   const int row = PutBox(document, 1234, "5678");
   SetSortKeys(document);
-  EXPECT_EQ(document.Objects[row].SortKey, "201234205678200001");
+  EXPECT_EQ(document.Objects[row].SortKey.Text(), "201234205678200001");
 }
 
 TEST(SortKeys, HoldWholeTwips) {
@@ -26,8 +26,8 @@ TEST(SortKeys, HoldWholeTwips) {
   const int row = PutBox(document, -1, "0.5");
   const int second = PutBox(document, 0, "1.5");
   SetSortKeys(document);
-  EXPECT_EQ(document.Objects[row].SortKey, "199999200000200001");
-  EXPECT_EQ(document.Objects[second].SortKey, "200000200002200002");
+  EXPECT_EQ(document.Objects[row].SortKey.Text(), "199999200000200001");
+  EXPECT_EQ(document.Objects[second].SortKey.Text(), "200000200002200002");
 }
 
 TEST(SortKeys, EvaluateTheExpression) {
@@ -36,8 +36,8 @@ TEST(SortKeys, EvaluateTheExpression) {
   const int row = PutBox(document, 0, "$Col_01 + 100");
   const int dangling = PutBox(document, 0, "$Gone");
   SetSortKeys(document);
-  EXPECT_EQ(document.Objects[row].SortKey, "200000202500200001");
-  EXPECT_EQ(document.Objects[dangling].SortKey, "200000200000200002");
+  EXPECT_EQ(document.Objects[row].SortKey.Text(), "200000202500200001");
+  EXPECT_EQ(document.Objects[dangling].SortKey.Text(), "200000200000200002");
 }
 
 TEST(SortedRows, GoFromTopToBottomThenFromLeftToRightThenByRow) {
@@ -54,7 +54,7 @@ TEST(SortedRows, PutAnEndBarBehindAllThatStandsAtItsOwnY) {
   const auto bar = PutSubsection(document, "[ITEMS]", 0, 600);
   const int box = PutBox(document, 1000, "90000");
   EXPECT_THAT(SetSortKeys(document).Rows, ElementsAre(bar.bar, box, bar.end));
-  EXPECT_EQ(document.Objects[bar.end].SortKey, "201000999999200002");
+  EXPECT_EQ(document.Objects[bar.end].SortKey.Text(), "201000999999200002");
 }
 
 // In text the first would come last: -200001 makes a key that begins with "-1", 900000 one of seven digits.
@@ -65,7 +65,7 @@ TEST(SortedRows, FollowTheNumbersAlsoWhereTheKeyIsTooShort) {
   const int wide = PutBox(document, 0, "1000000");
   const int middle = PutBox(document, 0, "500000");
   EXPECT_THAT(SetSortKeys(document).Rows, ElementsAre(above, middle, wide, far));
-  EXPECT_LE(document.Objects[far].SortKey.size(), 18U);
+  EXPECT_LE(document.Objects[far].SortKey.Text().size(), 18U);
 }
 
 TEST(SortedRows, HoldEveryOccupiedRowOnceAlsoWhereKeysCollide) {
@@ -110,7 +110,7 @@ TEST(SortKeys, AreThoseOfTheirOwnPositionAmongAnyOthers) {
   for (int n = 0; n < kRows; ++n) {
     const int x = (n % 3 == 0 ? 2400 : 0) + n * 37 % 1000 + 1;
     const std::string key = "200000" + std::to_string(200000 + x) + std::to_string(200000 + n + 1);
-    EXPECT_EQ(document.Objects[n + 1].SortKey, key) << positionOf(n);
+    EXPECT_EQ(document.Objects[n + 1].SortKey.Text(), key) << positionOf(n);
   }
 }
 

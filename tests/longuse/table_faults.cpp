@@ -48,7 +48,7 @@ class Rules {
       if (Is(row, ObjectKind::EndOfSubsection)) ++ends;
       if (!Is(row, ObjectKind::Subsection)) continue;
       const int end = objects_[row].EndRow;
-      if (end == 0 && objects_[row].SectionTitle.starts_with("[CONFIGURATION]")) continue;
+      if (end == 0 && objects_[row].SectionTitle.Text().starts_with("[CONFIGURATION]")) continue;
       if (!Is(end, ObjectKind::EndOfSubsection))
         Fault("row ", row, " ends in row ", end, ", which is no end");
       if (!barsOfEnd.emplace(end, row).second) Fault("row ", end, " ends two subsections");
@@ -133,7 +133,7 @@ std::vector<ObjectRecord> RowsToCompare(const Document& document) {
   for (int row = 1; row <= document.Objects.LastScanned(); ++row) {
     rows.push_back(document.Objects[row]);
     rows.back().Selected = kFalse;
-    rows.back().SortKey.clear();
+    rows.back().SortKey = {};
     // Painting measures it, with what the code painted before left behind.
     if (rows.back().Kind == ObjectKind::Barcode) rows.back().Width = 0;
   }

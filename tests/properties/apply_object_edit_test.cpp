@@ -192,11 +192,11 @@ TEST_F(ApplyObjectEdit, CodesAreTakenFromTheItems) {
 TEST_F(ApplyObjectEdit, EmptyOptionalTextsAreNoValue) {
   Make(ObjectKind::Label);
   Type("Stretch Text", "  ");
-  EXPECT_EQ(Record().Stretch, std::nullopt);
+  EXPECT_FALSE(Record().Stretch);
   Make(ObjectKind::TextBox);
   Type({{"@Variable", ""}, {"Border style", ""}});
-  EXPECT_EQ(Record().CommandPayload, std::nullopt);
-  EXPECT_EQ(Record().TextBoxFrameValue, std::nullopt);
+  EXPECT_FALSE(Record().CommandPayload);
+  EXPECT_FALSE(Record().TextBoxFrameValue);
 }
 
 TEST_F(ApplyObjectEdit, BorderIsAWholeNumberOrNothing) {

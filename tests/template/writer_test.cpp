@@ -54,7 +54,7 @@ TEST(Writer, SavesTwiceTheSame) {
 TEST(Writer, LeavesSortKeysBehind) {
   ReadOutcome outcome = ReadLayout({"{Box=1,,2,3}"});
   WriteText(outcome.Read);
-  EXPECT_EQ(OnlyRow(outcome.Read, ObjectKind::Box).SortKey, "200400200001200002");
+  EXPECT_EQ(OnlyRow(outcome.Read, ObjectKind::Box).SortKey.Text(), "200400200001200002");
 }
 
 // ---- subsections

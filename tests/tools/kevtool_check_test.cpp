@@ -45,6 +45,21 @@ TEST_F(KevtoolCheck, PrintsFindingsAsCompilersDo) {
          "bad.kev:6:4: text is lost: lo\xC3\xA9t\n");
 }
 
+// Several are under work at a time.
+TEST_F(KevtoolCheck, TellsManyFilesInTheirOrder) {
+  std::vector<std::string> arguments = {"check"};
+  std::string output;
+  std::string errors;
+  for (int n = 0; n < 100; ++n) {
+    const std::string name = std::to_string(n) + (n % 7 == 3 ? "no.kev" : "good.kev");
+    Make(name, n % 7 == 3 ? "x" : kClean);
+    arguments.push_back(name);
+    output += name + (n % 7 == 3 ? ": 00003\n" : ": 11113\n");
+    if (n % 7 == 3) errors += name + ": no template: it has no [HEADER], [DATA] or [FOOTER] line\n";
+  }
+  Expect(arguments, 1, output, errors);
+}
+
 TEST_F(KevtoolCheck, PrintsAJsonObjectOnALineForEachFile) {
   Make("bad.kev", kBad);
   Make("good.kev", kClean);

@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <future>
 #include <iostream>
 #include <nlohmann/json.hpp>
+#include <queue>
+#include <span>
+#include <sstream>
+#include <thread>
 
 #include "app/template_findings.h"
 #include "base/files.h"
@@ -37,10 +43,10 @@ std::vector<Finding> FindingsOf(const std::string& file, Opened& opened, bool st
 }
 
 // As compilers write it, so that editors find the place. What belongs to no line has no numbers.
-void Print(const std::string& file, const Finding& finding, const CodePage& page) {
-  std::cout << file << ':';
-  if (finding.Line != 0) std::cout << finding.Line << ':' << finding.Column << ':';
-  std::cout << ' ' << FindingText(finding.Kind) << ": " << page.ToUtf8(finding.Text) << '\n';
+void Print(std::ostream& out, const std::string& file, const Finding& finding, const CodePage& page) {
+  out << file << ':';
+  if (finding.Line != 0) out << finding.Line << ':' << finding.Column << ':';
+  out << ' ' << FindingText(finding.Kind) << ": " << page.ToUtf8(finding.Text) << '\n';
 }
 
 Json ToJson(const Finding& finding, const Document& document) {
@@ -54,7 +60,8 @@ Json ToJson(const Finding& finding, const Document& document) {
           {"object", object}};
 }
 
-void PrintJson(const std::string& file, const Opened& opened, const std::vector<Finding>& findings) {
+void PrintJson(std::ostream& out, const std::string& file, const Opened& opened,
+               const std::vector<Finding>& findings) {
   Json list = Json::array();
   for (const Finding& finding : findings)
     list.push_back(ToJson(finding, opened.Outcome->Read));
@@ -63,30 +70,67 @@ void PrintJson(const std::string& file, const Opened& opened, const std::vector<
                      {"refused", opened.Outcome ? Json(nullptr) : Json(opened.Refused)},
                      {"findings", list}};
   // The name of a file may be no UTF-8.
-  std::cout << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+  out << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
-bool CheckFile(const std::string& file, const CheckChoice& choice, KnownFolders& known) {
-  Opened opened = Open(file, known);
+// What there is to say about a file.
+struct Told {
+  std::string results;
+  std::string reasons;
+  bool good = true;
+};
+
+Told CheckFile(const std::string& file, const CheckChoice& choice, KnownFolders& known) {
+  std::ostringstream out;
+  std::ostringstream errors;
+  Opened opened = Open(file, known, errors);
   std::vector<Finding> findings;
   if (opened.Outcome) findings = FindingsOf(file, opened, choice.strict);
   if (choice.json) {
-    PrintJson(file, opened, findings);
+    PrintJson(out, file, opened, findings);
   } else {
-    if (!opened.Check.empty()) std::cout << file << ": " << opened.Check << '\n';
+    if (!opened.Check.empty()) out << file << ": " << opened.Check << '\n';
     for (const Finding& finding : findings)
-      Print(file, finding, *opened.Outcome->Read.Page);
+      Print(out, file, finding, *opened.Outcome->Read.Page);
   }
-  return opened.Outcome && findings.empty();
+  return {out.str(), errors.str(), opened.Outcome && findings.empty()};
+}
+
+std::vector<Told> CheckFiles(std::span<const std::string> files, const CheckChoice& choice,
+                             KnownFolders& known) {
+  std::vector<Told> told;
+  for (const std::string& file : files)
+    told.push_back(CheckFile(file, choice, known));
+  return told;
 }
 
 }  // namespace
 
 int Check(const CheckChoice& choice) {
-  bool good = true;
+  // A folder of templates is checked on all processors, some files at a time, and told in its order.
+  constexpr std::size_t kFilesOfATask = 8;
+  const std::span<const std::string> files = choice.files;
+  const auto policy =
+      files.size() > kFilesOfATask ? std::launch::async | std::launch::deferred : std::launch::deferred;
+  const std::size_t mostTasks = std::thread::hardware_concurrency() + 1;
   KnownFolders known;
-  for (const std::string& file : choice.files)
-    good = CheckFile(file, choice, known) && good;
+  std::queue<std::future<std::vector<Told>>> tasks;
+  bool good = true;
+  const auto tellFirst = [&] {
+    for (const Told& told : tasks.front().get()) {
+      std::cerr << told.reasons;
+      std::cout << told.results;
+      good = told.good && good;
+    }
+    tasks.pop();
+  };
+  for (std::size_t at = 0; at < files.size(); at += kFilesOfATask) {
+    const auto part = files.subspan(at, std::min(kFilesOfATask, files.size() - at));
+    tasks.push(std::async(policy, CheckFiles, part, std::cref(choice), std::ref(known)));
+    if (tasks.size() >= mostTasks) tellFirst();
+  }
+  while (!tasks.empty())
+    tellFirst();
   return good ? kGood : kRefused;
 }
 

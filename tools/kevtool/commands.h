@@ -3,6 +3,7 @@
 // findings, 2 wrong usage. Results go to standard output, reasons to standard error.
 #pragma once
 
+#include <iostream>
 #include <optional>
 #include <string>
 #include <vector>
@@ -70,7 +71,7 @@ struct Opened {
 // Reads a template as the designer opens one: what it refuses is refused here too.
 Opened Open(const std::string& file);
 // One of many, whose pictures may lie in folders that are known already.
-Opened Open(const std::string& file, KnownFolders& known);
+Opened Open(const std::string& file, KnownFolders& known, std::ostream& errors);
 // Names the bar codes that could not be painted to their end, on standard error.
 void TellStopped(const std::string& file, const Document& document, const BarcodeState& bars);
 

@@ -20,7 +20,7 @@ std::string Shown(const std::string& text, const CodePage& page) {
 
 std::string_view WordsOf(const ObjectRecord& record) {
   if (record.Kind == ObjectKind::Subsection) return record.SectionTitle;
-  return record.Kind == ObjectKind::Picture ? record.PicturePath : record.Content;
+  return record.Kind == ObjectKind::Picture ? record.PicturePath.Text() : record.Content;
 }
 
 // The name of the subsection that holds the object; a section itself is named by its bracketed word.

@@ -22,13 +22,17 @@ class FieldToJson {
  public:
   FieldToJson(const ObjectRecord& record, const CodePage& page) : record_(record), page_(page) {}
 
-  Json operator()(std::string ObjectRecord::*member) const { return page_.ToUtf8(record_.*member); }
+  template <std::convertible_to<std::string_view> Text>
+  Json operator()(Text ObjectRecord::*member) const {
+    return page_.ToUtf8(record_.*member);
+  }
+  Json operator()(OrderKey ObjectRecord::*member) const { return (record_.*member).Text(); }
   Json operator()(ObjectKind ObjectRecord::*member) const { return KindText(record_.*member); }
-  Json operator()(std::optional<std::string> ObjectRecord::*member) const {
+  Json operator()(RareOptional<std::string> ObjectRecord::*member) const {
     const auto& value = record_.*member;
     return value ? Json(page_.ToUtf8(*value)) : Json(nullptr);
   }
-  Json operator()(std::optional<double> ObjectRecord::*member) const {
+  Json operator()(RareOptional<double> ObjectRecord::*member) const {
     const auto& value = record_.*member;
     if (!value) return nullptr;
     return NumberToJson(*value);

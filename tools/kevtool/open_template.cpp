@@ -28,13 +28,13 @@ std::string_view RefusalReason(Refusal refusal) {
 
 Opened Open(const std::string& file) {
   KnownFolders known;
-  return Open(file, known);
+  return Open(file, known, std::cerr);
 }
 
-Opened Open(const std::string& file, KnownFolders& known) {
+Opened Open(const std::string& file, KnownFolders& known, std::ostream& errors) {
   Opened opened;
   const auto refuse = [&](std::string_view reason) {
-    std::cerr << file << ": " << reason << '\n';
+    errors << file << ": " << reason << '\n';
     opened.Refused = reason;
   };
   Result<std::string> bytes = ReadPlainTemplate(file);
