@@ -113,9 +113,9 @@ TEST(DirectivesForObjects, LeaveAStretchToTheNextLabel) {
   const auto labels = RowsOfKind(outcome.Read, ObjectKind::Label);
   ASSERT_EQ(labels.size(), 2U);
   EXPECT_EQ(labels[0]->Stretch, "5");
-  EXPECT_EQ(labels[1]->Stretch, std::nullopt);
+  EXPECT_FALSE(labels[1]->Stretch);
   for (const ObjectKind kind : {ObjectKind::Box, ObjectKind::Picture, ObjectKind::Barcode})
-    EXPECT_EQ(OnlyRow(outcome.Read, kind).Stretch, std::nullopt) << KindText(kind);
+    EXPECT_FALSE(OnlyRow(outcome.Read, kind).Stretch) << KindText(kind);
 }
 
 TEST(DirectivesForObjects, ReturnTheValueTypeToGeneralBehindEachObject) {
