@@ -34,12 +34,12 @@ void CloseStreams() {
 }
 
 TEST(PrepareProcess, KeepsFilesFromTheNumbersOfClosedStreams) {
-  EXPECT_EQ(InChild([] {
+  EXPECT_GT(InChild([] {
               CloseStreams();
               PrepareProcess();
               return ::open("/dev/null", O_RDONLY);
             }),
-            3);
+            STDERR_FILENO);
 }
 
 TEST(PrepareProcess, LetsOutputWithoutAPlaceFailAndMessagesBeLost) {
