@@ -16,7 +16,7 @@ using fuzz::Scratch;
 void ReadUserSettings(std::string_view bytes) {
   const UserSettings settings = LoadUserSettings(Scratch().Made("KEV.INI", bytes));
   Require(LookupPaper(settings.DefaultPaperSize).has_value());
-  Require(settings.Page != nullptr && !settings.DefaultEditor.empty() && settings.Unknown.size() <= 2);
+  Require(settings.Page != nullptr && !settings.DefaultEditor.empty() && settings.Unknown.size() <= 3);
 }
 
 void ReadTheme(std::string_view bytes) {
